@@ -1,0 +1,27 @@
+# What every target of the project is built with.
+function(velquin_target target)
+  target_compile_options(${target} PRIVATE
+    $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion>
+    $<$<CXX_COMPILER_ID:MSVC>:/W4>)
+  if(VELQUIN_WARNINGS_AS_ERRORS)
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-Werror> $<$<CXX_COMPILER_ID:MSVC>:/WX>)
+  endif()
+  if(VELQUIN_SANITIZE)
+    target_compile_options(${target} PRIVATE
+      -fsanitize=${VELQUIN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${VELQUIN_SANITIZE})
+  endif()
+  if(VELQUIN_COVERAGE)
+    target_compile_options(${target} PRIVATE --coverage)
+    target_link_options(${target} PRIVATE --coverage)
+  endif()
+endfunction()
+
+# A shared library leaves no symbol open: a Windows DLL could not. The sanitizers' runtimes come with the program.
+function(velquin_shared_library target)
+  velquin_target(${target})
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  if(UNIX AND NOT APPLE AND NOT VELQUIN_SANITIZE)
+    target_link_options(${target} PRIVATE -Wl,-z,defs)
+  endif()
+endfunction()
