@@ -1,0 +1,91 @@
+#include <velquin/Finding.h>
+
+#include <new>
+#include <utility>
+
+namespace Velquin {
+
+namespace {
+
+thread_local const FindingPlace* t_pPlace = nullptr;
+thread_local FindingWatch* t_pWatch = nullptr;
+
+std::string describeCurrentException( const char* in_szOperation ) {
+    try {
+        throw;
+    } catch ( const std::bad_alloc& ) {
+        return std::string( "out of memory in " ) + in_szOperation;
+    } catch ( const std::exception& exception ) {
+        return std::string( in_szOperation ) + " failed: " + exception.what();
+    } catch ( ... ) {
+        return std::string( in_szOperation ) + " failed";
+    }
+}
+
+} // namespace
+
+FindingPlace::FindingPlace() noexcept : m_pOuter( std::exchange( t_pPlace, this ) ) {}
+
+FindingPlace::~FindingPlace() {
+    t_pPlace = m_pOuter;
+}
+
+const FindingPlace* FindingPlace::getCurrent() noexcept {
+    return t_pPlace;
+}
+
+FindingWatch::FindingWatch( Callback in_callback )
+    : m_callback( std::move( in_callback ) ), m_pOuter( std::exchange( t_pWatch, this ) ) {}
+
+FindingWatch::~FindingWatch() {
+    t_pWatch = m_pOuter;
+}
+
+void reportFinding( const Logger& in_logger, Finding in_finding, const char* in_szFile, int in_nLine ) noexcept {
+    in_logger.log( in_finding.nLevel, in_finding.strText, in_szFile, in_nLine );
+    FindingWatch* const pWatch = t_pWatch;
+    if ( !pWatch )
+        return;
+    const FindingPlace* const pPlace = t_pPlace;
+    try {
+        in_finding.strLogger = in_logger.getName();
+        if ( pPlace &&
+             ( in_finding.strFile.empty() || in_finding.ullLine == 0 || in_finding.strElementPath.empty() ) ) {
+            // What a place reports itself isn't located, or it would be asked without end.
+            t_pPlace = nullptr;
+            pPlace->locate( in_finding );
+        }
+    } catch ( ... ) {
+        // A finding is told even when it isn't known where it was made.
+    }
+    t_pPlace = pPlace;
+    // What the callback reports goes to the next watch, or the callback would call itself without end.
+    t_pWatch = pWatch->m_pOuter;
+    try {
+        pWatch->m_callback( in_finding );
+    } catch ( ... ) {
+        // The watching program's troubles are not those of the operation that it watches.
+    }
+    t_pWatch = pWatch;
+}
+
+void reportFinding( const Logger& in_logger, int in_nLevel, std::string in_strText, const char* in_szFile,
+                    int in_nLine ) noexcept {
+    Finding finding;
+    finding.nLevel = in_nLevel;
+    finding.strText = std::move( in_strText );
+    reportFinding( in_logger, std::move( finding ), in_szFile, in_nLine );
+}
+
+void reportCurrentException( const Logger& in_logger, const char* in_szOperation, const char* in_szFile,
+                             int in_nLine ) noexcept {
+    std::string strText;
+    try {
+        strText = describeCurrentException( in_szOperation );
+    } catch ( ... ) {
+        strText = "out of memory"; // short enough to need none
+    }
+    reportFinding( in_logger, Logger::ERROR_LEVEL, std::move( strText ), in_szFile, in_nLine );
+}
+
+} // namespace Velquin

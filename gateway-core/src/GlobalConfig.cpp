@@ -1,0 +1,94 @@
+#include <velquin/GlobalConfig.h>
+
+#include <filesystem>
+#include <fstream>
+#include <mutex>
+#include <system_error>
+
+#include <log4cplus/fstreams.h>
+#include <log4cplus/helpers/property.h>
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+
+namespace Velquin {
+
+namespace {
+
+class GlobalConfigLog {
+    VELQUIN_LOGGER();
+};
+
+VELQUIN_LOGGER_IMPL( GlobalConfigLog, "marovane.core.GlobalConfig" );
+
+bool refuseFile( const char* in_szPath, const std::string& in_strReason ) {
+    Finding finding;
+    finding.strFile = in_szPath;
+    finding.strText = "Parameter file " + finding.strFile + " can't be read: " + in_strReason;
+    reportFinding( GlobalConfigLog::getLogger(), std::move( finding ), __FILE__, __LINE__ );
+    return false;
+}
+
+} // namespace
+
+GlobalConfig& GlobalConfig::getInstance() {
+    // Never destroyed: static objects may ask for parameters to the end.
+    static GlobalConfig& s_instance = *new GlobalConfig();
+    return s_instance;
+}
+
+bool GlobalConfig::getString( const char* in_szName, std::string& out_strValue ) const try {
+    if ( !VELQUIN_ASSERT( in_szName ) )
+        return false;
+    const std::shared_lock lock( m_mutex );
+    const auto it = m_mapValues.find( in_szName );
+    if ( it == m_mapValues.end() )
+        return false;
+    out_strValue = it->second;
+    return true;
+}
+VELQUIN_CATCH_AND_RETURN( GlobalConfigLog::getLogger(), false )
+
+void GlobalConfig::setString( const char* in_szName, const char* in_szValue ) {
+    if ( !VELQUIN_ASSERT( in_szName ) || !VELQUIN_ASSERT( in_szValue ) )
+        return;
+    std::string strName( in_szName );
+    std::string strValue( in_szValue );
+    const std::unique_lock lock( m_mutex );
+    m_mapValues.insert_or_assign( std::move( strName ), std::move( strValue ) );
+}
+
+void GlobalConfig::remove( const char* in_szName ) {
+    if ( !VELQUIN_ASSERT( in_szName ) )
+        return;
+    const std::unique_lock lock( m_mutex );
+    if ( const auto it = m_mapValues.find( in_szName ); it != m_mapValues.end() )
+        m_mapValues.erase( it );
+}
+
+bool GlobalConfig::loadFile( const char* in_szPath ) try {
+    if ( !VELQUIN_ASSERT( in_szPath ) )
+        return false;
+    // Properties takes whatever can't be read for an empty file.
+    std::error_code error;
+    if ( !std::filesystem::is_regular_file( in_szPath, error ) )
+        return refuseFile( in_szPath, error ? error.message() : "it is not a file" );
+    log4cplus::tifstream file( in_szPath, std::ios::binary );
+    if ( !file )
+        return refuseFile( in_szPath, "it can't be opened" );
+    const log4cplus::helpers::Properties properties( file );
+    if ( file.bad() )
+        return refuseFile( in_szPath, "reading failed" );
+
+    decltype( m_mapValues ) mapValues;
+    for ( const log4cplus::tstring& strName : properties.propertyNames() )
+        mapValues.emplace( LOG4CPLUS_TSTRING_TO_STRING( strName ),
+                           LOG4CPLUS_TSTRING_TO_STRING( properties.getProperty( strName ) ) );
+    const std::unique_lock lock( m_mutex );
+    mapValues.merge( m_mapValues );
+    m_mapValues.swap( mapValues );
+    return true;
+}
+VELQUIN_CATCH_AND_RETURN( GlobalConfigLog::getLogger(), false )
+
+} // namespace Velquin

@@ -1,0 +1,7 @@
+#include <velquin/Object.h>
+
+namespace Velquin {
+
+Object::~Object() = default;
+
+} // namespace Velquin

@@ -1,0 +1,82 @@
+#include <latch>
+#include <numeric>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <velquin/LimitedObjPtr.h>
+#include <velquin/Object.h>
+#include <velquin/TSHandle.h>
+#include <velquin/UniqueObjPtr.h>
+
+namespace Velquin::Test {
+namespace {
+
+int s_nAlive = 0;
+
+struct Thing : virtual Object {
+    Thing() { ++s_nAlive; }
+    ~Thing() override { --s_nAlive; }
+};
+struct SpecialThing : Thing {};
+
+TEST( TSHandle, TheLastHandleDeletes ) {
+    TSHandle<SpecialThing> hSpecial( new SpecialThing() );
+    const LimitedObjPtr<const Thing> pThing( hSpecial.get() );
+    TSHandle<Object> hBase( hSpecial );
+    TSHandle<SpecialThing> hMoved( std::move( hSpecial ) );
+    EXPECT_TRUE( hSpecial.isNull() ); // NOLINT(bugprone-use-after-move): what a move leaves is promised
+    const TSHandle<SpecialThing>& hSame = hMoved;
+    hMoved = hSame;
+    hMoved = nullptr;
+    EXPECT_EQ( dynamicHandleCast<SpecialThing>( hBase ).get(), pThing.get() );
+    hSpecial = dynamicHandleCast<SpecialThing>( hBase );
+    hBase = TSHandle<Object>( new Thing() );
+    EXPECT_EQ( s_nAlive, 2 );
+    hSpecial = dynamicHandleCast<SpecialThing>( hBase );
+    EXPECT_TRUE( hSpecial.isNull() );
+    EXPECT_EQ( s_nAlive, 1 );
+    hBase = nullptr;
+    EXPECT_EQ( s_nAlive, 0 );
+}
+
+TEST( TSHandle, ThreadsShareOneObject ) {
+    constexpr unsigned int THREADS = 8;
+    constexpr unsigned int ROUNDS = 2000;
+    // Written by each thread without a lock and read by the one that deletes: a release that isn't ordered is a race.
+    struct Shared {
+        ~Shared() { uSum += std::accumulate( aRounds, aRounds + THREADS, 0u ); }
+        unsigned int& uSum;
+        unsigned int aRounds[THREADS] = {};
+    };
+    unsigned int uSum = 0;
+    {
+        TSHandle<Shared> hShared( new Shared{ uSum } );
+        std::latch allReady( THREADS );
+        std::vector<std::jthread> vecThreads;
+        for ( unsigned int u = 0; u < THREADS; ++u ) {
+            vecThreads.emplace_back( [u, &allReady, hOwn = hShared] {
+                allReady.arrive_and_wait();
+                for ( unsigned int uRound = 0; uRound < ROUNDS; ++uRound ) {
+                    const TSHandle<Shared> hCopy( hOwn );
+                    const TSHandle<const Shared> hOther( hCopy );
+                    ++hCopy->aRounds[u];
+                }
+            } );
+        }
+        hShared = nullptr;
+    }
+    EXPECT_EQ( uSum, THREADS * ROUNDS );
+}
+
+TEST( UniqueObjPtr, DeletesUnlessReleased ) {
+    UniqueObjPtr<Thing> pThing = dynamicOwnerCast<Thing>( UniqueObjPtr<Object>( new Thing() ) );
+    EXPECT_FALSE( pThing.isNull() );
+    EXPECT_EQ( s_nAlive, 1 );
+    EXPECT_TRUE( dynamicOwnerCast<SpecialThing>( std::move( pThing ) ).isNull() );
+    EXPECT_EQ( s_nAlive, 0 );
+}
+
+} // namespace
+} // namespace Velquin::Test

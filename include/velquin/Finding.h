@@ -1,0 +1,110 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <sstream>
+#include <string>
+
+#include <velquin/Export.h>
+#include <velquin/Logger.h>
+
+namespace Velquin {
+
+/// What an operation found wrong in what it was given: a record, of which the log line is one rendering.
+struct Finding {
+    /// What the finding is about; decides which of the fields below are filled.
+    enum class Kind {
+        OTHER,             ///< told by the text alone
+        MISSING_ATTRIBUTE, ///< strAttribute is required and absent
+        MISSING_ELEMENT,   ///< strAttribute names a required child element that is absent
+        INVALID_VALUE,     ///< strValue, as written, is refused for strAttribute
+        UNREADABLE_FILE,   ///< strFile can't be read at all
+    };
+
+    Kind eKind = Kind::OTHER;
+    int nLevel = Logger::ERROR_LEVEL; ///< Logger::WARNING_LEVEL or Logger::ERROR_LEVEL
+    std::string strLogger;            ///< name of the logger that has the line
+    std::string strFile;              ///< the file as it was named to the load; empty when no file is concerned
+    unsigned long long ullLine = 0;   ///< line in the file, from 1; 0 when unknown
+    std::string strElementPath;       ///< XPath of the element; empty when no element is concerned
+    std::string strAttribute;         ///< attribute or child element concerned; see Kind
+    std::string strValue;             ///< its value as written
+    std::string strHint;              ///< what would be right; often empty
+    std::string strMessage;           ///< the text without file and line; empty where the text has neither
+    std::string strText;              ///< the whole log line
+};
+
+/// Where in its input an operation is, for the findings that the operations below it report without knowing of any
+/// input. Places stand on the stack of one thread, the innermost one is asked. A place counts from the moment when its
+/// base is made: what reports findings is done after that, not in the initialisers of a derived class.
+class VELQUIN_CORE_EXPORT FindingPlace {
+public:
+    FindingPlace() noexcept;
+    FindingPlace( const FindingPlace& ) = delete;
+    FindingPlace& operator=( const FindingPlace& ) = delete;
+
+    /// Fills file, line and element path, those that are still empty.
+    virtual void locate( Finding& inout_finding ) const = 0;
+
+    /// The innermost place of this thread, null when there is none.
+    static const FindingPlace* getCurrent() noexcept;
+
+protected:
+    ~FindingPlace();
+
+private:
+    const FindingPlace* m_pOuter;
+};
+
+/// Lets a program watch the findings of what it calls on this thread, for as long as the watch lives. The log is
+/// written either way. Watches nest; the innermost one hears. What the callback throws is dropped; what it reports
+/// itself goes to the next watch outside.
+class VELQUIN_CORE_EXPORT FindingWatch {
+public:
+    using Callback = std::function<void( const Finding& )>;
+
+    explicit FindingWatch( Callback in_callback );
+    FindingWatch( const FindingWatch& ) = delete;
+    FindingWatch& operator=( const FindingWatch& ) = delete;
+    ~FindingWatch();
+
+private:
+    friend VELQUIN_CORE_EXPORT void reportFinding( const Logger&, Finding, const char*, int ) noexcept;
+
+    Callback m_callback;
+    FindingWatch* m_pOuter;
+};
+
+/// Logs the finding's text at its level and tells the watch of this thread. Logger name and, from the innermost place,
+/// what is still unknown of file, line and element are filled in.
+VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, Finding in_finding, const char* in_szFile,
+                                        int in_nLine ) noexcept;
+
+/// The same for a finding that is told by its text alone.
+VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, int in_nLevel, std::string in_strText,
+                                        const char* in_szFile, int in_nLine ) noexcept;
+
+/// To be called in a catch block: reports a finding at ERROR that tells that the operation failed and why ("out of
+/// memory in load").
+VELQUIN_CORE_EXPORT void reportCurrentException( const Logger& in_logger, const char* in_szOperation,
+                                                 const char* in_szFile, int in_nLine ) noexcept;
+
+} // namespace Velquin
+
+/// Reports the streamed text as a finding.
+#define VELQUIN_REPORT( logger, nLevel, streamed )                                                                     \
+    do {                                                                                                               \
+        std::ostringstream reportText_;                                                                                \
+        reportText_ << streamed; /* NOLINT(bugprone-macro-parentheses): a chain of << */                               \
+        ::Velquin::reportFinding( ( logger ), ( nLevel ), reportText_.str(), __FILE__, __LINE__ );                     \
+    } while ( false )
+#define VELQUIN_REPORT_ERROR( logger, streamed ) VELQUIN_REPORT( logger, ::Velquin::Logger::ERROR_LEVEL, streamed )
+#define VELQUIN_REPORT_WARNING( logger, streamed ) VELQUIN_REPORT( logger, ::Velquin::Logger::WARNING_LEVEL, streamed )
+
+/// Ends the function-try-block of an exported operation, which lets no exception out: the exception becomes an ERROR
+/// line and the operation yields `result`.
+#define VELQUIN_CATCH_AND_RETURN( logger, result )                                                                     \
+    catch ( ... ) {                                                                                                    \
+        ::Velquin::reportCurrentException( ( logger ), __func__, __FILE__, __LINE__ );                                 \
+        return result;                                                                                                 \
+    }

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <new>
+#include <sstream>
+#include <string>
+
+#include <velquin/Export.h>
+
+namespace Velquin {
+
+/// One named logger of the gateway. A thin front of the log4cplus logger of the same name; the program configures
+/// log4cplus (appenders, levels) and shuts it down.
+///
+/// A logger is made once, at its first use, and lives until the process ends (see VELQUIN_LOGGER_IMPL). While there is
+/// no memory to get the log4cplus logger, nothing is enabled; the next use tries again.
+/// All operations may be called from any thread.
+class VELQUIN_CORE_EXPORT Logger {
+public:
+    // The numeric levels are log4cplus's own.
+    static constexpr int TRACE_LEVEL = 0;
+    static constexpr int DEBUG_LEVEL = 10000;
+    static constexpr int INFO_LEVEL = 20000;
+    static constexpr int WARNING_LEVEL = 30000;
+    static constexpr int ERROR_LEVEL = 40000;
+
+    /// @param in_szName the logger's full name, for instance "marovane.pstn.config.XmlConfig"; outlives the logger
+    explicit Logger( const char* in_szName ) noexcept : m_szName( in_szName ) {}
+    Logger( const Logger& ) = delete;
+    Logger& operator=( const Logger& ) = delete;
+    ~Logger();
+
+    const char* getName() const noexcept { return m_szName; }
+    /// The level in force: the logger's own or the nearest inherited one.
+    int getLogLevel() const noexcept;
+    bool isEnabledFor( int in_nLevel ) const noexcept;
+    /// Writes one record if the level is on. Never throws: a record that can't be written is dropped.
+    void log( int in_nLevel, const std::string& in_strMessage, const char* in_szFile, int in_nLine ) const noexcept;
+
+private:
+    struct Backend;
+
+    const Backend* getBackend() const noexcept;
+
+    const char* m_szName;
+    mutable std::atomic<Backend*> m_pBackend{ nullptr };
+};
+
+} // namespace Velquin
+
+/// Declares the logger of a class: `getLogger()`, made at first use.
+#define VELQUIN_LOGGER()                                                                                               \
+public:                                                                                                                \
+    static const ::Velquin::Logger& getLogger() noexcept;                                                              \
+                                                                                                                       \
+private:                                                                                                               \
+    static_assert( true )
+
+/// Defines the logger of a class. It is never destroyed, so that static objects may log to the end, and stands in
+/// static memory, so that the end of memory can still be reported through it.
+#define VELQUIN_LOGGER_IMPL( ClassName, szName )                                                                       \
+    const ::Velquin::Logger& ClassName::getLogger() noexcept {                                                         \
+        alignas( ::Velquin::Logger ) static std::byte roomOfClass_[sizeof( ::Velquin::Logger )];                       \
+        static const ::Velquin::Logger& loggerOfClass_ = *::new ( roomOfClass_ )::Velquin::Logger( szName );           \
+        return loggerOfClass_;                                                                                         \
+    }                                                                                                                  \
+    static_assert( true )
+
+/// Logs what is streamed in the last argument. Nothing is composed when the level is off.
+#define VELQUIN_LOG( logger, nLevel, streamed )                                                                        \
+    do {                                                                                                               \
+        const ::Velquin::Logger& logTarget_ = ( logger );                                                              \
+        if ( logTarget_.isEnabledFor( nLevel ) ) {                                                                     \
+            std::ostringstream logText_;                                                                               \
+            logText_ << streamed; /* NOLINT(bugprone-macro-parentheses): a chain of << */                              \
+            logTarget_.log( nLevel, logText_.str(), __FILE__, __LINE__ );                                              \
+        }                                                                                                              \
+    } while ( false )
+
+#define VELQUIN_LOG_DEBUG( logger, streamed ) VELQUIN_LOG( logger, ::Velquin::Logger::DEBUG_LEVEL, streamed )
+#define VELQUIN_LOG_INFO( logger, streamed ) VELQUIN_LOG( logger, ::Velquin::Logger::INFO_LEVEL, streamed )
