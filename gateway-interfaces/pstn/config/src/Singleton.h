@@ -1,0 +1,32 @@
+#pragma once
+
+#include <atomic>
+#include <mutex>
+
+#include "NamedMutex.h"
+
+namespace Velquin::Pstn {
+
+/// The one object of a class, made at first use under a named mutex and kept until the process ends. The class names
+/// its mutex in `SINGLETON_MUTEX` and befriends this one when its constructor is private.
+template <class T>
+class Singleton {
+public:
+    /// May be called from any thread.
+    static T& getInstance() {
+        static std::atomic<T*> s_pInstance{ nullptr };
+        T* pInstance = s_pInstance.load( std::memory_order_acquire );
+        if ( !pInstance ) {
+            static NamedMutex s_mutex( T::SINGLETON_MUTEX );
+            const std::lock_guard lock( s_mutex );
+            pInstance = s_pInstance.load( std::memory_order_relaxed );
+            if ( !pInstance ) {
+                pInstance = new T();
+                s_pInstance.store( pInstance, std::memory_order_release );
+            }
+        }
+        return *pInstance;
+    }
+};
+
+} // namespace Velquin::Pstn

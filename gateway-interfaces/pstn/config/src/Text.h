@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include <velquin/Logger.h>
+
+namespace Velquin::Pstn {
+
+/// Stores a zero-terminated text in a field of the model. Yields false, and leaves the field alone, when the text is
+/// null (an assertion) or memory ends (an ERROR line).
+bool assignText( std::string& out_strField, const char* in_szText, const Logger& in_logger ) noexcept;
+
+} // namespace Velquin::Pstn

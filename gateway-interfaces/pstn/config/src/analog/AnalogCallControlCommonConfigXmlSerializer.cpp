@@ -1,0 +1,49 @@
+#include "analog/AnalogCallControlCommonConfigXmlSerializer.h"
+
+#include <velquin/UniqueObjPtr.h>
+
+#include "xml/ElementReader.h"
+#include "xml/NotImplemented.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( AnalogCallControlCommonConfigXmlSerializer );
+
+namespace {
+
+constexpr ReaderWording WORDING{ "] for analog config  ", "] for analog config  " };
+
+} // namespace
+
+AnalogCallControlCommonConfig* AnalogCallControlCommonConfigXmlSerializer::read( TSHandle<CallControlConfig>&,
+                                                                                 xmlNode* const in_pElement,
+                                                                                 XmlConfig& ) try {
+    const ElementReader reader( in_pElement, getLogger(), WORDING );
+    UniqueObjPtr<AnalogCallControlCommonConfig> pCommonConfig( newAnalogCallControlCommonConfig() );
+    // The blank is part of the assertion's text.
+    // clang-format off
+    if ( !VELQUIN_ASSERT( ! pCommonConfig.isNull() ) )
+        return nullptr;
+    // clang-format on
+
+    unsigned int uId = 0;
+    if ( !reader.requireNumber( "ID", LEADING_DECIMAL, uId ) )
+        return nullptr;
+    pCommonConfig->setId( uId );
+
+    AttributeText displayName;
+    if ( !reader.requireText( "displayName", displayName ) || !pCommonConfig->setDisplayName( displayName.c_str() ) )
+        return nullptr;
+    return pCommonConfig.release();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool AnalogCallControlCommonConfigXmlSerializer::write( xmlNode* const, const AnalogCallControlCommonConfig& ) {
+    return assertNotImplemented( getLogger(), "AnalogCallControlCommonConfigXmlSerializer::write", __FILE__, __LINE__ );
+}
+
+AnalogCallControlCommonConfig* AnalogCallControlCommonConfigXmlSerializer::newAnalogCallControlCommonConfig() {
+    return nullptr;
+}
+
+} // namespace Velquin::Pstn

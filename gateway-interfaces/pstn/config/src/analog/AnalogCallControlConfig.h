@@ -1,0 +1,43 @@
+#pragma once
+
+#include <map>
+
+#include <velquin/Object.h>
+#include <velquin/TSHandle.h>
+
+#include "PstnConfigClass.h"
+#include "PstnConfigExport.h"
+#include "analog/AnalogFxoConfig.h"
+#include "analog/AnalogFxsConfig.h"
+
+namespace Velquin::Pstn {
+
+/// How calls run on the analog lines: owns the FXO and FXS configurations. A copy shares them. Adders take ownership of
+/// what they are given, also when they refuse it.
+class VELQUIN_PSTN_CONFIG_EXPORT AnalogCallControlConfig : public virtual Object {
+    PSTN_CONFIG_CLASS( AnalogCallControlConfig );
+
+public:
+    using FxoConfigs = std::map<unsigned int, TSHandle<AnalogFxoConfig>>;
+    using FxsConfigs = std::map<unsigned int, TSHandle<AnalogFxsConfig>>;
+
+    // Refuse a configuration whose number is taken among those of its kind, with an ERROR line, and null, with an
+    // assertion.
+    bool addFXOConfig( AnalogFxoConfig* in_pNewFxoConfig );
+    bool addFXSConfig( AnalogFxsConfig* in_pNewFxsConfig );
+
+    /// The configurations, ascending by number.
+    const FxoConfigs& getFxoConfigs() const noexcept { return m_mapFxoConfigs; }
+    const FxsConfigs& getFxsConfigs() const noexcept { return m_mapFxsConfigs; }
+
+    /// Whether an FXO or, failing that, an FXS configuration applies to the interface of that unique identifier, in its
+    /// long form. Asks one configuration after the other: a sweep over many interfaces better walks the interfaces of
+    /// each configuration.
+    bool hasAnalogCallControlConfig( const char* in_szInterfaceUniqueId ) const;
+
+private:
+    FxoConfigs m_mapFxoConfigs;
+    FxsConfigs m_mapFxsConfigs;
+};
+
+} // namespace Velquin::Pstn

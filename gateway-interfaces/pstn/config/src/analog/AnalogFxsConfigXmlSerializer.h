@@ -1,0 +1,36 @@
+#pragma once
+
+#include <velquin/LimitedObjPtr.h>
+
+#include "analog/AnalogCallControlCommonConfigXmlSerializer.h"
+#include "analog/AnalogFxsConfig.h"
+
+namespace Velquin::Pstn {
+
+class Config;
+
+/// Reads an `analogFxsConfig` element.
+class VELQUIN_PSTN_CONFIG_EXPORT AnalogFxsConfigXmlSerializer : public AnalogCallControlCommonConfigXmlSerializer {
+    PSTN_CONFIG_CLASS( AnalogFxsConfigXmlSerializer );
+
+public:
+    /// Reads one entry of `applyTo`.
+    class VELQUIN_PSTN_CONFIG_EXPORT InterfaceRefXmlSerializer : public virtual Object {
+        PSTN_CONFIG_CLASS( InterfaceRefXmlSerializer );
+
+    public:
+        /// Applies the configuration to the interfaces that the entry names, and makes each of them a channel of the
+        /// group that the entry names. False after an ERROR line; what came before the fault stays. The group's ranges
+        /// refer to the configuration without keeping it alive.
+        virtual bool read( const LimitedObjPtr<AnalogFxsConfig>& in_pFxsConfig,
+                           TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* const in_pElement,
+                           const Config& in_config );
+    };
+
+    AnalogCallControlCommonConfig* read( TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* const in_pElement,
+                                         XmlConfig& in_xmlConfig ) override;
+    bool write( xmlNode* const in_pParent, const AnalogCallControlCommonConfig& in_config ) override;
+    AnalogCallControlCommonConfig* newAnalogCallControlCommonConfig() override;
+};
+
+} // namespace Velquin::Pstn

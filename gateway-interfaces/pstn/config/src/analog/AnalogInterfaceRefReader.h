@@ -1,0 +1,121 @@
+#pragma once
+
+#include <velquin/LimitedObjPtr.h>
+#include <velquin/UniqueObjPtr.h>
+
+#include "callcontrol/BChannelRangeConfig.h"
+#include "callcontrol/CallControlConfig.h"
+#include "xml/ChildElements.h"
+#include "xml/ElementReader.h"
+#include "xml/InterfaceReference.h"
+
+namespace Velquin::Pstn {
+
+// How the entries of `applyTo` are read in FXO and FXS configurations. What differs is a traits type:
+//
+//     struct Family {
+//         using AnalogConfig = AnalogFxoConfig;               // or AnalogFxsConfig
+//         static constexpr const char* NAME;                  // in capitals
+//         static constexpr const char* RANGE_FAILURE;         // logged when setConfig fails
+//         static constexpr const ReaderWording& WORDING;
+//         static bool setConfig( BChannelRangeConfig&, const AnalogConfig& );
+//     };
+
+/// Makes an interface, which is one channel, a member of a channel group.
+/// @param in_szInterfaceFailure what is logged when the range doesn't take the interface
+template <class TFamily>
+bool addBChannelRange( const typename TFamily::AnalogConfig& in_analogConfig, const AnalogInterfaceConfig& in_interface,
+                       const char* in_szInterfaceFailure, ChannelGroupConfig& inout_channelGroup,
+                       const Logger& in_logger ) {
+    UniqueObjPtr<BChannelRangeConfig> pRange( new BChannelRangeConfig() );
+    pRange->setFirstChannel( 1 );
+    pRange->setLastChannel( 1 );
+    if ( !TFamily::setConfig( *pRange, in_analogConfig ) ) {
+        VELQUIN_REPORT_ERROR( in_logger, TFamily::RANGE_FAILURE );
+        return false;
+    }
+    if ( !pRange->setInterfaceConfig( LimitedObjPtr<const InterfaceConfig>( &in_interface ) ) ) {
+        VELQUIN_REPORT_ERROR( in_logger, in_szInterfaceFailure );
+        return false;
+    }
+    if ( !inout_channelGroup.addBChannelRangeConfig( pRange.release() ) ) {
+        VELQUIN_REPORT_ERROR( in_logger,
+                              "failed to add BChannel range to channel group ID= " << inout_channelGroup.getId() );
+        return false;
+    }
+    return true;
+}
+
+/// Applies a configuration to the interfaces that one entry names, and makes each a member of the channel group that
+/// the entry names. Interfaces and ranges that came before a fault stay; the load fails then.
+template <class TFamily>
+bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
+                             const TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* in_pEntry,
+                             const Config& in_config, const Logger& in_logger ) {
+    const ElementReader reader( in_pEntry, in_logger, TFamily::WORDING );
+    if ( !VELQUIN_ASSERT( !in_hCallControlConfig.isNull() ) )
+        return false;
+    InterfaceReference<AnalogKind> reference( reader, in_logger, LEADING_DECIMAL );
+    if ( !reference.readBoard( in_config ) )
+        return false;
+    AttributeText channelGroupId;
+    if ( !reader.requireText( "channelGroupID", channelGroupId ) )
+        return false;
+    const TSHandle<ChannelGroupConfig> hChannelGroup =
+        in_hCallControlConfig->getChannelGroupConfig( channelGroupId.c_str() );
+    if ( hChannelGroup.isNull() )
+        return false;
+
+    const char* szInterfaceFailure = nullptr;
+    switch ( reference.readInterface( false ) ) {
+    case ReadResult::WRONG:
+        return false;
+    case ReadResult::ABSENT:
+        if ( !reference.takeAllInterfaces( "failed to retrieve digital interfaces of board ID=" ) )
+            return false;
+        if ( !inout_analogConfig.addApplyToAnalogInterfaceVector( reference.getInterfaces() ) ) {
+            VELQUIN_REPORT_ERROR( in_logger, "failed to add interfaces from board ID = "
+                                                 << reference.getBoard()->getId() << "to Fas config "
+                                                 << inout_analogConfig.getId() );
+            return false;
+        }
+        szInterfaceFailure = "failed to set interface for BChannelRange";
+        break;
+    case ReadResult::READ: {
+        const TSHandle<AnalogInterfaceConfig>& hInterface = reference.getInterfaces().front();
+        if ( !inout_analogConfig.addApplyToAnalogInterface( hInterface ) ) {
+            VELQUIN_REPORT_ERROR( in_logger, "failed to add interface " << hInterface->getUniqueId( false ) << " to "
+                                                                        << TFamily::NAME << " config "
+                                                                        << inout_analogConfig.getId() );
+            return false;
+        }
+        szInterfaceFailure = "failed to set analog call control config for BChannelRange";
+        break;
+    }
+    }
+    for ( const auto& hInterface : reference.getInterfaces() ) {
+        if ( !addBChannelRange<TFamily>( inout_analogConfig, *hInterface, szInterfaceFailure, *hChannelGroup,
+                                         in_logger ) )
+            return false;
+    }
+    return true;
+}
+
+/// Hands each entry of the required child `applyTo`, whatever its name, to the reader of entries; the first that fails
+/// ends it.
+template <class TInterfaceRefXmlSerializer, class TAnalogConfig>
+bool applyToAnalogInterfaces( const AttributeReader& in_reader, TAnalogConfig& inout_analogConfig,
+                              TSHandle<CallControlConfig>& in_hCallControlConfig, const Config& in_config ) {
+    xmlNode* const pApplyTo = in_reader.requireChild( "applyTo" );
+    if ( !pApplyTo )
+        return false;
+    TInterfaceRefXmlSerializer interfaceRefXmlSerializer;
+    for ( xmlNode* const pEntry : ChildElements( pApplyTo ) ) {
+        if ( !interfaceRefXmlSerializer.read( LimitedObjPtr<TAnalogConfig>( &inout_analogConfig ),
+                                              in_hCallControlConfig, pEntry, in_config ) )
+            return false;
+    }
+    return true;
+}
+
+} // namespace Velquin::Pstn

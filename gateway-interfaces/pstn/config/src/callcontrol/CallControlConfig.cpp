@@ -1,0 +1,52 @@
+#include "callcontrol/CallControlConfig.h"
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( CallControlConfig );
+
+bool CallControlConfig::addChannelGroupConfig( ChannelGroupConfig* in_pNewChannelGroupConfig ) try {
+    const TSHandle<ChannelGroupConfig> hNewChannelGroupConfig( in_pNewChannelGroupConfig );
+    if ( !VELQUIN_ASSERT( in_pNewChannelGroupConfig ) )
+        return false;
+    VELQUIN_LOG_DEBUG( getLogger(), "adding new channel group: " << hNewChannelGroupConfig->getId() );
+    if ( m_mapChannelGroups.try_emplace( hNewChannelGroupConfig->getId(), hNewChannelGroupConfig ).second )
+        return true;
+    VELQUIN_REPORT_ERROR( getLogger(), "failed to all new channel group: " << hNewChannelGroupConfig->getId() );
+    return false;
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+TSHandle<ChannelGroupConfig> CallControlConfig::getChannelGroupConfig( const char* in_szId ) const try {
+    if ( !VELQUIN_ASSERT( in_szId != nullptr ) )
+        return {};
+    VELQUIN_LOG_DEBUG( getLogger(), "getting channel group: " << in_szId );
+    const auto it = m_mapChannelGroups.find( in_szId );
+    if ( it != m_mapChannelGroups.end() )
+        return it->second;
+    VELQUIN_REPORT_ERROR( getLogger(), "failed to get channel group: " << in_szId );
+    return {};
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), {} )
+
+bool CallControlConfig::setIsdnConfig( IsdnConfig* in_pIsdnConfig ) try {
+    const TSHandle<IsdnConfig> pIsdnConfig( in_pIsdnConfig );
+    if ( !VELQUIN_ASSERT( !pIsdnConfig.isNull() ) )
+        return false;
+    m_hIsdnConfig = pIsdnConfig;
+    return true;
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+bool CallControlConfig::setAnalogConfig( AnalogCallControlConfig* in_pAnalogConfig ) try {
+    const TSHandle<AnalogCallControlConfig> pAnalogConfig( in_pAnalogConfig );
+    if ( !VELQUIN_ASSERT( !pAnalogConfig.isNull() ) )
+        return false;
+    m_hAnalogConfig = pAnalogConfig;
+    return true;
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+} // namespace Velquin::Pstn

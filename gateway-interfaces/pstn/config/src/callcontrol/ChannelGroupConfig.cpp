@@ -1,0 +1,55 @@
+#include "callcontrol/ChannelGroupConfig.h"
+
+#include <ostream>
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+
+#include "Text.h"
+#include "hardware/InterfaceConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( ChannelGroupConfig );
+
+namespace {
+
+/// What the adding of a range is told with, at DEBUG and when it is refused.
+struct Adding {
+    const BChannelRangeConfig& range;
+    const char* szGroupId;
+
+    friend std::ostream& operator<<( std::ostream& inout_stream, const Adding& in_adding ) {
+        const BChannelRangeConfig& range = in_adding.range;
+        return inout_stream << "Add B-Channel range "
+                            << "[" << range.getFirstChannel() << ".." << range.getLastChannel() << "] of "
+                            << range.getInterfaceConfig()->getUniqueId( false ) << " to channelGroup \""
+                            << in_adding.szGroupId << "\"";
+    }
+};
+
+} // namespace
+
+bool ChannelGroupConfig::setId( const char* in_szId ) {
+    return assignText( m_strId, in_szId, getLogger() );
+}
+
+bool ChannelGroupConfig::addBChannelRangeConfig( BChannelRangeConfig* in_pNewBChannelRangeConfig ) try {
+    const TSHandle<BChannelRangeConfig> hNewBChannelRangeConfig( in_pNewBChannelRangeConfig );
+    if ( !VELQUIN_ASSERT( in_pNewBChannelRangeConfig ) ||
+         !VELQUIN_ASSERT( !hNewBChannelRangeConfig->getInterfaceConfig().isNull() ) ||
+         !VELQUIN_ASSERT( !hNewBChannelRangeConfig->getInterfaceConfig()->getBoardConfig().isNull() ) )
+        return false;
+    const Adding adding{ *hNewBChannelRangeConfig, getId() };
+    VELQUIN_LOG_DEBUG( getLogger(), adding );
+    if ( m_setBChannelRanges.insert( hNewBChannelRangeConfig ).second )
+        return true;
+    VELQUIN_REPORT_ERROR( getLogger(),
+                          adding << ". One more channel of this range are already contained in this group. Please edit "
+                                    "your PSTN configuration to fix this problem.  Make sure to add any channel only "
+                                    "once in a given channel group." );
+    return false;
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+} // namespace Velquin::Pstn

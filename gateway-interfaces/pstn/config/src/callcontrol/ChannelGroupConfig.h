@@ -1,0 +1,45 @@
+#pragma once
+
+#include <set>
+#include <string>
+
+#include <velquin/PSTNChannel.h>
+
+#include "callcontrol/LessThanComparatorForBChannelRangeConfig.h"
+
+namespace Velquin::Pstn {
+
+/// A named pool of channels, which the gateway's router addresses by name. Owns its ranges.
+class VELQUIN_PSTN_CONFIG_EXPORT ChannelGroupConfig : public virtual Object {
+    PSTN_CONFIG_CLASS( ChannelGroupConfig );
+
+public:
+    /// The order in which an outbound call looks for a free channel.
+    enum HuntingScheme { LINEAR = 1, REVERSE_LINEAR = 2 };
+    using BChannelRanges = std::set<TSHandle<BChannelRangeConfig>, LessThanComparatorForBChannelRangeConfig>;
+
+    const char* getId() const noexcept { return m_strId.c_str(); }
+    bool setId( const char* in_szId );
+
+    /// BIDIR until set.
+    PSTNChannel::Direction getDirection() const noexcept { return m_eDirection; }
+    void setDirection( PSTNChannel::Direction in_eDirection ) noexcept { m_eDirection = in_eDirection; }
+
+    /// Means nothing for a group whose direction is IN.
+    HuntingScheme getOutboundHuntingScheme() const noexcept { return m_eOutboundHuntingScheme; }
+    void setOutboundHuntingScheme( HuntingScheme in_eScheme ) noexcept { m_eOutboundHuntingScheme = in_eScheme; }
+
+    /// Takes ownership of a range, which has its interface. Refuses, and releases, a range that shares a channel with
+    /// one of this group; the same channel may be in several groups.
+    bool addBChannelRangeConfig( BChannelRangeConfig* in_pNewBChannelRangeConfig );
+    /// The ranges by board, interface, channel.
+    const BChannelRanges& getBChannelRangeConfig() const noexcept { return m_setBChannelRanges; }
+
+private:
+    std::string m_strId;
+    PSTNChannel::Direction m_eDirection = PSTNChannel::BIDIR;
+    HuntingScheme m_eOutboundHuntingScheme = LINEAR;
+    BChannelRanges m_setBChannelRanges;
+};
+
+} // namespace Velquin::Pstn

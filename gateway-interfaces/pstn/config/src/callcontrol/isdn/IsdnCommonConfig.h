@@ -1,0 +1,79 @@
+#pragma once
+
+#include <velquin/Object.h>
+
+#include "PstnConfigClass.h"
+#include "PstnConfigExport.h"
+
+namespace Velquin::Pstn {
+
+/// ISDN signalling settings (ITU-T Q.931) that FAS and NFAS groups have in common.
+class VELQUIN_PSTN_CONFIG_EXPORT IsdnCommonConfig : public virtual Object {
+    PSTN_CONFIG_CLASS( IsdnCommonConfig );
+
+public:
+    /// The side that the gateway plays.
+    enum class TerminationType { TERMINAL = 1, NETWORK = 2 };
+    /// The protocol of the switch at the other end.
+    enum class SwitchVariantType { SWITCH_4ESS = 1, SWITCH_5ESS = 2, DMS100 = 3, ETSI = 4, NI2 = 5 };
+    enum class BChannelNegociationType { PREFERRED = 1, EXCLUSIVE = 2 };
+    enum class InbandProgressTonesGenerationType { NEVER = 1, ALWAYS = 2, AS_NEEDED = 3 };
+    /// The message that announces in-band tones.
+    enum class InbandProgressTonesIndicatorType { ALERTING = 1, PROGRESS = 2, BOTH = 3 };
+    /// The message that carries the calling party's name.
+    enum class CallerNameLocationType { DISABLED = 1, IN_SETUP_MSG = 2, IN_FACILITY_MSG = 3 };
+
+    /// The group's number, unique among the groups of its kind (FAS, NFAS).
+    unsigned int getId() const noexcept { return m_uId; }
+    void setId( unsigned int in_uId ) noexcept { m_uId = in_uId; }
+
+    TerminationType getTermination() const noexcept { return m_eTermination; }
+    void setTermination( TerminationType in_eTermination ) noexcept { m_eTermination = in_eTermination; }
+
+    SwitchVariantType getSwitchVariant() const noexcept { return m_eSwitchVariant; }
+    void setSwitchVariant( SwitchVariantType in_eSwitchVariant ) noexcept { m_eSwitchVariant = in_eSwitchVariant; }
+
+    BChannelNegociationType getBChannelNegociation() const noexcept { return m_eBChannelNegociation; }
+    void setBChannelNegociation( BChannelNegociationType in_eNegociation ) noexcept {
+        m_eBChannelNegociation = in_eNegociation;
+    }
+
+    /// Whether the gateway sends RESTART for its channels when the D-channel comes up.
+    bool getInitiateRestartProcedure() const noexcept { return m_bInitiateRestartProcedure; }
+    void setInitiateRestartProcedure( bool in_bInitiate ) noexcept { m_bInitiateRestartProcedure = in_bInitiate; }
+
+    InbandProgressTonesGenerationType getInbandProgressTonesGeneration() const noexcept {
+        return m_eInbandProgressTonesGeneration;
+    }
+    void setInbandProgressTonesGeneration( InbandProgressTonesGenerationType in_eGeneration ) noexcept {
+        m_eInbandProgressTonesGeneration = in_eGeneration;
+    }
+
+    InbandProgressTonesIndicatorType getInbandProgressTonesIndicator() const noexcept {
+        return m_eInbandProgressTonesIndicator;
+    }
+    void setInbandProgressTonesIndicator( InbandProgressTonesIndicatorType in_eIndicator ) noexcept {
+        m_eInbandProgressTonesIndicator = in_eIndicator;
+    }
+
+    CallerNameLocationType getCallerNameLocation() const noexcept { return m_eCallerNameLocation; }
+    void setCallerNameLocation( CallerNameLocationType in_eLocation ) noexcept { m_eCallerNameLocation = in_eLocation; }
+
+    /// How long to wait for a FACILITY message that carries the caller's name, in milliseconds.
+    unsigned int getFacilityDelayMs() const noexcept { return m_uFacilityDelayMs; }
+    void setFacilityDelayMs( unsigned int in_uDelayMs ) noexcept { m_uFacilityDelayMs = in_uDelayMs; }
+
+private:
+    // What the reader takes for an absent optional attribute
+    unsigned int m_uId = 0;
+    TerminationType m_eTermination = TerminationType::TERMINAL;
+    SwitchVariantType m_eSwitchVariant = SwitchVariantType::ETSI;
+    BChannelNegociationType m_eBChannelNegociation = BChannelNegociationType::PREFERRED;
+    bool m_bInitiateRestartProcedure = true;
+    InbandProgressTonesGenerationType m_eInbandProgressTonesGeneration = InbandProgressTonesGenerationType::AS_NEEDED;
+    InbandProgressTonesIndicatorType m_eInbandProgressTonesIndicator = InbandProgressTonesIndicatorType::PROGRESS;
+    CallerNameLocationType m_eCallerNameLocation = CallerNameLocationType::DISABLED;
+    unsigned int m_uFacilityDelayMs = 0;
+};
+
+} // namespace Velquin::Pstn

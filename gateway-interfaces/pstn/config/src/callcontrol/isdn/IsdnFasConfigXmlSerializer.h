@@ -1,0 +1,19 @@
+#pragma once
+
+#include "callcontrol/isdn/IsdnCommonConfigXmlSerializer.h"
+
+namespace Velquin::Pstn {
+
+/// Reads a `fasConfig` element and puts its B-channel ranges into channel groups. Those that came before a fault stay
+/// there.
+class VELQUIN_PSTN_CONFIG_EXPORT IsdnFasConfigXmlSerializer : public IsdnCommonConfigXmlSerializer {
+    PSTN_CONFIG_CLASS( IsdnFasConfigXmlSerializer );
+
+public:
+    IsdnCommonConfig* read( TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* const in_pElement,
+                            XmlConfig& in_xmlConfig ) override;
+    bool write( xmlNode* const in_pParent, const IsdnCommonConfig& in_config ) override;
+    IsdnCommonConfig* newIsdnCommonConfig() override;
+};
+
+} // namespace Velquin::Pstn

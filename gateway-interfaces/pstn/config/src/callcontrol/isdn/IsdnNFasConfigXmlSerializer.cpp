@@ -1,0 +1,54 @@
+#include "callcontrol/isdn/IsdnNFasConfigXmlSerializer.h"
+
+#include <velquin/Assertion.h>
+#include <velquin/UniqueObjPtr.h>
+
+#include "callcontrol/isdn/IsdnNfasConfig.h"
+#include "callcontrol/isdn/IsdnNfasGroupMemberConfigXmlSerializer.h"
+#include "xml/ChildElements.h"
+#include "xml/ElementReader.h"
+#include "xml/NotImplemented.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( IsdnNFasConfigXmlSerializer );
+
+namespace {
+
+constexpr ReaderWording WORDING{ "] for ISDN NFAS config  ", "" };
+
+} // namespace
+
+IsdnCommonConfig* IsdnNFasConfigXmlSerializer::read( TSHandle<CallControlConfig>& in_hCallControlConfig,
+                                                     xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
+    const ElementReader reader( in_pElement, getLogger(), WORDING );
+    UniqueObjPtr<IsdnCommonConfig> pCommonConfig(
+        IsdnCommonConfigXmlSerializer::read( in_hCallControlConfig, in_pElement, in_xmlConfig ) );
+    auto pNFasConfig = dynamicOwnerCast<IsdnNfasConfig>( std::move( pCommonConfig ) );
+    if ( !VELQUIN_ASSERT( !pNFasConfig.isNull() ) )
+        return nullptr;
+
+    xmlNode* const pMembers = reader.requireChild( "members" );
+    if ( !pMembers )
+        return nullptr;
+    IsdnNfasGroupMemberConfigXmlSerializer memberXmlSerializer;
+    for ( xmlNode* const pMember : ChildElements( pMembers ) ) {
+        const ElementPlace place( pMember );
+        TSHandle<IsdnNfasGroupMemberConfig> hGroupMember =
+            memberXmlSerializer.read( in_hCallControlConfig, pNFasConfig.get(), pMember, in_xmlConfig );
+        if ( !VELQUIN_ASSERT( !hGroupMember.isNull() ) || !pNFasConfig->addMemberInterface( hGroupMember ) )
+            return nullptr;
+    }
+    return pNFasConfig.release();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool IsdnNFasConfigXmlSerializer::write( xmlNode* const, const IsdnCommonConfig& ) {
+    return reportNotImplemented( getLogger(), "IsdnNFasConfigXmlSerializer::write" );
+}
+
+IsdnCommonConfig* IsdnNFasConfigXmlSerializer::newIsdnCommonConfig() {
+    return new IsdnNfasConfig();
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,48 @@
+#include "callcontrol/isdn/IsdnNfasConfig.h"
+
+#include <algorithm>
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( IsdnNfasConfig );
+
+bool IsdnNfasConfig::addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in_hNfasGroupMember ) try {
+    if ( !VELQUIN_ASSERT( !in_hNfasGroupMember.isNull() ) ||
+         !VELQUIN_ASSERT( !in_hNfasGroupMember->getInterfaceConfig().isNull() ) )
+        return false;
+    const std::string strUniqueId = in_hNfasGroupMember->getInterfaceConfig()->getUniqueId( false );
+    const unsigned long long ullNfasInterfaceID = in_hNfasGroupMember->getNfasInterfaceID();
+    if ( const auto it = m_uniqueIdsByNfasInterfaceID.find( ullNfasInterfaceID );
+         it != m_uniqueIdsByNfasInterfaceID.end() ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "failed to insert the interface "
+                                               << strUniqueId << " in NFAS group " << getId()
+                                               << " because the NfasInterfaceID=" << ullNfasInterfaceID
+                                               << " is already used by interface " << it->second );
+        return false;
+    }
+    if ( !m_members.insert( strUniqueId, in_hNfasGroupMember ) ) {
+        VELQUIN_REPORT_ERROR( getLogger(),
+                              "interface " << strUniqueId << " is already associated with NFAS group " << getId() );
+        return false;
+    }
+    m_uniqueIdsByNfasInterfaceID.insert( ullNfasInterfaceID, strUniqueId );
+    VELQUIN_LOG_DEBUG( getLogger(), "associated interface= " << strUniqueId << " with ISDN Nfas config " << getId() );
+    return true;
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+bool IsdnNfasConfig::hasPrimaryDChannel() const noexcept {
+    return std::any_of( m_members.begin(), m_members.end(), []( const auto& in_member ) {
+        return in_member.second->getDChannelMode() == IsdnNfasGroupMemberConfig::DChannelMode::PRIMARY;
+    } );
+}
+
+bool IsdnNfasConfig::isAppliedToInterface( const char* in_szUniqueId ) const try {
+    return VELQUIN_ASSERT( in_szUniqueId != nullptr ) && m_members.find( in_szUniqueId ) != m_members.end();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+} // namespace Velquin::Pstn

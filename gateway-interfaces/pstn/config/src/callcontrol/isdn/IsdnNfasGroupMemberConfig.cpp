@@ -1,0 +1,37 @@
+#include "callcontrol/isdn/IsdnNfasGroupMemberConfig.h"
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( IsdnNfasGroupMemberConfig );
+
+bool IsdnNfasGroupMemberConfig::setInterfaceMember( TSHandle<DigitalInterfaceConfig> in_hInterfaceConfig ) try {
+    if ( !VELQUIN_ASSERT( !in_hInterfaceConfig.isNull() ) )
+        return false;
+    const bool bDChannel = in_hInterfaceConfig->hasDChannel();
+    const char* const szUniqueId = in_hInterfaceConfig->getUniqueId( false );
+    if ( m_eDChannelMode != DChannelMode::DISABLED && !bDChannel ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "failed to add interface "
+                                               << szUniqueId
+                                               << " to NFAS group because the interface does not have a D-Channel to "
+                                                  "play the role of PRIMARY or BACKUP interface." );
+        return false;
+    }
+    if ( m_eDChannelMode == DChannelMode::DISABLED && bDChannel ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "failed to add interface "
+                                               << szUniqueId
+                                               << " to NFAS group as a slave because the D-Channel Mode of the "
+                                                  "interface is set to DISABLED, but the D-Channel is ENABLED in the "
+                                                  "physical configuration." );
+        return false;
+    }
+    VELQUIN_LOG_DEBUG( getLogger(), "adding interface=" << szUniqueId << " to ISDN NFAS group nfasInterfaceID="
+                                                        << m_ullNfasInterfaceID );
+    m_hInterfaceConfig = std::move( in_hInterfaceConfig );
+    return true;
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <velquin/TSHandle.h>
+
+#include "hardware/DigitalInterfaceConfig.h"
+
+namespace Velquin::Pstn {
+
+/// One span of an NFAS group.
+class VELQUIN_PSTN_CONFIG_EXPORT IsdnNfasGroupMemberConfig : public virtual Object {
+    PSTN_CONFIG_CLASS( IsdnNfasGroupMemberConfig );
+
+public:
+    /// What the span does for the signalling of its group.
+    enum class DChannelMode {
+        DISABLED = 1, ///< has no D-channel
+        PRIMARY = 2,  ///< carries the active D-channel
+        BACKUP = 3,   ///< carries the standby D-channel
+    };
+
+    /// The number by which the signalling refers to the span, unique in the group.
+    unsigned long long getNfasInterfaceID() const noexcept { return m_ullNfasInterfaceID; }
+    void setNfasInterfaceID( unsigned long long in_ullId ) noexcept { m_ullNfasInterfaceID = in_ullId; }
+
+    /// DISABLED until set.
+    DChannelMode getDChannelMode() const noexcept { return m_eDChannelMode; }
+    void setDChannelMode( DChannelMode in_eMode ) noexcept { m_eDChannelMode = in_eMode; }
+
+    /// The span, shared with its board; null until set.
+    const TSHandle<DigitalInterfaceConfig>& getInterfaceConfig() const noexcept { return m_hInterfaceConfig; }
+    /// To be called after setDChannelMode. Refuses a span without D-channel for PRIMARY and BACKUP, and one with a
+    /// D-channel for DISABLED.
+    bool setInterfaceMember( TSHandle<DigitalInterfaceConfig> in_hInterfaceConfig );
+
+private:
+    unsigned long long m_ullNfasInterfaceID = 0;
+    TSHandle<DigitalInterfaceConfig> m_hInterfaceConfig;
+    DChannelMode m_eDChannelMode = DChannelMode::DISABLED;
+};
+
+} // namespace Velquin::Pstn

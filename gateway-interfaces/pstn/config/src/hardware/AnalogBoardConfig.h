@@ -1,0 +1,29 @@
+#pragma once
+
+#include <vector>
+
+#include <velquin/TSHandle.h>
+
+#include "hardware/AnalogInterfaceConfig.h"
+#include "hardware/BoardConfig.h"
+#include "hardware/InterfaceMap.h"
+
+namespace Velquin::Pstn {
+
+/// A card with analog FXS and FXO ports. Owns its interfaces.
+class VELQUIN_PSTN_CONFIG_EXPORT AnalogBoardConfig : public BoardConfig {
+    PSTN_CONFIG_CLASS( AnalogBoardConfig );
+
+public:
+    /// Takes ownership of the interface. Refuses, and destroys, one whose identifier is already on the board.
+    bool addAnalogInterfaceConfig( AnalogInterfaceConfig* in_pNewAnalogInterfaceConfig );
+    /// The interface of that identifier; null, with an ERROR line, when there is none.
+    TSHandle<AnalogInterfaceConfig> getAnalogInterfaceConfig( unsigned int in_uId ) const;
+    /// Fills an empty vector with all interfaces, ascending by identifier.
+    bool getAnalogInterfacesConfig( std::vector<TSHandle<AnalogInterfaceConfig>>& out_vecAnalogInterfaceConfig ) const;
+
+private:
+    InterfaceMap<AnalogInterfaceConfig> m_mapInterfaces;
+};
+
+} // namespace Velquin::Pstn

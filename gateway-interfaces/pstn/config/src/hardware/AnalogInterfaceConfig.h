@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+
+#include <velquin/TSHandle.h>
+
+#include "hardware/InterfaceConfig.h"
+#include "physical/AnalogInterfacePhysicalConfig.h"
+
+namespace Velquin::Pstn {
+
+/// An analog port.
+class VELQUIN_PSTN_CONFIG_EXPORT AnalogInterfaceConfig : public InterfaceConfig {
+    PSTN_CONFIG_CLASS( AnalogInterfaceConfig );
+
+public:
+    enum class MediaType {
+        FXO = 1, ///< foreign exchange office: the gateway plays the telephone
+        FXS = 2, ///< foreign exchange station: the gateway plays the exchange
+    };
+
+    /// How the port is driven; null until a physical configuration is applied.
+    const TSHandle<AnalogInterfacePhysicalConfig>& getPhysicalConfig() const noexcept { return m_hPhysicalConfig; }
+    /// Refuses null, with an assertion.
+    bool setPhysicalConfig( TSHandle<AnalogInterfacePhysicalConfig> in_hPhysicalConfig );
+
+    /// FXO until set.
+    MediaType getMediaType() const noexcept { return m_eMediaType; }
+    void setMediaType( MediaType in_eMediaType ) noexcept { m_eMediaType = in_eMediaType; }
+
+    /// Number and name of the telephone on an FXS port, for the caller's identification; empty for an FXO port.
+    const char* getPhoneNumber() const noexcept { return m_strPhoneNumber.c_str(); }
+    bool setPhoneNumber( const char* in_szPhoneNumber );
+    const char* getCallerName() const noexcept { return m_strCallerName.c_str(); }
+    bool setCallerName( const char* in_szCallerName );
+
+    const char* getUniqueId( bool in_bShort ) const override { return composeUniqueId( in_bShort, "ai" ); }
+
+private:
+    TSHandle<AnalogInterfacePhysicalConfig> m_hPhysicalConfig;
+    MediaType m_eMediaType = MediaType::FXO;
+    std::string m_strPhoneNumber;
+    std::string m_strCallerName;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include <velquin/Logger.h>
+
+namespace Velquin::Pstn {
+
+/// Stores the display name of a board or an interface: letters, digits, '-', '_' and blanks; it may be empty. Yields
+/// false, and leaves the field alone, when the text is none.
+bool assignDisplayName( std::string& out_strField, const char* in_szName, const Logger& in_logger ) noexcept;
+
+} // namespace Velquin::Pstn

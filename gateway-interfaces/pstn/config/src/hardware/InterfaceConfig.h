@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string>
+
+#include <velquin/LimitedObjPtr.h>
+#include <velquin/Object.h>
+
+#include "PstnConfigClass.h"
+#include "PstnConfigExport.h"
+
+namespace Velquin::Pstn {
+
+class BoardConfig;
+
+/// One line of a board. Base of all interfaces.
+class VELQUIN_PSTN_CONFIG_EXPORT InterfaceConfig : public virtual Object {
+    PSTN_CONFIG_CLASS( InterfaceConfig );
+
+public:
+    /// The interface's number within its board; 0 until set.
+    unsigned int getId() const noexcept { return m_uId; }
+    void setId( unsigned int in_uId ) noexcept { m_uId = in_uId; }
+
+    const char* getDisplayName() const noexcept { return m_strDisplayName.c_str(); }
+    /// Takes letters, digits, '-', '_' and blanks, also none; anything else is refused and the old name stays.
+    bool setDisplayName( const char* in_szDisplayName );
+
+    /// The board that holds the interface, which owns it.
+    LimitedObjPtr<const BoardConfig> getBoardConfig() const noexcept { return m_pBoardConfig; }
+    /// Refuses null, with an assertion.
+    bool setBoardConfig( LimitedObjPtr<const BoardConfig> in_pBoardConfig );
+
+    /// The text that names the interface across the model: "b1di2" in its short form, "b1(Span board)di2(Trunk-A)" in
+    /// its long one ("ai" for analog interfaces). Composed at the first call, from what board and interface are named
+    /// then, and kept; the first call must come before the interface is shared between threads. Empty, after an
+    /// assertion, without a board.
+    virtual const char* getUniqueId( bool in_bShort ) const = 0;
+
+protected:
+    /// @param in_szKind "di" or "ai"
+    const char* composeUniqueId( bool in_bShort, const char* in_szKind ) const;
+
+private:
+    unsigned int m_uId = 0;
+    std::string m_strDisplayName;
+    mutable std::string m_strLongUniqueId;
+    mutable std::string m_strShortUniqueId;
+    LimitedObjPtr<const BoardConfig> m_pBoardConfig;
+};
+
+} // namespace Velquin::Pstn

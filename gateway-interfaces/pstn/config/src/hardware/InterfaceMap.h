@@ -1,0 +1,57 @@
+#pragma once
+
+#include <algorithm>
+#include <unordered_map>
+#include <vector>
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+#include <velquin/TSHandle.h>
+
+namespace Velquin::Pstn {
+
+/// The interfaces of one board, by identifier. Serves analog and digital boards, which differ in the word for their
+/// kind and in the logger; nothing may throw out of their operations, out of these it may.
+template <class TInterface>
+class InterfaceMap {
+public:
+    /// Adds the interface unless its identifier is taken; the handle that was passed is then the last one.
+    bool add( const TSHandle<TInterface>& in_hInterface, const char* in_szKind, const Logger& in_logger ) {
+        VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " interface: " << in_hInterface->getId() << "<"
+                                                    << in_hInterface->getDisplayName() << ">" );
+        if ( m_map.try_emplace( in_hInterface->getId(), in_hInterface ).second )
+            return true;
+        VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " interface: " << in_hInterface->getId()
+                                                              << "<" << in_hInterface->getDisplayName() << ">" );
+        return false;
+    }
+
+    TSHandle<TInterface> get( unsigned int in_uId, const char* in_szKind, const Logger& in_logger ) const {
+        VELQUIN_LOG_DEBUG( in_logger, "getting " << in_szKind << " interface: " << in_uId );
+        const auto it = m_map.find( in_uId );
+        if ( it != m_map.end() )
+            return it->second;
+        VELQUIN_REPORT_ERROR( in_logger, "failed to get " << in_szKind << " interface: " << in_uId );
+        return {};
+    }
+
+    /// Fills the vector with all interfaces, ascending by identifier.
+    void getAll( std::vector<TSHandle<TInterface>>& out_vecInterfaces, const char* in_szKind,
+                 const Logger& in_logger ) const {
+        VELQUIN_LOG_DEBUG( in_logger, "getting all " << in_szKind << " interfaces" );
+        out_vecInterfaces.reserve( m_map.size() );
+        for ( const auto& [uId, hInterface] : m_map )
+            out_vecInterfaces.push_back( hInterface );
+        std::sort( out_vecInterfaces.begin(), out_vecInterfaces.end(), &isBefore );
+    }
+
+private:
+    static bool isBefore( const TSHandle<TInterface>& in_hX, const TSHandle<TInterface>& in_hY ) {
+        return VELQUIN_ASSERT( !in_hX.isNull() ) && VELQUIN_ASSERT( !in_hY.isNull() ) &&
+               in_hX->getId() < in_hY->getId();
+    }
+
+    std::unordered_map<unsigned int, TSHandle<TInterface>> m_map;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,19 @@
+#include "hardware/ProviderConfigXmlSerializer.h"
+
+#include "xml/NotImplemented.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( ProviderConfigXmlSerializer );
+
+ProviderConfig* ProviderConfigXmlSerializer::read( xmlNode* const, XmlConfig& ) {
+    // Which class a provider has is known to the derived serializers only.
+    reportNotImplemented( getLogger(), "ProviderConfigXmlSerializer::read" );
+    return nullptr;
+}
+
+bool ProviderConfigXmlSerializer::write( xmlNode* const, const ProviderConfig& ) {
+    return reportNotImplemented( getLogger(), "ProviderConfigXmlSerializer::write" );
+}
+
+} // namespace Velquin::Pstn

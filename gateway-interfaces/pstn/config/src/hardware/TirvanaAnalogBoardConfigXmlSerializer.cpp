@@ -1,0 +1,71 @@
+#include "hardware/TirvanaAnalogBoardConfigXmlSerializer.h"
+
+#include <velquin/UniqueObjPtr.h>
+
+#include "hardware/BoardInterfaces.h"
+#include "hardware/TirvanaAnalogBoardConfig.h"
+#include "xml/ChildElements.h"
+#include "xml/ElementReader.h"
+#include "xml/ElementWriter.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( TirvanaAnalogBoardConfigXmlSerializer );
+
+namespace {
+
+constexpr ReaderWording WORDING{ "] for analog board  ", "] for analog board  " };
+
+} // namespace
+
+BoardConfig* TirvanaAnalogBoardConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
+    UniqueObjPtr<BoardConfig> pBoardConfig( AnalogBoardConfigXmlSerializer::read( in_pElement, in_xmlConfig ) );
+    if ( pBoardConfig.isNull() )
+        return nullptr;
+    auto pTirvanaAnalogBoardConfig = dynamicOwnerCast<TirvanaAnalogBoardConfig>( std::move( pBoardConfig ) );
+    if ( !VELQUIN_ASSERT( !pTirvanaAnalogBoardConfig.isNull() ) )
+        return nullptr;
+
+    const ElementReader reader( in_pElement, getLogger(), WORDING );
+    unsigned int uTirpipe = 0;
+    if ( !reader.requireNumber( "tirpipe", WHOLE_DECIMAL, uTirpipe ) )
+        return nullptr;
+    pTirvanaAnalogBoardConfig->setTirpipe( uTirpipe );
+
+    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
+        UniqueObjPtr<InterfaceConfig> pInterfaceConfig(
+            m_interfaceXmlSerializer.read( pChild, in_xmlConfig, *pTirvanaAnalogBoardConfig ) );
+        if ( !VELQUIN_ASSERT( !pInterfaceConfig.isNull() ) )
+            return nullptr;
+        auto pAnalogInterfaceConfig = dynamicOwnerCast<AnalogInterfaceConfig>( std::move( pInterfaceConfig ) );
+        if ( !VELQUIN_ASSERT( !pAnalogInterfaceConfig.isNull() ) )
+            return nullptr;
+        const ElementPlace place( pChild );
+        if ( !pTirvanaAnalogBoardConfig->addAnalogInterfaceConfig( pAnalogInterfaceConfig.release() ) )
+            return nullptr;
+    }
+    return pTirvanaAnalogBoardConfig.release();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool TirvanaAnalogBoardConfigXmlSerializer::write( xmlNode* const in_pParent, const BoardConfig& in_boardConfig ) try {
+    const auto* const pAnalogBoardConfig = dynamic_cast<const TirvanaAnalogBoardConfig*>( &in_boardConfig );
+    if ( !VELQUIN_ASSERT( pAnalogBoardConfig ) )
+        return false;
+    xmlNode* const pElement = addChildElement( in_pParent, "tirvanaAnalogBoard" );
+    if ( !pElement ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "Can not add analog boards XML element." );
+        return false;
+    }
+    return AnalogBoardConfigXmlSerializer::write( pElement, in_boardConfig ) &&
+           ElementWriter( pElement, getLogger() ).addNumber( "tirpipe", pAnalogBoardConfig->getTirpipe() ) &&
+           writeInterfaces<AnalogKind>( pElement, *pAnalogBoardConfig, m_interfaceXmlSerializer,
+                                        "no Tirvana analog interface to configure for board ", getLogger() );
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+BoardConfig* TirvanaAnalogBoardConfigXmlSerializer::newBoardConfig() {
+    return new TirvanaAnalogBoardConfig();
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,7 @@
+#include "hardware/TirvanaAnalogInterfaceConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( TirvanaAnalogInterfaceConfig );
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,58 @@
+#include "hardware/TirvanaAnalogInterfaceConfigXmlSerializer.h"
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+#include <velquin/LimitedObjPtr.h>
+#include <velquin/UniqueObjPtr.h>
+
+#include "hardware/TirvanaAnalogInterfaceConfig.h"
+#include "xml/ElementReader.h"
+#include "xml/ElementWriter.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( TirvanaAnalogInterfaceConfigXmlSerializer );
+
+namespace {
+
+constexpr ReaderWording WORDING{ "] for analog interface ", "] for analog interface " };
+
+} // namespace
+
+InterfaceConfig* TirvanaAnalogInterfaceConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig,
+                                                                  const BoardConfig& in_boardConfig ) try {
+    UniqueObjPtr<InterfaceConfig> pInterfaceConfig(
+        AnalogInterfaceConfigXmlSerializer::read( in_pElement, in_xmlConfig, in_boardConfig ) );
+    if ( pInterfaceConfig.isNull() )
+        return nullptr;
+    auto pTirvanaAnalogInterfaceConfig =
+        dynamicOwnerCast<TirvanaAnalogInterfaceConfig>( std::move( pInterfaceConfig ) );
+    if ( !VELQUIN_ASSERT( !pTirvanaAnalogInterfaceConfig.isNull() ) )
+        return nullptr;
+
+    const ElementReader reader( in_pElement, getLogger(), WORDING );
+    unsigned int uTirpipe = 0;
+    if ( !reader.requireNumber( "tirpipeInterface", LEADING_DECIMAL, uTirpipe ) )
+        return nullptr;
+    pTirvanaAnalogInterfaceConfig->setTirpipeInterface( uTirpipe );
+    return pTirvanaAnalogInterfaceConfig.release();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool TirvanaAnalogInterfaceConfigXmlSerializer::write( xmlNode* const in_pBoardElement,
+                                                       const InterfaceConfig& in_interfaceConfig ) try {
+    const LimitedObjPtr<const TirvanaAnalogInterfaceConfig> pIfConfig(
+        dynamic_cast<const TirvanaAnalogInterfaceConfig*>( &in_interfaceConfig ) );
+    if ( !VELQUIN_ASSERT( !pIfConfig.isNull() ) )
+        return false;
+    xmlNode* const pElement = addInterfaceElement( in_pBoardElement, getLogger() );
+    return pElement && AnalogInterfaceConfigXmlSerializer::write( pElement, in_interfaceConfig ) &&
+           ElementWriter( pElement, getLogger() ).addNumber( "tirpipeInterface", pIfConfig->getTirpipeInterface() );
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+InterfaceConfig* TirvanaAnalogInterfaceConfigXmlSerializer::newInterfaceConfig() {
+    return new TirvanaAnalogInterfaceConfig();
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "hardware/DigitalBoardConfig.h"
+#include "hardware/TirvanaDigitalInterfaceConfig.h"
+
+namespace Velquin::Pstn {
+
+/// A digital card of the Tirvana provider.
+class VELQUIN_PSTN_CONFIG_EXPORT TirvanaDigitalBoardConfig : public DigitalBoardConfig {
+    PSTN_CONFIG_CLASS( TirvanaDigitalBoardConfig );
+
+public:
+    /// The interface from which the board takes its clock; null when none is named.
+    TSHandle<TirvanaDigitalInterfaceConfig> getPrimaryClockReferenceInterfaceConfig() const;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,86 @@
+#include "hardware/TirvanaDigitalBoardConfigXmlSerializer.h"
+
+#include <velquin/UniqueObjPtr.h>
+
+#include "hardware/BoardInterfaces.h"
+#include "hardware/TirvanaDigitalBoardConfig.h"
+#include "xml/ChildElements.h"
+#include "xml/ElementReader.h"
+#include "xml/ElementWriter.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( TirvanaDigitalBoardConfigXmlSerializer );
+
+namespace {
+
+constexpr ReaderWording WORDING{ "] for tirvana digital board  ", "] for tirvana digital board  " };
+
+/// Sets the flag of the interface that the board's attribute names; without the attribute there is none.
+bool readPrimaryClockReference( const ElementReader& in_reader, const TirvanaDigitalBoardConfig& in_board ) {
+    unsigned int uInterfaceId = 0;
+    const ReadResult eResult = in_reader.findNumber( "primaryClockReference", WHOLE_DECIMAL, uInterfaceId );
+    if ( eResult != ReadResult::READ )
+        return eResult == ReadResult::ABSENT;
+    const auto hInterface =
+        dynamicHandleCast<TirvanaDigitalInterfaceConfig>( in_board.getDigitalInterfaceConfig( uInterfaceId ) );
+    if ( hInterface.isNull() ) {
+        AttributeText text;
+        in_reader.findText( "primaryClockReference", text );
+        in_reader.reportInvalid( "primaryClockReference", text.view(), "Specified interface ID value does not exist" );
+        return false;
+    }
+    hInterface->setPrimaryClockReference( true );
+    return true;
+}
+
+} // namespace
+
+BoardConfig* TirvanaDigitalBoardConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
+    UniqueObjPtr<BoardConfig> pBoardConfig( DigitalBoardConfigXmlSerializer::read( in_pElement, in_xmlConfig ) );
+    if ( pBoardConfig.isNull() )
+        return nullptr;
+    auto pTirvanaDigitalBoardConfig = dynamicOwnerCast<TirvanaDigitalBoardConfig>( std::move( pBoardConfig ) );
+    if ( !VELQUIN_ASSERT( !pTirvanaDigitalBoardConfig.isNull() ) )
+        return nullptr;
+
+    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
+        UniqueObjPtr<InterfaceConfig> pInterfaceConfig(
+            m_interfaceXmlSerializer.read( pChild, in_xmlConfig, *pTirvanaDigitalBoardConfig ) );
+        if ( pInterfaceConfig.isNull() )
+            return nullptr;
+        auto pDigitalInterfaceConfig = dynamicOwnerCast<DigitalInterfaceConfig>( std::move( pInterfaceConfig ) );
+        if ( !VELQUIN_ASSERT( !pDigitalInterfaceConfig.isNull() ) )
+            return nullptr;
+        const ElementPlace place( pChild );
+        if ( !pTirvanaDigitalBoardConfig->addDigitalInterfaceConfig( pDigitalInterfaceConfig.release() ) )
+            return nullptr;
+    }
+    const ElementReader reader( in_pElement, getLogger(), WORDING );
+    if ( !readPrimaryClockReference( reader, *pTirvanaDigitalBoardConfig ) )
+        return nullptr;
+    return pTirvanaDigitalBoardConfig.release();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool TirvanaDigitalBoardConfigXmlSerializer::write( xmlNode* const in_pParent, const BoardConfig& in_boardConfig ) try {
+    const LimitedObjPtr<const DigitalBoardConfig> pDigitalBoardConfig(
+        dynamic_cast<const DigitalBoardConfig*>( &in_boardConfig ) );
+    if ( !VELQUIN_ASSERT( !pDigitalBoardConfig.isNull() ) )
+        return false;
+    xmlNode* const pElement = addChildElement( in_pParent, "tirvanaDigitalBoard" );
+    if ( !pElement ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "Can not add digital boards XML element." );
+        return false;
+    }
+    return DigitalBoardConfigXmlSerializer::write( pElement, in_boardConfig ) &&
+           writeInterfaces<DigitalKind>( pElement, *pDigitalBoardConfig, m_interfaceXmlSerializer,
+                                         "no Tirvana digital interface to add for board ", getLogger() );
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+BoardConfig* TirvanaDigitalBoardConfigXmlSerializer::newBoardConfig() {
+    return new TirvanaDigitalBoardConfig();
+}
+
+} // namespace Velquin::Pstn

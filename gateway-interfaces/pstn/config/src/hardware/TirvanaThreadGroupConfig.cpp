@@ -1,0 +1,7 @@
+#include "hardware/TirvanaThreadGroupConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( TirvanaThreadGroupConfig );
+
+} // namespace Velquin::Pstn

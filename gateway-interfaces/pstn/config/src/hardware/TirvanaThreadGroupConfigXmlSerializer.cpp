@@ -1,0 +1,45 @@
+#include "hardware/TirvanaThreadGroupConfigXmlSerializer.h"
+
+#include <velquin/UniqueObjPtr.h>
+
+#include "xml/ElementReader.h"
+#include "xml/NotImplemented.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( TirvanaThreadGroupConfigXmlSerializer );
+
+namespace {
+
+constexpr ReaderWording WORDING{ "] for thread group ", "] for thread group " };
+
+} // namespace
+
+TirvanaThreadGroupConfig* TirvanaThreadGroupConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& ) try {
+    UniqueObjPtr<TirvanaThreadGroupConfig> pThreadGroupConfig( new TirvanaThreadGroupConfig() );
+    const ElementReader reader( in_pElement, getLogger(), WORDING );
+    unsigned int uCount = 0;
+    if ( !reader.requireNumber( "count", LEADING_DECIMAL, uCount ) )
+        return nullptr;
+    pThreadGroupConfig->setThreadCount( uCount );
+
+    AttributeText priorityText;
+    if ( !reader.requireText( "priority", priorityText ) )
+        return nullptr;
+    const Priority priority( std::string( priorityText.view() ) );
+    if ( !priority.isValid() ) {
+        reader.reportInvalid( "priority", priorityText.view(),
+                              "Please specify one of the following prioritie values: " +
+                                  Priority::getSupportedPrioritiesDescription() );
+        return nullptr;
+    }
+    pThreadGroupConfig->setThreadsPriority( priority );
+    return pThreadGroupConfig.release();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool TirvanaThreadGroupConfigXmlSerializer::write( xmlNode* const, const TirvanaThreadGroupConfig& ) {
+    return reportNotImplemented( getLogger(), "TirvanaThreadGroupConfigXmlSerializer::write" );
+}
+
+} // namespace Velquin::Pstn

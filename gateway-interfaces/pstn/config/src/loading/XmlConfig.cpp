@@ -1,0 +1,377 @@
+#include "loading/XmlConfig.h"
+
+#include <charconv>
+#include <cstring>
+#include <string>
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+#include <velquin/TraceScope.h>
+#include <velquin/UniqueObjPtr.h>
+#include <velquin/XML.h>
+
+#include "callcontrol/CallControlConfigXmlSerializer.h"
+#include "hardware/BoardConfigXmlSerializer.h"
+#include "hardware/ProviderConfigXmlSerializer.h"
+#include "loading/CrossChecks.h"
+#include "loading/ModelLocator.h"
+#include "loading/PSTNConfigParamDefs.h"
+#include "physical/InterfacePhysicalConfigXmlSerializer.h"
+#include "xml/ChildElements.h"
+#include "xml/ElementReader.h"
+#include "xml/ElementWriter.h"
+#include "xml/InputFile.h"
+#include "xml/LibXml2.h"
+#include "xml/LibXml2Errors.h"
+#include "xml/XmlDocumentReader.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( XmlConfig );
+VELQUIN_MEM_ACCOUNT_IMPL( ReferenceCount, "ReferenceCount" );
+
+namespace {
+
+constexpr const char* CONTAINS_ERRORS = " contains one ore more errors. ";
+
+/// The file that is being loaded: the place of what has no nearer one.
+class FilePlace : private FindingPlace {
+public:
+    explicit FilePlace( const char* in_szFile ) noexcept : m_szFile( in_szFile ) {}
+
+private:
+    void locate( Finding& inout_finding ) const override {
+        if ( inout_finding.strFile.empty() )
+            inout_finding.strFile = m_szFile;
+    }
+
+    const char* m_szFile;
+};
+
+/// Appends the line with its number in front, right-aligned in a field of six.
+void appendNumberedLine( std::string& inout_strText, unsigned long long in_ullLine, std::string_view in_strLine ) {
+    char szNumber[20];
+    const auto [pEnd, eError] = std::to_chars( std::begin( szNumber ), std::end( szNumber ), in_ullLine );
+    const auto uDigits = static_cast<std::size_t>( pEnd - szNumber );
+    inout_strText.append( uDigits < 6 ? 6 - uDigits : 0, ' ' ).append( szNumber, uDigits );
+    inout_strText.append( ": " ).append( in_strLine ).append( "\n" );
+}
+
+/// Whether a schema draws in other files, which a load doesn't read.
+bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
+    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
+        const std::string_view strName = fromXml( pChild->name );
+        if ( strName == "include" || strName == "externalRef" ) {
+            const ReaderWording wording{ "", "" };
+            const ElementReader reader( pChild, in_logger, wording );
+            reader.reportDeclared( "The schema must stand in one file: element " + std::string( strName ), "." );
+            return true;
+        }
+        if ( refersToOtherFiles( pChild, in_logger ) )
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+/// What a load consists of. Shared by the copies of an XmlConfig; works for the one that is loading.
+class XmlConfig::Impl {
+    VELQUIN_MEM_ACCOUNT( Impl );
+
+public:
+    bool load( XmlConfig& in_owner, const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent );
+    const XmlSerializerObjectFactory& getFactory() const noexcept { return *m_pFactory; }
+
+private:
+    enum class Entry { ATTACHED, REFUSED, CONTAINS_ERRORS };
+
+    static const Logger& getLogger() { return XmlConfig::getLogger(); }
+
+    static bool logContent( const char* in_szConfigFile );
+    static XmlRelaxNGPtr loadSchema( const char* in_szSchemaFile );
+    static XmlDocPtr loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile );
+    template <class ReadEntry>
+    static bool loadSection( const xmlNode* in_pRootNode, const char* in_szSection, const char* in_szSubject,
+                             ReadEntry in_readEntry );
+    bool loadProvidersConfig( const xmlNode* in_pRootNode );
+    bool loadBoardsConfig( const xmlNode* in_pRootNode );
+    bool loadInterfacePhysicalsConfig( const xmlNode* in_pRootNode );
+    bool loadCallControlConfig( const xmlNode* in_pRootNode );
+    bool crossCheck( const xmlNode* in_pRootNode ) const;
+
+    XmlConfig* m_pOwner = nullptr; // while it loads
+    UniqueObjPtr<XmlSerializerObjectFactory> m_pFactory{ new XmlSerializerObjectFactory() };
+};
+
+VELQUIN_MEM_ACCOUNT_IMPL( XmlConfig::Impl, "Impl" );
+
+bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, const char* in_szSchemaFile,
+                            bool in_bLogContent ) {
+    const XML::LibraryScope library;
+    const FilePlace place( in_szConfigFile );
+    const LibXml2ErrorRoute errorRoute( getLogger(), in_szConfigFile );
+    const auto forgetOwner = [this]( XmlConfig* ) { m_pOwner = nullptr; };
+    const std::unique_ptr<XmlConfig, decltype( forgetOwner )> pOwner( m_pOwner = &in_owner, forgetOwner );
+
+    if ( in_bLogContent && !logContent( in_szConfigFile ) )
+        return false;
+    const XmlDocPtr pDocument = loadAndValidateXmlDocument( in_szConfigFile, in_szSchemaFile );
+    if ( !pDocument )
+        return false;
+    const xmlNode* const pRootNode = xmlDocGetRootElement( pDocument.get() );
+    if ( !VELQUIN_ASSERT( pRootNode ) )
+        return false;
+    return loadProvidersConfig( pRootNode ) && loadBoardsConfig( pRootNode ) &&
+           loadInterfacePhysicalsConfig( pRootNode ) && loadCallControlConfig( pRootNode ) && crossCheck( pRootNode );
+}
+
+bool XmlConfig::Impl::logContent( const char* in_szConfigFile ) {
+    std::ifstream stream;
+    if ( !openInputFile( in_szConfigFile, stream ).empty() ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "failed to open PSTN configuration file: " << in_szConfigFile );
+        return false;
+    }
+    if ( !getLogger().isEnabledFor( Logger::INFO_LEVEL ) )
+        return true;
+    std::string strText = std::string( "PSTN configuration: " ) + in_szConfigFile + "\n";
+    char szLine[2048];
+    // A longer line comes in pieces, which all have its number.
+    for ( unsigned long long ullLine = 1; stream.getline( szLine, sizeof( szLine ) ) || stream.gcount() > 0; ) {
+        appendNumberedLine( strText, ullLine, szLine );
+        if ( stream.fail() && !stream.eof() && !stream.bad() )
+            stream.clear();
+        else
+            ++ullLine;
+    }
+    getLogger().log( Logger::INFO_LEVEL, strText, __FILE__, __LINE__ );
+    return true;
+}
+
+XmlRelaxNGPtr XmlConfig::Impl::loadSchema( const char* in_szSchemaFile ) {
+    VELQUIN_LOG_DEBUG( getLogger(), "Validating Relax-NG file (" << in_szSchemaFile << ")..." );
+    VELQUIN_LOG_DEBUG( getLogger(), "Creating RelaxNG parser context..." );
+    LibXml2ErrorRoute errorRoute( getLogger(), in_szSchemaFile );
+    XmlDocPtr pSchemaDocument = readXmlDocument( in_szSchemaFile, getLogger() );
+    const XmlRelaxNGParserCtxtPtr pParserContext( pSchemaDocument ? xmlRelaxNGNewDocParserCtxt( pSchemaDocument.get() )
+                                                                  : nullptr );
+    if ( !pParserContext ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "failed to load the schema file : " << in_szSchemaFile );
+        return nullptr;
+    }
+    xmlRelaxNGSetParserStructuredErrors( pParserContext.get(), &LibXml2ErrorRoute::onStructuredError, &errorRoute );
+    VELQUIN_LOG_DEBUG( getLogger(), "Compiling RelaxNG schema file " << in_szSchemaFile << "..." );
+    XmlRelaxNGPtr pSchema;
+    if ( !refersToOtherFiles( reinterpret_cast<const xmlNode*>( pSchemaDocument.get() ), getLogger() ) )
+        pSchema.reset( xmlRelaxNGParse( pParserContext.get() ) );
+    if ( !pSchema )
+        VELQUIN_REPORT_ERROR( getLogger(), "Failed to parse RelaxNG schema file " << in_szSchemaFile );
+    return pSchema;
+}
+
+XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile ) {
+    VELQUIN_TRACE_SCOPE( getLogger(), "Config::loadAndValidateXmlDocument" );
+    VELQUIN_LOG_DEBUG( getLogger(), "loading PSTN configuration \nPSTN Configuration XML file: "
+                                        << in_szConfigFile << "\nRelaxNG schema file: " << in_szSchemaFile );
+    const XmlRelaxNGPtr pSchema = loadSchema( in_szSchemaFile );
+    if ( !pSchema )
+        return nullptr;
+    const XmlRelaxNGValidCtxtPtr pValidationContext( xmlRelaxNGNewValidCtxt( pSchema.get() ) );
+    if ( !pValidationContext ) {
+        VELQUIN_REPORT_ERROR( getLogger(),
+                              "failed to create a XML validation context to validate file " << in_szConfigFile );
+        return nullptr;
+    }
+    LibXml2ErrorRoute errorRoute( getLogger(), in_szConfigFile );
+    xmlRelaxNGSetValidStructuredErrors( pValidationContext.get(), &LibXml2ErrorRoute::onStructuredError, &errorRoute );
+
+    XmlDocPtr pDocument = readXmlDocument( in_szConfigFile, getLogger() );
+    if ( !pDocument ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "failed to parse XML file " << in_szConfigFile );
+        return nullptr;
+    }
+    if ( xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) != 0 ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "
+                                               << in_szConfigFile << " against schema " << in_szSchemaFile );
+        return nullptr;
+    }
+    return pDocument;
+}
+
+/// Reads the entries of one section, in document order; a section that is absent or empty is valid.
+/// @param in_readEntry reads one entry and attaches it to the model
+template <class ReadEntry>
+bool XmlConfig::Impl::loadSection( const xmlNode* in_pRootNode, const char* in_szSection, const char* in_szSubject,
+                                   ReadEntry in_readEntry ) {
+    const xmlNode* const pSection = XML::findFirstElement( in_pRootNode, in_szSection );
+    if ( !pSection )
+        return true;
+    for ( xmlNode* const pEntry : ChildElements( pSection ) ) {
+        const ReaderWording wording{};
+        const ElementReader reader( pEntry, getLogger(), wording );
+        const Entry eEntry = in_readEntry( pEntry, reader.getName() );
+        if ( eEntry == Entry::CONTAINS_ERRORS )
+            reader.reportDeclared( in_szSubject + std::string( reader.getName() ), CONTAINS_ERRORS );
+        if ( eEntry != Entry::ATTACHED )
+            return false;
+    }
+    return true;
+}
+
+bool XmlConfig::Impl::loadProvidersConfig( const xmlNode* in_pRootNode ) {
+    VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::Impl::loadProvidersConfig" );
+    const auto readEntry = [this]( xmlNode* in_pEntry, const char* in_szName ) {
+        const TSHandle<ProviderConfigXmlSerializer> pProviderConfigXmlSerializer(
+            m_pFactory->newProviderConfigXmlSerializer( in_szName ) );
+        if ( !VELQUIN_ASSERT( !pProviderConfigXmlSerializer.isNull() ) )
+            return Entry::REFUSED;
+        ProviderConfig* const pProviderConfig = pProviderConfigXmlSerializer->read( in_pEntry, *m_pOwner );
+        if ( !pProviderConfig )
+            return Entry::CONTAINS_ERRORS;
+        return m_pOwner->addProviderConfig( pProviderConfig ) ? Entry::ATTACHED : Entry::REFUSED;
+    };
+    return loadSection( in_pRootNode, "providers", "Configuration of the provider ", readEntry );
+}
+
+bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode ) {
+    VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::Impl::loadBoardsConfig" );
+    const auto readEntry = [this]( xmlNode* in_pEntry, const char* in_szName ) {
+        const TSHandle<BoardConfigXmlSerializer> pBoardConfigXmlSerializer(
+            m_pFactory->newBoardConfigXmlSerializer( in_szName ) );
+        if ( !VELQUIN_ASSERT( !pBoardConfigXmlSerializer.isNull() ) )
+            return Entry::REFUSED;
+        BoardConfig* const pBoardConfig = pBoardConfigXmlSerializer->read( in_pEntry, *m_pOwner );
+        if ( !pBoardConfig )
+            return Entry::CONTAINS_ERRORS;
+        return m_pOwner->addBoardConfig( pBoardConfig ) ? Entry::ATTACHED : Entry::REFUSED;
+    };
+    return loadSection( in_pRootNode, "boards", "Configuration of the board ", readEntry );
+}
+
+bool XmlConfig::Impl::loadInterfacePhysicalsConfig( const xmlNode* in_pRootNode ) {
+    VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::Impl::loadInterfacePhysicalsConfig" );
+    const auto readEntry = [this]( xmlNode* in_pEntry, const char* in_szName ) {
+        const TSHandle<InterfacePhysicalConfigXmlSerializer> pInterfacePhysicalConfigXmlSerializer(
+            m_pFactory->newInterfacePhysicalConfigXmlSerializer( in_szName ) );
+        if ( !VELQUIN_ASSERT( !pInterfacePhysicalConfigXmlSerializer.isNull() ) )
+            return Entry::REFUSED;
+        // The interfaces hold what was read.
+        return pInterfacePhysicalConfigXmlSerializer->read( in_pEntry, *m_pOwner ).isNull() ? Entry::CONTAINS_ERRORS
+                                                                                            : Entry::ATTACHED;
+    };
+    return loadSection( in_pRootNode, "physicalInterfaceConfigs", "Configuration of the physical configuration ",
+                        readEntry );
+}
+
+bool XmlConfig::Impl::loadCallControlConfig( const xmlNode* in_pRootNode ) {
+    VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::Impl::loadCallControlConfig" );
+    xmlNode* const pCallControl = XML::findFirstElement( in_pRootNode, "callControl" );
+    if ( !pCallControl ) {
+        const ElementPlace place( in_pRootNode );
+        VELQUIN_REPORT_ERROR( getLogger(), "Can't load call control parameters. Make sure to have a \"callControl\" "
+                                           "element your   configuration file." );
+        return false;
+    }
+    const ReaderWording wording{};
+    const ElementReader reader( pCallControl, getLogger(), wording );
+    CallControlConfigXmlSerializer callControlXmlSerializer;
+    TSHandle<CallControlConfig> hCallControlConfig = callControlXmlSerializer.read( pCallControl, *m_pOwner );
+    if ( hCallControlConfig.isNull() ) {
+        reader.reportDeclared( "Call Control configuration", CONTAINS_ERRORS );
+        return false;
+    }
+    if ( !m_pOwner->setCallControlConfig( hCallControlConfig ) ) {
+        reader.reportDeclared( "Could not set Call Control configuration", CONTAINS_ERRORS );
+        return false;
+    }
+    return true;
+}
+
+bool XmlConfig::Impl::crossCheck( const xmlNode* in_pRootNode ) const {
+    ModelLocator locator( in_pRootNode );
+    bool bSound = true;
+    for ( const CrossCheck check : getCrossChecks() ) {
+        CrossCheckFindings findings;
+        const bool bAnswered = check( *m_pOwner, findings );
+        for ( CrossCheckFinding& finding : findings ) {
+            const xmlNode* const pElement = locator.find( finding.bAnalog, finding.uBoardId, finding.uInterfaceId );
+            const ElementPlace place( pElement ? pElement : in_pRootNode );
+            reportFinding( getLogger(), Logger::ERROR_LEVEL, std::move( finding.strText ), __FILE__, __LINE__ );
+        }
+        if ( !bAnswered )
+            return false;
+        bSound = bSound && findings.empty();
+    }
+    return bSound;
+}
+
+XmlConfig::XmlConfig() : m_pImpl( new Impl() ) {}
+
+XmlConfig::XmlConfig( const XmlConfig& ) = default;
+XmlConfig& XmlConfig::operator=( const XmlConfig& ) = default;
+XmlConfig::~XmlConfig() = default;
+
+bool XmlConfig::load( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent ) try {
+    if ( !VELQUIN_ASSERT( in_szConfigFile != nullptr ) || !VELQUIN_ASSERT( in_szSchemaFile != nullptr ) )
+        return false;
+    return m_pImpl->load( *this, in_szConfigFile, in_szSchemaFile, in_bLogContent );
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+bool XmlConfig::load( const ROConfiguration& in_configuration, bool in_bLogContent ) try {
+    VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::load" );
+    const PSTNConfigParamDefs& paramDefs = PSTNConfigParamDefs::getInstance();
+    const auto getParameter = [&in_configuration]( const char* in_szName, std::string& out_strValue ) {
+        if ( in_configuration.getString( in_szName, out_strValue ) )
+            return true;
+        VELQUIN_REPORT_ERROR( getLogger(), "Can't find global configuration parameter: " << in_szName << "." );
+        return false;
+    };
+    std::string strConfigFile;
+    std::string strSchemaFile;
+    return getParameter( paramDefs.getConfigFile().szName, strConfigFile ) &&
+           getParameter( paramDefs.getSchemaFile().szName, strSchemaFile ) &&
+           load( strConfigFile.c_str(), strSchemaFile.c_str(), in_bLogContent );
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+const XmlSerializerObjectFactory& XmlConfig::getXmlSerializerObjectFactory() const noexcept {
+    return m_pImpl->getFactory();
+}
+
+bool XmlConfig::writeXML( _xmlDoc* in_pDocument ) const try {
+    VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::writeXML" );
+    const XML::LibraryScope library;
+    XmlNodePtr pNewRoot( in_pDocument ? xmlNewDocNode( in_pDocument, nullptr, toXml( "pstnConfig" ), nullptr )
+                                      : nullptr );
+    if ( !pNewRoot ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "Can not create root element." );
+        return false;
+    }
+    xmlNode* const pRoot = pNewRoot.release();
+    XmlNodePtr( xmlDocSetRootElement( in_pDocument, pRoot ) ).reset(); // frees a root that was there before
+    xmlNode* const pBoards =
+        xmlNewProp( pRoot, toXml( "version" ), toXml( "2.3" ) ) ? addChildElement( pRoot, "boards" ) : nullptr;
+    if ( !pBoards ) {
+        VELQUIN_REPORT_ERROR( getLogger(), "Can not add \"boards\" XML element." );
+        return false;
+    }
+    const auto writeBoards = [this, pBoards]( const auto& in_mapBoards, const char* in_szFailure ) {
+        for ( const auto& [uBoardId, hBoardCfg] : in_mapBoards ) {
+            if ( !VELQUIN_ASSERT( !hBoardCfg.isNull() ) )
+                return false;
+            const TSHandle<BoardConfigXmlSerializer> hXmlSerializer(
+                getXmlSerializerObjectFactory().newBoardConfigXmlSerializer( *hBoardCfg ) );
+            if ( hXmlSerializer.isNull() || !hXmlSerializer->write( pBoards, *hBoardCfg ) ) {
+                VELQUIN_REPORT_ERROR( getLogger(), in_szFailure );
+                return false;
+            }
+        }
+        return true;
+    };
+    return writeBoards( getDigitalBoardsConfig(), "Can not add digital boards elements." ) &&
+           writeBoards( getAnalogBoardsConfig(), "Can not add analog boards elements." );
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <string>
+
+#include <velquin/Assertion.h>
+
+#include "loading/XmlConfig.h"
+#include "physical/PhysicalWording.h"
+#include "xml/ChildElements.h"
+#include "xml/InterfaceReference.h"
+
+namespace Velquin::Pstn {
+
+/// Finds the interfaces that one entry of `applyTo` names. The vector must be empty.
+template <class TKind>
+bool resolveInterfaces( xmlNode* in_pEntry, const Config& in_config, const Logger& in_logger,
+                        typename TKind::Interfaces& out_vecInterfaceConfig ) {
+    if ( !VELQUIN_ASSERT( out_vecInterfaceConfig.empty() ) )
+        return false;
+    const ElementReader reader( in_pEntry, in_logger, PHYSICAL_SETTING_WORDING );
+    InterfaceReference<TKind> reference( reader, in_logger, LEADING_DECIMAL );
+    if ( !reference.readBoard( in_config ) )
+        return false;
+    const ReadResult eResult = reference.readInterface();
+    const std::string strFailure = std::string( "failed to retrieve " ) + TKind::NAME + " interfaces of board ID=";
+    if ( eResult == ReadResult::WRONG ||
+         ( eResult == ReadResult::ABSENT && !reference.takeAllInterfaces( strFailure.c_str() ) ) )
+        return false;
+    out_vecInterfaceConfig = reference.getInterfaces();
+    return true;
+}
+
+/// Applies a physical configuration to the interfaces that its `applyTo` element names. An interface takes one
+/// physical configuration only; those that came before a fault keep it.
+/// @param in_onApplied called for each interface that took it; false is a fault
+template <class TKind, class TPhysicalConfig, class OnApplied>
+bool applyToInterfaces( const ElementReader& in_reader, XmlConfig& in_xmlConfig, const Logger& in_logger,
+                        const TSHandle<TPhysicalConfig>& in_hPhysicalConfig, OnApplied in_onApplied ) {
+    xmlNode* const pApplyTo = in_reader.as( PHYSICAL_CHILD_WORDING ).requireChild( "applyTo" );
+    if ( !pApplyTo )
+        return false;
+    for ( xmlNode* const pEntry : ChildElements( pApplyTo ) ) {
+        const ElementPlace place( pEntry );
+        typename TKind::Interfaces vecInterfaces;
+        if ( !resolveInterfaces<TKind>( pEntry, in_xmlConfig, in_logger, vecInterfaces ) )
+            return false;
+        for ( const auto& hInterface : vecInterfaces ) {
+            if ( !hInterface->getPhysicalConfig().isNull() ) {
+                VELQUIN_REPORT_ERROR( in_logger, "Interface boardID="
+                                                     << hInterface->getBoardConfig()->getId()
+                                                     << " interfaceID=" << hInterface->getId()
+                                                     << " already as a physical configuration. Make sure to apply "
+                                                        "only one physical configuration per interface." );
+                return false;
+            }
+            if ( !hInterface->setPhysicalConfig( in_hPhysicalConfig ) || !in_onApplied( *hInterface ) )
+                return false;
+        }
+    }
+    return true;
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,7 @@
+#include "physical/audio/AcousticEchoCancellationConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( AcousticEchoCancellationConfig );
+
+} // namespace Velquin::Pstn

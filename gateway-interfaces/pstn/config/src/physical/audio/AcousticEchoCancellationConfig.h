@@ -1,0 +1,18 @@
+#pragma once
+
+#include <velquin/Object.h>
+
+#include "PstnConfigClass.h"
+#include "PstnConfigExport.h"
+
+namespace Velquin::Pstn {
+
+/// Cancellation of the echo between a telephone's loudspeaker and microphone (ITU-T G.167). Base of what performs it.
+class VELQUIN_PSTN_CONFIG_EXPORT AcousticEchoCancellationConfig : public virtual Object {
+    PSTN_CONFIG_CLASS( AcousticEchoCancellationConfig );
+
+protected:
+    AcousticEchoCancellationConfig() = default;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,7 @@
+#include "physical/audio/AcousticEchoCancellationConfigXmlSerializer.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( AcousticEchoCancellationConfigXmlSerializer );
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "physical/audio/AcousticEchoCancellationConfig.h"
+#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+
+namespace Velquin::Pstn {
+
+/// Base of the readers of an `AcousticEchoCancellation` element.
+class VELQUIN_PSTN_CONFIG_EXPORT AcousticEchoCancellationConfigXmlSerializer
+    : public VoiceProcessingConfigXmlSerializer<AcousticEchoCancellationConfigXmlSerializer,
+                                                AcousticEchoCancellationConfig> {
+    PSTN_CONFIG_CLASS( AcousticEchoCancellationConfigXmlSerializer );
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,100 @@
+#include "physical/audio/AudioConfigXmlSerializer.h"
+
+#include <velquin/UniqueObjPtr.h>
+
+#include "loading/XmlConfig.h"
+#include "physical/audio/AcousticEchoCancellationConfigXmlSerializer.h"
+#include "physical/audio/AudioWording.h"
+#include "physical/audio/BackgroundNoiseAttenuationConfigXmlSerializer.h"
+#include "physical/audio/DtmfRemovalConfigXmlSerializer.h"
+#include "physical/audio/EchoCancellationConfigXmlSerializer.h"
+#include "physical/audio/LevelControlConfigXmlSerializer.h"
+#include "xml/Keywords.h"
+#include "xml/NotImplemented.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( AudioConfigXmlSerializer );
+
+namespace {
+
+/// One voice-processing block: where it stands, who makes its serializer, where it goes.
+template <class TXmlSerializer, class TConfig>
+struct Block {
+    const char* szElement;
+    TXmlSerializer* ( XmlSerializerObjectFactory::*newXmlSerializer )( const char* ) const;
+    bool ( AudioConfig::*setConfig )( TConfig* );
+    const char* szFailure;
+};
+
+template <class TXmlSerializer, class TConfig>
+bool readBlock( const ElementReader& in_audioReader, XmlConfig& in_xmlConfig, AudioConfig& out_config,
+                const Logger& in_logger, const Block<TXmlSerializer, TConfig>& in_block ) {
+    xmlNode* const pBlock = in_audioReader.requireChild( in_block.szElement );
+    if ( !pBlock )
+        return false;
+    const ElementReader reader( pBlock, in_logger, AUDIO_WORDING );
+    AttributeText type;
+    if ( !reader.requireText( "type", type ) )
+        return false;
+    const UniqueObjPtr<TXmlSerializer> pXmlSerializer(
+        ( in_xmlConfig.getXmlSerializerObjectFactory().*in_block.newXmlSerializer )( type.c_str() ) );
+    if ( !VELQUIN_ASSERT( !pXmlSerializer.isNull() ) )
+        return false;
+    TConfig* const pConfig = pXmlSerializer->read( pBlock, in_xmlConfig );
+    if ( !pConfig ) {
+        VELQUIN_REPORT_ERROR( in_logger, in_block.szFailure );
+        return false;
+    }
+    return ( out_config.*in_block.setConfig )( pConfig );
+}
+
+} // namespace
+
+AudioConfig* AudioConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
+    const ElementReader reader( in_pElement, getLogger(), AUDIO_WORDING );
+    UniqueObjPtr<AudioConfig> pAudioConfig( newAudioConfig() );
+    if ( !VELQUIN_ASSERT( !pAudioConfig.isNull() ) )
+        return nullptr;
+
+    auto ePcmLaw = Media::Format::UNKNOWN;
+    if ( !reader.requireSchemaKeyword( "defaultPcmLaw", Keywords::PCM_LAW, ePcmLaw ) )
+        return nullptr;
+    Media::Format mediaFormat;
+    mediaFormat.initFrom( ePcmLaw );
+    pAudioConfig->setMediaFormat( mediaFormat );
+
+    AttributeText toneSetName;
+    if ( !reader.requireText( "toneSetName", toneSetName ) || !pAudioConfig->setToneSetName( toneSetName.c_str() ) )
+        return nullptr;
+
+    using Factory = XmlSerializerObjectFactory;
+    const auto read = [&]( const auto& in_block ) {
+        return readBlock( reader, in_xmlConfig, *pAudioConfig, getLogger(), in_block );
+    };
+    const bool bRead =
+        read( Block{ "EchoCancellation", &Factory::newEchoCancellationConfigXmlSerializer,
+                     &AudioConfig::setEchoCancellationConfig, "failed to read echo cancellation configuration" } ) &&
+        read( Block{ "AcousticEchoCancellation", &Factory::newAcousticEchoCancellationConfigXmlSerializer,
+                     &AudioConfig::setAcousticEchoCancellationConfig,
+                     "failed to read echo cancellation configuration" } ) &&
+        read( Block{ "LevelControl", &Factory::newLevelControlConfigXmlSerializer, &AudioConfig::setLevelControlConfig,
+                     "failed to read level control configuration" } ) &&
+        read( Block{ "BackgroundNoiseAttenuation", &Factory::newBackgroundNoiseAttenuationConfigXmlSerializer,
+                     &AudioConfig::setBackgroundNoiseAttenuationConfig,
+                     "failed to read background noise attenuation configuration" } ) &&
+        read( Block{ "DTMFRemoval", &Factory::newDtmfRemovalConfigXmlSerializer, &AudioConfig::setDtmfRemovalConfig,
+                     "failed to read DTMF removal configuration" } );
+    return bRead ? pAudioConfig.release() : nullptr;
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool AudioConfigXmlSerializer::write( xmlNode* const, const AudioConfig& ) {
+    return reportNotImplemented( getLogger(), "AudioConfigXmlSerializer::write" );
+}
+
+AudioConfig* AudioConfigXmlSerializer::newAudioConfig() {
+    return new AudioConfig();
+}
+
+} // namespace Velquin::Pstn

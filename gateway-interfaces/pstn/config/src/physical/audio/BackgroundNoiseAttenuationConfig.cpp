@@ -1,0 +1,7 @@
+#include "physical/audio/BackgroundNoiseAttenuationConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( BackgroundNoiseAttenuationConfig );
+
+} // namespace Velquin::Pstn

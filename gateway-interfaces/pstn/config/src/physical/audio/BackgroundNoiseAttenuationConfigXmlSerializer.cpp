@@ -1,0 +1,7 @@
+#include "physical/audio/BackgroundNoiseAttenuationConfigXmlSerializer.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( BackgroundNoiseAttenuationConfigXmlSerializer );
+
+} // namespace Velquin::Pstn

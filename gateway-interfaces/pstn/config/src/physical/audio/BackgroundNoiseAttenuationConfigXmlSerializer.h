@@ -1,0 +1,15 @@
+#pragma once
+
+#include "physical/audio/BackgroundNoiseAttenuationConfig.h"
+#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+
+namespace Velquin::Pstn {
+
+/// Base of the readers of a `BackgroundNoiseAttenuation` element.
+class VELQUIN_PSTN_CONFIG_EXPORT BackgroundNoiseAttenuationConfigXmlSerializer
+    : public VoiceProcessingConfigXmlSerializer<BackgroundNoiseAttenuationConfigXmlSerializer,
+                                                BackgroundNoiseAttenuationConfig> {
+    PSTN_CONFIG_CLASS( BackgroundNoiseAttenuationConfigXmlSerializer );
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,7 @@
+#include "physical/audio/DtmfRemovalConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( DtmfRemovalConfig );
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <velquin/Object.h>
+
+#include "PstnConfigClass.h"
+#include "PstnConfigExport.h"
+
+namespace Velquin::Pstn {
+
+/// Removal of DTMF tones (ITU-T Q.23) from the voice. Base of what performs it.
+class VELQUIN_PSTN_CONFIG_EXPORT DtmfRemovalConfig : public virtual Object {
+    PSTN_CONFIG_CLASS( DtmfRemovalConfig );
+
+protected:
+    DtmfRemovalConfig() = default;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "physical/audio/DtmfRemovalConfig.h"
+#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+
+namespace Velquin::Pstn {
+
+/// Base of the readers of a `DTMFRemoval` element.
+class VELQUIN_PSTN_CONFIG_EXPORT DtmfRemovalConfigXmlSerializer
+    : public VoiceProcessingConfigXmlSerializer<DtmfRemovalConfigXmlSerializer, DtmfRemovalConfig> {
+    PSTN_CONFIG_CLASS( DtmfRemovalConfigXmlSerializer );
+};
+
+} // namespace Velquin::Pstn

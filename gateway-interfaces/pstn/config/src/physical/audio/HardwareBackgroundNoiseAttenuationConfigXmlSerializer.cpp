@@ -1,0 +1,37 @@
+#include "physical/audio/HardwareBackgroundNoiseAttenuationConfigXmlSerializer.h"
+
+#include "xml/ElementReader.h"
+#include "xml/Keywords.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( HardwareBackgroundNoiseAttenuationConfigXmlSerializer );
+
+namespace {
+
+constexpr ReaderWording WORDING{ " for background noise attenuation config ",
+                                 " for background noise attenuation config " };
+
+} // namespace
+
+bool HardwareBackgroundNoiseAttenuationConfigXmlSerializer::readAttributes(
+    xmlNode* in_pElement, HardwareBackgroundNoiseAttenuationConfig& out_config ) {
+    const ElementReader reader( in_pElement, getLogger(), WORDING );
+    bool bEnabled = false;
+    if ( !reader.requireSchemaKeyword( "mode", Keywords::ENABLED_DISABLED, bEnabled ) )
+        return false;
+    out_config.enable( bEnabled );
+
+    auto eDirection = out_config.getDirection();
+    if ( !reader.requireSchemaKeyword( "direction", Keywords::VOICE_DIRECTION, eDirection ) )
+        return false;
+    out_config.setDirection( eDirection );
+
+    int nAttenuation = 0;
+    if ( !reader.requireNumber( "attenuationIndB", LEADING_DECIMAL, nAttenuation ) )
+        return false;
+    out_config.setAttenuation( nAttenuation );
+    return true;
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,7 @@
+#include "physical/audio/HardwareDtmfRemovalConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( HardwareDtmfRemovalConfig );
+
+} // namespace Velquin::Pstn

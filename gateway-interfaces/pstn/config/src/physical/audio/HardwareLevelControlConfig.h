@@ -1,0 +1,36 @@
+#pragma once
+
+#include "physical/audio/LevelControlConfig.h"
+#include "physical/audio/VoiceDirection.h"
+
+namespace Velquin::Pstn {
+
+/// Level control by the board's hardware.
+class VELQUIN_PSTN_CONFIG_EXPORT HardwareLevelControlConfig : public LevelControlConfig {
+    PSTN_CONFIG_CLASS( HardwareLevelControlConfig );
+
+public:
+    enum class Mode { MANUAL = 1, AUTOMATIC = 2, DISABLED = 3 };
+
+    Mode getMode() const noexcept { return m_eMode; }
+    void setMode( Mode in_eMode ) noexcept { m_eMode = in_eMode; }
+
+    VoiceDirection getDirection() const noexcept { return m_eDirection; }
+    void setDirection( VoiceDirection in_eDirection ) noexcept { m_eDirection = in_eDirection; }
+
+    /// The gain of the MANUAL mode, in dB; a negative one attenuates.
+    int getGain() const noexcept { return m_nGain; }
+    void setGain( int in_nGainIndB ) noexcept { m_nGain = in_nGainIndB; }
+
+    /// The level that the AUTOMATIC mode aims at, in dBm0.
+    int getTargetLevel() const noexcept { return m_nTargetLevel; }
+    void setTargetLevel( int in_nLevelIndBM0 ) noexcept { m_nTargetLevel = in_nLevelIndBM0; }
+
+private:
+    Mode m_eMode = Mode::DISABLED;
+    VoiceDirection m_eDirection = VoiceDirection::ALL;
+    int m_nGain = 0;
+    int m_nTargetLevel = 0;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,7 @@
+#include "physical/audio/LevelControlConfig.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( LevelControlConfig );
+
+} // namespace Velquin::Pstn

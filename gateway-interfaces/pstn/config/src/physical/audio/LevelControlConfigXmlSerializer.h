@@ -1,0 +1,14 @@
+#pragma once
+
+#include "physical/audio/LevelControlConfig.h"
+#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+
+namespace Velquin::Pstn {
+
+/// Base of the readers of a `LevelControl` element.
+class VELQUIN_PSTN_CONFIG_EXPORT LevelControlConfigXmlSerializer
+    : public VoiceProcessingConfigXmlSerializer<LevelControlConfigXmlSerializer, LevelControlConfig> {
+    PSTN_CONFIG_CLASS( LevelControlConfigXmlSerializer );
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,38 @@
+#include "physical/audio/TirvanaAudioConfigXmlSerializer.h"
+
+#include <velquin/UniqueObjPtr.h>
+
+#include "physical/audio/AudioWording.h"
+#include "physical/audio/TirvanaAudioConfig.h"
+#include "xml/NotImplemented.h"
+
+namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( TirvanaAudioConfigXmlSerializer );
+
+AudioConfig* TirvanaAudioConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
+    UniqueObjPtr<AudioConfig> pAudioConfig( AudioConfigXmlSerializer::read( in_pElement, in_xmlConfig ) );
+    if ( pAudioConfig.isNull() )
+        return nullptr;
+    auto pTirvanaAudioConfig = dynamicOwnerCast<TirvanaAudioConfig>( std::move( pAudioConfig ) );
+    if ( !VELQUIN_ASSERT( !pTirvanaAudioConfig.isNull() ) )
+        return nullptr;
+
+    const ElementReader reader( in_pElement, getLogger(), AUDIO_WORDING );
+    unsigned long long ullVoicePacketLength = 0;
+    if ( !reader.requireNumber( "voicePacketLengthInMs", LEADING_DECIMAL, ullVoicePacketLength ) )
+        return nullptr;
+    pTirvanaAudioConfig->setVoicePacketLength( ullVoicePacketLength );
+    return pTirvanaAudioConfig.release();
+}
+VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
+
+bool TirvanaAudioConfigXmlSerializer::write( xmlNode* const, const AudioConfig& ) {
+    return reportNotImplemented( getLogger(), "TirvanaAudioConfigXmlSerializer::write" );
+}
+
+AudioConfig* TirvanaAudioConfigXmlSerializer::newAudioConfig() {
+    return new TirvanaAudioConfig();
+}
+
+} // namespace Velquin::Pstn

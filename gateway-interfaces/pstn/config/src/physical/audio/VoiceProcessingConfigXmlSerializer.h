@@ -1,0 +1,71 @@
+#pragma once
+
+#include <string>
+
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
+#include <velquin/Object.h>
+#include <velquin/UniqueObjPtr.h>
+
+#include "xml/NotImplemented.h"
+#include "xml/XmlNodeFwd.h"
+
+namespace Velquin::Pstn {
+
+class XmlConfig;
+
+/// Reads one voice-processing block of an `audio` element. What the five blocks have in common: `TSelf` is the block's
+/// serializer, `TConfig` its model class.
+template <class TSelf, class TConfig>
+class VoiceProcessingConfigXmlSerializer : public virtual Object {
+public:
+    /// A new block, which the caller owns; null after an ERROR line. Reads no attribute: those belong to what performs
+    /// the block.
+    virtual TConfig* read( xmlNode* const, XmlConfig& ) try {
+        UniqueObjPtr<TConfig> pConfig( newConfig() );
+        if ( pConfig.isNull() ) {
+            const std::string strExpression = "!p" + std::string( TConfig::getMemAccountName() ) + ".isNull()";
+            const Assertion assertion( false, strExpression.c_str(), TSelf::getMemAccountName(), __LINE__ );
+        }
+        return pConfig.release();
+    }
+    VELQUIN_CATCH_AND_RETURN( TSelf::getLogger(), nullptr )
+
+    /// Not implemented: false, with an ERROR line.
+    virtual bool write( xmlNode* const, const TConfig& ) { return reportWriteNotImplemented<TSelf>(); }
+
+    /// Creates the empty object of the class that performs the block, which the caller owns; null in this class.
+    virtual TConfig* newConfig() { return nullptr; }
+
+protected:
+    template <class TSerializer>
+    static bool reportWriteNotImplemented() noexcept try {
+        const std::string strOperation = std::string( TSerializer::getMemAccountName() ) + "::write";
+        return reportNotImplemented( TSerializer::getLogger(), strOperation.c_str() );
+    }
+    VELQUIN_CATCH_AND_RETURN( TSerializer::getLogger(), false )
+};
+
+/// Reads a block that the board's hardware performs. `TSelf::readAttributes` reads the attributes of the block.
+template <class TSelf, class TGeneric, class THardwareConfig>
+class HardwareVoiceProcessingConfigXmlSerializer : public TGeneric {
+public:
+    using Config = decltype( TGeneric().newConfig() );
+
+    Config read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) override try {
+        UniqueObjPtr pConfig( TGeneric::read( in_pElement, in_xmlConfig ) );
+        auto pHardwareConfig = dynamicOwnerCast<THardwareConfig>( std::move( pConfig ) );
+        if ( !VELQUIN_ASSERT( !pHardwareConfig.isNull() ) || !TSelf::readAttributes( in_pElement, *pHardwareConfig ) )
+            return nullptr;
+        return pHardwareConfig.release();
+    }
+    VELQUIN_CATCH_AND_RETURN( TSelf::getLogger(), nullptr )
+
+    bool write( xmlNode* const, std::add_lvalue_reference_t<const std::remove_pointer_t<Config>> ) override {
+        return TGeneric::template reportWriteNotImplemented<TSelf>();
+    }
+
+    Config newConfig() override { return new THardwareConfig(); }
+};
+
+} // namespace Velquin::Pstn

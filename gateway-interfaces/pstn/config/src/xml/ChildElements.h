@@ -1,0 +1,40 @@
+#pragma once
+
+#include <velquin/XML.h>
+
+#include <libxml/tree.h>
+
+namespace Velquin::Pstn {
+
+/// The child elements of an element, or those of one name, in document order, for a range-based for.
+class ChildElements {
+public:
+    class Iterator {
+    public:
+        Iterator( xmlNode* in_pElement, const char* in_szName ) noexcept
+            : m_pElement( in_pElement ), m_szName( in_szName ) {}
+        xmlNode* operator*() const noexcept { return m_pElement; }
+        Iterator& operator++() {
+            m_pElement = XML::findNextElement( m_pElement, m_szName );
+            return *this;
+        }
+        bool operator==( const Iterator& in_other ) const noexcept { return m_pElement == in_other.m_pElement; }
+
+    private:
+        xmlNode* m_pElement;
+        const char* m_szName;
+    };
+
+    explicit ChildElements( const xmlNode* in_pParent, const char* in_szName = nullptr ) noexcept
+        : m_pParent( in_pParent ), m_szName( in_szName ) {}
+
+    Iterator begin() const { return { XML::findFirstElement( m_pParent, m_szName ), m_szName }; }
+    Iterator end() const noexcept { return { nullptr, m_szName }; }
+    bool empty() const { return begin() == end(); }
+
+private:
+    const xmlNode* m_pParent;
+    const char* m_szName;
+};
+
+} // namespace Velquin::Pstn

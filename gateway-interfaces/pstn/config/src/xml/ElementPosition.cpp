@@ -1,0 +1,28 @@
+#include "xml/ElementPosition.h"
+
+#include <cstdint>
+
+#include "xml/LibXml2.h"
+
+namespace Velquin::Pstn {
+
+void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept {
+    in_pElement->_private = reinterpret_cast<void*>( static_cast<std::uintptr_t>( in_ullLine ) );
+}
+
+unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept {
+    if ( in_pElement->_private )
+        return reinterpret_cast<std::uintptr_t>( in_pElement->_private );
+    const long nLine = xmlGetLineNo( const_cast<xmlNode*>( in_pElement ) );
+    return nLine > 0 ? static_cast<unsigned long long>( nLine ) : 0;
+}
+
+std::string getElementPath( const xmlNode* in_pElement ) {
+    return fromXml( XmlStringPtr( xmlGetNodePath( const_cast<xmlNode*>( in_pElement ) ) ).get() );
+}
+
+const char* getElementFile( const xmlNode* in_pElement ) noexcept {
+    return in_pElement->doc ? fromXml( in_pElement->doc->URL ) : "";
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,153 @@
+#include "xml/ElementReader.h"
+
+#include <cstring>
+#include <utility>
+
+#include <velquin/Assertion.h>
+#include <velquin/XML.h>
+
+#include "xml/ElementPosition.h"
+
+namespace Velquin::Pstn {
+
+namespace {
+
+void locateElement( const xmlNode* in_pElement, Finding& inout_finding ) {
+    if ( inout_finding.strFile.empty() )
+        inout_finding.strFile = getElementFile( in_pElement );
+    if ( inout_finding.ullLine == 0 )
+        inout_finding.ullLine = getElementLine( in_pElement );
+    if ( inout_finding.strElementPath.empty() )
+        inout_finding.strElementPath = getElementPath( in_pElement );
+}
+
+/// The place of an assertion about one attribute.
+class AttributePlace : public FindingPlace {
+public:
+    AttributePlace( const xmlNode* in_pElement, const char* in_szAttribute, std::string_view in_strValue ) noexcept
+        : m_pElement( in_pElement ), m_szAttribute( in_szAttribute ), m_strValue( in_strValue ) {}
+
+    void locate( Finding& inout_finding ) const override {
+        locateElement( m_pElement, inout_finding );
+        inout_finding.strAttribute = m_szAttribute;
+        inout_finding.strValue = m_strValue;
+    }
+
+private:
+    const xmlNode* m_pElement;
+    const char* m_szAttribute;
+    std::string_view m_strValue;
+};
+
+const xmlAttr* findAttribute( const xmlNode* in_pElement, const char* in_szAttribute ) {
+    for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute; pAttribute = pAttribute->next ) {
+        if ( !pAttribute->ns && std::strcmp( fromXml( pAttribute->name ), in_szAttribute ) == 0 )
+            return pAttribute;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+ReadResult AttributeReader::findText( const char* in_szAttribute, AttributeText& out_text ) const {
+    const xmlAttr* const pAttribute = findAttribute( m_pElement, in_szAttribute );
+    if ( !pAttribute )
+        return ReadResult::ABSENT;
+    const xmlNode* const pText = pAttribute->children;
+    out_text.m_pCopy.reset();
+    if ( !pText ) {
+        out_text.m_szText = "";
+    } else if ( !pText->next && pText->type == XML_TEXT_NODE ) {
+        out_text.m_szText = fromXml( pText->content );
+    } else {
+        out_text.m_pCopy.reset( xmlNodeListGetString( m_pElement->doc, pText, 1 ) );
+        out_text.m_szText = fromXml( out_text.m_pCopy.get() );
+    }
+    return ReadResult::READ;
+}
+
+bool AttributeReader::requireText( const char* in_szAttribute, AttributeText& out_text ) const {
+    if ( findText( in_szAttribute, out_text ) == ReadResult::READ )
+        return true;
+    reportMissing( in_szAttribute );
+    return false;
+}
+
+xmlNode* AttributeReader::requireChild( const char* in_szName ) const {
+    xmlNode* const pChild = XML::findFirstElement( m_pElement, in_szName );
+    if ( !pChild )
+        reportMissingChild( in_szName );
+    return pChild;
+}
+
+void AttributeReader::reportMissing( const char* in_szAttribute ) const {
+    Finding finding;
+    finding.eKind = Finding::Kind::MISSING_ATTRIBUTE;
+    finding.strAttribute = in_szAttribute;
+    report( std::move( finding ), m_pWording->strMissingLead, m_pWording->strMissingNoun, m_pWording->strMissingTail );
+}
+
+void AttributeReader::reportMissingChild( std::string_view in_strName ) const {
+    Finding finding;
+    finding.eKind = Finding::Kind::MISSING_ELEMENT;
+    finding.strAttribute = in_strName;
+    report( std::move( finding ), m_pWording->strMissingLead, m_pWording->strMissingNoun, m_pWording->strMissingTail );
+}
+
+void AttributeReader::reportInvalid( const char* in_szAttribute, std::string_view in_strValue,
+                                     std::string_view in_strHint ) const {
+    Finding finding;
+    finding.eKind = Finding::Kind::INVALID_VALUE;
+    finding.strAttribute = in_szAttribute;
+    finding.strValue = in_strValue;
+    finding.strHint = in_strHint;
+    const std::string strMiddle = "=" + finding.strValue + std::string( m_pWording->strInvalidNoun );
+    const std::string strTail = ". " + finding.strHint;
+    report( std::move( finding ), m_pWording->strInvalidLead, strMiddle, strTail );
+}
+
+void AttributeReader::report( Finding in_finding, std::string_view in_strLead, std::string_view in_strMiddle,
+                              std::string_view in_strTail ) const {
+    in_finding.strElementPath = getElementPath( m_pElement );
+    in_finding.strText.append( in_strLead )
+        .append( in_finding.strElementPath )
+        .append( "/" )
+        .append( in_finding.strAttribute )
+        .append( in_strMiddle )
+        .append( getName() );
+    reportDeclared( std::move( in_finding ), in_strTail );
+}
+
+void AttributeReader::reportDeclared( std::string_view in_strSubject, std::string_view in_strTail ) const {
+    Finding finding;
+    finding.strText = in_strSubject;
+    reportDeclared( std::move( finding ), in_strTail );
+}
+
+void AttributeReader::reportDeclared( Finding in_finding, std::string_view in_strTail ) const {
+    locateElement( m_pElement, in_finding );
+    in_finding.strMessage = in_finding.strText + std::string( in_strTail );
+    in_finding.strText.append( " declared in file " )
+        .append( in_finding.strFile )
+        .append( " at line " )
+        .append( std::to_string( in_finding.ullLine ) )
+        .append( in_strTail );
+    reportFinding( *m_pLogger, std::move( in_finding ), __FILE__, __LINE__ );
+}
+
+void AttributeReader::assertKeyword( const char* in_szAttribute, std::string_view in_strValue,
+                                     std::span<const std::string_view> in_aKeywords, SourcePlace in_where ) const {
+    std::string strExpression;
+    for ( const std::string_view strKeyword : in_aKeywords ) {
+        strExpression.append( strExpression.empty() ? "" : " || " ).append( in_szAttribute );
+        strExpression.append( " == \"" ).append( strKeyword ).append( "\"" );
+    }
+    const AttributePlace place( m_pElement, in_szAttribute, in_strValue );
+    const Assertion assertion( false, strExpression.c_str(), in_where.szFile, in_where.nLine );
+}
+
+void ElementPlace::locate( Finding& inout_finding ) const {
+    locateElement( m_pElement, inout_finding );
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include <libxml/tree.h>
+
+#include <velquin/Logger.h>
+
+namespace Velquin::Pstn {
+
+/// Appends a new child element to the parent; null when libxml2 can't. Nothing is logged.
+xmlNode* addChildElement( xmlNode* in_pParent, const char* in_szName );
+
+/// Writes the attributes of one element. A failure is reported as "Failed to add " + attribute +
+/// " to board XML element.", and the result is false.
+class ElementWriter {
+public:
+    ElementWriter( xmlNode* in_pElement, const Logger& in_logger ) noexcept
+        : m_pElement( in_pElement ), m_logger( in_logger ) {}
+
+    bool addText( const char* in_szAttribute, const char* in_szValue ) const;
+    bool addNumber( const char* in_szAttribute, unsigned long long in_ullValue ) const {
+        return addText( in_szAttribute, std::to_string( in_ullValue ).c_str() );
+    }
+
+private:
+    xmlNode* m_pElement;
+    const Logger& m_logger;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include <velquin/Finding.h>
+
+#include "hardware/InterfaceKind.h"
+#include "xml/ElementReader.h"
+
+namespace Velquin::Pstn {
+
+/// An element that names a board in `boardID`, and an interface of it in `interfaceID` or, without that, all of them.
+/// The two attributes are read one by one, since some readers have others in between. What is wrong is reported in the
+/// words of the reader.
+template <class TKind>
+class InterfaceReference {
+public:
+    InterfaceReference( const AttributeReader& in_reader, const Logger& in_logger, const NumberRule& in_rule ) noexcept
+        : m_reader( in_reader ), m_logger( in_logger ), m_rule( in_rule ) {}
+
+    /// Finds the board among those of the model.
+    bool readBoard( const Config& in_config ) {
+        AttributeText text;
+        unsigned int uBoardId = 0;
+        if ( !m_reader.requireText( "boardID", text ) || !m_reader.takeNumber( "boardID", text, m_rule, uBoardId ) )
+            return false;
+        m_hBoard = TKind::getBoard( in_config, uBoardId );
+        if ( m_hBoard.isNull() )
+            m_reader.reportInvalid( "boardID", text.view(), "Make sure to provide a valid board ID" );
+        return !m_hBoard.isNull();
+    }
+
+    /// Finds the interface, if one is named, among those of the board.
+    /// @param in_bNameBoard whether the hint about an unknown interface ends with the board's identifier
+    ReadResult readInterface( bool in_bNameBoard = true ) {
+        AttributeText text;
+        unsigned int uInterfaceId = 0;
+        if ( m_reader.findText( "interfaceID", text ) == ReadResult::ABSENT )
+            return ReadResult::ABSENT;
+        if ( !m_reader.takeNumber( "interfaceID", text, m_rule, uInterfaceId ) )
+            return ReadResult::WRONG;
+        auto hInterface = TKind::getInterface( *m_hBoard, uInterfaceId );
+        if ( hInterface.isNull() ) {
+            std::string strHint = "Make sure to provide a valid interface ID whithin the context of boardID=";
+            if ( in_bNameBoard )
+                strHint += std::to_string( m_hBoard->getId() );
+            m_reader.reportInvalid( "interfaceID", text.view(), strHint );
+            return ReadResult::WRONG;
+        }
+        m_vecInterfaces.assign( 1, std::move( hInterface ) );
+        return ReadResult::READ;
+    }
+
+    /// Takes all interfaces of the board, ascending by identifier.
+    /// @param in_szFailure what is logged, with the board's identifier, when that fails
+    bool takeAllInterfaces( const char* in_szFailure ) {
+        if ( TKind::getInterfaces( *m_hBoard, m_vecInterfaces ) )
+            return true;
+        VELQUIN_REPORT_ERROR( m_logger, in_szFailure << m_hBoard->getId() );
+        return false;
+    }
+
+    const TSHandle<typename TKind::Board>& getBoard() const noexcept { return m_hBoard; }
+    const typename TKind::Interfaces& getInterfaces() const noexcept { return m_vecInterfaces; }
+
+private:
+    AttributeReader m_reader;
+    const Logger& m_logger;
+    const NumberRule& m_rule;
+    TSHandle<typename TKind::Board> m_hBoard;
+    typename TKind::Interfaces m_vecInterfaces;
+};
+
+} // namespace Velquin::Pstn

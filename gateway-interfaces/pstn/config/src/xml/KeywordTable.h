@@ -1,0 +1,64 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace Velquin::Pstn {
+
+/// One keyword of the format and what it stands for.
+template <class E>
+struct KeywordEntry {
+    std::string_view strKeyword;
+    E value;
+};
+
+/// The keywords of one enumeration, in the order in which they are compared. Two keywords may stand for one value; the
+/// first of them is the one that is written.
+template <class E, std::size_t N>
+class KeywordTable {
+public:
+    consteval explicit KeywordTable( const KeywordEntry<E> ( &in_aEntries )[N] ) {
+        for ( std::size_t u = 0; u < N; ++u ) {
+            m_aEntries[u] = in_aEntries[u];
+            m_aKeywords[u] = in_aEntries[u].strKeyword;
+            for ( std::size_t uEarlier = 0; uEarlier < u; ++uEarlier ) {
+                if ( m_aKeywords[uEarlier] == m_aKeywords[u] )
+                    throw "a keyword stands twice in the table";
+            }
+        }
+    }
+
+    /// What the keyword stands for (exact comparison), null when it is unknown.
+    constexpr const E* find( std::string_view in_strKeyword ) const {
+        for ( const auto& entry : m_aEntries ) {
+            if ( entry.strKeyword == in_strKeyword )
+                return &entry.value;
+        }
+        return nullptr;
+    }
+
+    /// The keyword that is written for the value, empty for a value without one. The text ends with a zero.
+    constexpr std::string_view keywordOf( const E& in_value ) const {
+        for ( const auto& entry : m_aEntries ) {
+            if ( entry.value == in_value )
+                return entry.strKeyword;
+        }
+        return {};
+    }
+
+    constexpr const std::array<KeywordEntry<E>, N>& getEntries() const { return m_aEntries; }
+    constexpr const std::array<std::string_view, N>& getKeywords() const { return m_aKeywords; }
+
+private:
+    std::array<KeywordEntry<E>, N> m_aEntries;
+    std::array<std::string_view, N> m_aKeywords;
+};
+
+/// Makes the table of an enumeration; a keyword that stands in it twice does not compile.
+template <class E, std::size_t N>
+consteval KeywordTable<E, N> keywordTable( const KeywordEntry<E> ( &in_aEntries )[N] ) {
+    return KeywordTable<E, N>( in_aEntries );
+}
+
+} // namespace Velquin::Pstn

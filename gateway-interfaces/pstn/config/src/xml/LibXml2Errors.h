@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+
+#include <libxml/xmlerror.h>
+
+#include <velquin/Finding.h>
+
+namespace Velquin::Pstn {
+
+/// Reports a finding about a file as a whole or a line of it: its message, with file and line in the log line too.
+void reportInFile( const Logger& in_logger, Finding in_finding );
+
+/// Reports what libxml2 found: its message, with file and line in the log line too.
+/// @param in_szFile the file that is meant when the error names none
+void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError& in_error, const char* in_szFile );
+
+/// Routes to a logger, at ERROR, what libxml2 reports on this thread, for as long as the object lives; then puts the
+/// program's own handlers back. It also serves as the context of libxml2's structured callbacks.
+class LibXml2ErrorRoute {
+public:
+    /// @param in_szFile the file that is meant when an error names none
+    LibXml2ErrorRoute( const Logger& in_logger, std::string in_strFile );
+    LibXml2ErrorRoute( const LibXml2ErrorRoute& ) = delete;
+    LibXml2ErrorRoute& operator=( const LibXml2ErrorRoute& ) = delete;
+    ~LibXml2ErrorRoute();
+
+    /// From now on another file is meant when an error names none.
+    void setFile( std::string in_strFile ) { m_strFile = std::move( in_strFile ); }
+
+    /// A structured error callback of libxml2, whose context is a LibXml2ErrorRoute.
+    static void onStructuredError( void* in_pRoute, xmlError* in_pError );
+
+private:
+    const Logger& m_logger;
+    std::string m_strFile;
+    xmlStructuredErrorFunc m_pOuterStructuredError;
+    void* m_pOuterStructuredContext;
+    xmlGenericErrorFunc m_pOuterGenericError;
+    void* m_pOuterGenericContext;
+};
+
+} // namespace Velquin::Pstn

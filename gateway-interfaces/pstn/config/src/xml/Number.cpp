@@ -1,0 +1,90 @@
+#include "xml/Number.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <type_traits>
+
+namespace Velquin::Pstn {
+
+namespace {
+
+bool isDigit( char in_c ) {
+    return in_c >= '0' && in_c <= '9';
+}
+
+bool isBlank( char in_c ) {
+    return in_c == ' ' || ( in_c >= '\t' && in_c <= '\r' );
+}
+
+/// The digits at the front of the text, as far as they fit.
+template <class T>
+std::optional<T> extractDigits( std::string_view in_strText, T in_max ) {
+    if ( in_strText.empty() || !isDigit( in_strText.front() ) )
+        return std::nullopt;
+    T value = 0;
+    const auto [pEnd, eError] = std::from_chars( in_strText.data(), in_strText.data() + in_strText.size(), value );
+    if ( eError != std::errc{} || value > in_max )
+        return std::nullopt;
+    return value;
+}
+
+template <std::integral T>
+std::optional<T> extract( std::string_view in_strDigits, bool in_bNegative ) {
+    using Unsigned = std::make_unsigned_t<T>;
+    const Unsigned max = static_cast<Unsigned>( std::numeric_limits<T>::max() );
+    const Unsigned limit = std::is_signed_v<T> && in_bNegative ? static_cast<Unsigned>( max + 1U ) : max;
+    const std::optional<Unsigned> magnitude = extractDigits<Unsigned>( in_strDigits, limit );
+    if ( !magnitude )
+        return std::nullopt;
+    return static_cast<T>( in_bNegative ? static_cast<Unsigned>( 0U - *magnitude ) : *magnitude );
+}
+
+template <std::floating_point T>
+std::optional<T> extract( std::string_view in_strNumber, bool in_bNegative ) {
+    if ( in_strNumber.empty() || !( isDigit( in_strNumber.front() ) || in_strNumber.front() == '.' ) )
+        return std::nullopt; // from_chars would take "inf" and "nan" too
+    const char* const pFirst = in_strNumber.data();
+    const char* const pLast = pFirst + in_strNumber.size();
+    T value = 0;
+    const auto [pEnd, eError] = std::from_chars( pFirst, pLast, value );
+    const auto isExponent = []( char in_c ) { return in_c == 'e' || in_c == 'E'; };
+    const char* const pExponent = std::find_if( pFirst, pEnd, isExponent );
+    if ( eError == std::errc::result_out_of_range ) {
+        // A stream takes what is too small for the type as zero and refuses what is too large.
+        if ( pExponent == pEnd || pExponent + 1 == pEnd || pExponent[1] != '-' )
+            return std::nullopt;
+        value = 0;
+    } else if ( eError != std::errc{} ) {
+        return std::nullopt;
+    }
+    // A stream gathers an exponent's letter as part of the number and then finds that digits are missing.
+    if ( pExponent == pEnd && pEnd != pLast && isExponent( *pEnd ) )
+        return std::nullopt;
+    return in_bNegative ? -value : value;
+}
+
+} // namespace
+
+template <class T>
+requires std::integral<T> || std::floating_point<T> std::optional<T> parseNumber( std::string_view in_strText,
+                                                                                  NumberPolicy in_ePolicy ) {
+    if ( in_ePolicy == NumberPolicy::WHOLE ) {
+        if ( !std::all_of( in_strText.begin(), in_strText.end(), isDigit ) )
+            return std::nullopt;
+        return extract<T>( in_strText, false );
+    }
+    while ( !in_strText.empty() && isBlank( in_strText.front() ) )
+        in_strText.remove_prefix( 1 );
+    const bool bNegative = !in_strText.empty() && in_strText.front() == '-';
+    if ( bNegative || ( !in_strText.empty() && in_strText.front() == '+' ) )
+        in_strText.remove_prefix( 1 );
+    return extract<T>( in_strText, bNegative );
+}
+
+template std::optional<int> parseNumber<int>( std::string_view, NumberPolicy );
+template std::optional<unsigned int> parseNumber<unsigned int>( std::string_view, NumberPolicy );
+template std::optional<unsigned long long> parseNumber<unsigned long long>( std::string_view, NumberPolicy );
+template std::optional<double> parseNumber<double>( std::string_view, NumberPolicy );
+
+} // namespace Velquin::Pstn

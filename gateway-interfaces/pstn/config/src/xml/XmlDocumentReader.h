@@ -1,0 +1,17 @@
+#pragma once
+
+#include <velquin/Logger.h>
+
+#include "xml/LibXml2.h"
+
+namespace Velquin::Pstn {
+
+/// Parses one XML file into a document of which every element knows its true line (see ElementPosition.h) and whose
+/// URL is the path as given. No other file and no network is touched, and a document that declares an entity is refused
+/// before any is expanded. Null after at least one ERROR on the logger: file can't be read, is not well-formed,
+/// declares entities.
+/// @param in_szPath a regular file
+/// @throws std::bad_alloc
+XmlDocPtr readXmlDocument( const char* in_szPath, const Logger& in_logger );
+
+} // namespace Velquin::Pstn
