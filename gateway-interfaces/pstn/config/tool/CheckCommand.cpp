@@ -1,0 +1,54 @@
+#include "CheckCommand.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include <velquin/GlobalConfig.h>
+
+#include "FindingPrinter.h"
+#include "ToolLog.h"
+#include "loading/PSTNConfigParamDefs.h"
+#include "loading/XmlConfig.h"
+
+namespace {
+
+std::string count( unsigned int in_uCount, const char* in_szWhat ) {
+    return std::to_string( in_uCount ) + " " + in_szWhat + ( in_uCount == 1 ? "" : "s" );
+}
+
+ExitCode checkFile( const std::string& in_strFile, const CheckOptions& in_options ) {
+    FindingPrinter printer( std::cout, in_strFile );
+    bool bValid = false;
+    {
+        const Velquin::FindingWatch watch(
+            [&printer]( const Velquin::Finding& in_finding ) { printer.print( in_finding ); } );
+        Velquin::Pstn::XmlConfig config;
+        bValid = config.load( in_strFile.c_str(), in_options.strSchema.c_str(), in_options.bLogContent );
+    }
+    if ( bValid ) {
+        std::cout << in_strFile << ": valid"
+                  << ( printer.getWarnings() > 0 ? " (" + count( printer.getWarnings(), "warning" ) + ")" : "" )
+                  << std::endl;
+        return EXIT_VALID;
+    }
+    const bool bNotChecked = printer.isUnreadable() || printer.concerns( in_options.strSchema );
+    std::cout << in_strFile << ( bNotChecked ? ": not checked (" : ": invalid (" )
+              << count( printer.getErrors(), "error" ) << ")" << std::endl;
+    return bNotChecked ? EXIT_NOT_CHECKED : EXIT_INVALID;
+}
+
+} // namespace
+
+ExitCode check( const CheckOptions& in_options ) {
+    setUpLog( in_options.strLogLevel );
+    Velquin::PSTNConfig::addParametersToDB();
+    if ( !in_options.strParameters.empty() &&
+         !Velquin::GlobalConfig::getInstance().loadFile( in_options.strParameters.c_str() ) ) {
+        std::cerr << "pstnconfig: can't read parameters file " << in_options.strParameters << std::endl;
+        return EXIT_NOT_CHECKED;
+    }
+    ExitCode eWorst = EXIT_VALID;
+    for ( const std::string& strFile : in_options.vecFiles )
+        eWorst = std::max( eWorst, checkFile( strFile, in_options ) );
+    return eWorst;
+}

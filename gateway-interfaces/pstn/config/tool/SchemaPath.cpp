@@ -1,0 +1,32 @@
+#include "SchemaPath.h"
+
+#include <filesystem>
+#include <system_error>
+
+#if defined( _WIN32 )
+#include <windows.h>
+#endif
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Where the running program stands: only the operating system knows when it was found along the search path.
+fs::path getProgramPath( const char* in_szProgram ) {
+#if defined( _WIN32 )
+    wchar_t szPath[32768];
+    const DWORD uLength = GetModuleFileNameW( nullptr, szPath, 32768 );
+    return uLength > 0 ? fs::path( szPath ) : fs::path( in_szProgram );
+#else
+    std::error_code error;
+    const fs::path path = fs::read_symlink( "/proc/self/exe", error );
+    return error ? fs::path( in_szProgram ) : path;
+#endif
+}
+
+} // namespace
+
+std::string getDefaultSchemaPath( const char* in_szProgram ) {
+    const fs::path folder = getProgramPath( in_szProgram ).parent_path().parent_path();
+    return ( folder / "share" / "velquin-pstn-config" / "pstnConfig.rng" ).lexically_normal().string();
+}
