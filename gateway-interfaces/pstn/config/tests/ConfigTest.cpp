@@ -1,0 +1,177 @@
+#include "ConfigTest.h"
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <sstream>
+
+#include "LogCapture.h"
+
+namespace Velquin::Pstn::Test {
+
+const char* const DATA_FOLDER = PSTN_TEST_DATA;
+const char* const EXAMPLES_FOLDER = PSTN_TEST_EXAMPLES;
+const char* const SCHEMA = PSTN_TEST_SCHEMA;
+const char* const ANY_SCHEMA = PSTN_TEST_DATA "/any.rng";
+
+namespace {
+
+std::string readFile( const std::string& in_strPath ) {
+    std::ifstream stream( in_strPath, std::ios::binary );
+    std::ostringstream text;
+    text << stream.rdbuf();
+    return text.str();
+}
+
+std::size_t findOnce( const std::string& in_strText, const std::string& in_strPart ) {
+    const std::size_t uPosition = in_strText.find( in_strPart );
+    EXPECT_NE( uPosition, std::string::npos ) << "not in the document: " << in_strPart;
+    if ( uPosition != std::string::npos ) {
+        EXPECT_EQ( in_strText.find( in_strPart, uPosition + 1 ), std::string::npos ) << "twice: " << in_strPart;
+    }
+    return uPosition;
+}
+
+std::map<std::string, std::vector<std::string>>& getRegisteredCases() {
+    static std::map<std::string, std::vector<std::string>> s_mapCases;
+    return s_mapCases;
+}
+
+} // namespace
+
+TestDocument::TestDocument() : m_strText( readFile( std::string( DATA_FOLDER ) + "/complete.xml" ) ) {}
+
+TestDocument& TestDocument::edit( const Edit& in_edit ) {
+    const std::size_t uPosition = findOnce( m_strText, in_edit.strFrom );
+    if ( uPosition != std::string::npos )
+        m_strText.replace( uPosition, in_edit.strFrom.size(), in_edit.strTo );
+    m_strLastEdit = in_edit.strTo;
+    return *this;
+}
+
+TestDocument& TestDocument::edit( const std::vector<Edit>& in_vecEdits ) {
+    for ( const Edit& one : in_vecEdits )
+        edit( one );
+    return *this;
+}
+
+unsigned int TestDocument::getLine( const std::string& in_strText ) const {
+    const std::size_t uPosition = findOnce( m_strText, in_strText );
+    const std::size_t uEnd = m_strText.find( '>', uPosition );
+    return static_cast<unsigned int>(
+        1 + std::count( m_strText.begin(), m_strText.begin() + static_cast<std::ptrdiff_t>( uEnd ), '\n' ) );
+}
+
+std::string TestDocument::expand( std::string in_strExpected, const std::string& in_strFile ) const {
+    static const std::regex s_regex( R"(\{(file|line)(?::([^}]*))?\})" );
+    std::string strResult;
+    std::smatch match;
+    while ( std::regex_search( in_strExpected, match, s_regex ) ) {
+        strResult += match.prefix();
+        if ( match[1] == "file" )
+            strResult += in_strFile;
+        else
+            strResult += std::to_string( getLine( match[2].matched ? match[2].str() : m_strLastEdit ) );
+        in_strExpected = match.suffix().str();
+    }
+    return strResult + in_strExpected;
+}
+
+TemporaryFile::TemporaryFile( const std::string& in_strContent ) {
+    static std::atomic<unsigned int> s_uCount{ 0 };
+    // Tests run in several processes at a time.
+    const auto uProcess = reinterpret_cast<std::uintptr_t>( &s_uCount ) ^
+                          static_cast<std::uintptr_t>( std::chrono::steady_clock::now().time_since_epoch().count() );
+    m_strPath = ( std::filesystem::temp_directory_path() /
+                  ( "pstn-" + std::to_string( uProcess ) + "-" + std::to_string( ++s_uCount ) + ".xml" ) )
+                    .string();
+    std::ofstream( m_strPath, std::ios::binary ) << in_strContent;
+}
+
+TemporaryFile::~TemporaryFile() {
+    std::error_code error;
+    std::filesystem::remove( m_strPath, error );
+}
+
+std::string toLine( int in_nLevel, const std::string& in_strLogger, const std::string& in_strText ) {
+    static const std::string s_strPrefix = "marovane.pstn.config.";
+    static const std::regex s_sourceLine( ", line [0-9]+$" );
+    std::string strLogger = in_strLogger;
+    if ( strLogger.starts_with( s_strPrefix ) )
+        strLogger.erase( 0, s_strPrefix.size() );
+    const bool bAssertion = in_strText.starts_with( "Assertion failed: " );
+    return std::string( in_nLevel >= Logger::ERROR_LEVEL ? "ERROR " : "WARN " ) + strLogger + ": " +
+           ( bAssertion ? std::regex_replace( in_strText, s_sourceLine, ", line N" ) : in_strText );
+}
+
+std::vector<std::string> captureLines( const std::function<void()>& in_function ) {
+    const Velquin::Test::LogCapture log( Logger::WARNING_LEVEL );
+    in_function();
+    std::vector<std::string> vecLines;
+    for ( const auto& record : log.getRecords( Logger::WARNING_LEVEL ) )
+        vecLines.push_back( toLine( record.nLevel, record.strLogger, record.strMessage ) );
+    return vecLines;
+}
+
+LoadResult load( XmlConfig& out_config, const std::string& in_strFile, const std::string& in_strSchema ) {
+    LoadResult result;
+    result.vecLines =
+        captureLines( [&] { result.bValid = out_config.load( in_strFile.c_str(), in_strSchema.c_str(), false ); } );
+    return result;
+}
+
+void loadValid( XmlConfig& out_config, const TestDocument& in_document, const std::string& in_strSchema ) {
+    const TemporaryFile file( in_document.getText() );
+    const LoadResult result = load( out_config, file.getPath(), in_strSchema );
+    EXPECT_TRUE( result.bValid );
+    EXPECT_EQ( join( result.vecLines ), "" );
+}
+
+void check( const LoadCase& in_case ) {
+    const TestDocument document = TestDocument().edit( in_case.vecEdits );
+    const TemporaryFile file( document.getText() );
+    std::vector<std::string> vecExpected;
+    for ( const std::string& strLine : in_case.vecLines )
+        vecExpected.push_back( document.expand( strLine, file.getPath() ) );
+    XmlConfig config;
+    const LoadResult result = load( config, file.getPath(), in_case.strSchema );
+    EXPECT_EQ( result.bValid, in_case.bValid );
+    EXPECT_EQ( join( result.vecLines ), join( vecExpected ) );
+}
+
+void check( const CallCase& in_case ) {
+    EXPECT_EQ( join( captureLines( in_case.call ) ), join( in_case.vecLines ) );
+}
+
+std::string join( const std::vector<std::string>& in_vecLines ) {
+    std::string strText;
+    for ( const std::string& strLine : in_vecLines )
+        strText.append( strLine ).append( "\n" );
+    return strText;
+}
+
+template <class TCase>
+const std::vector<TCase>& registerCases( const std::vector<TCase>& in_vecCases ) {
+    for ( const TCase& one : in_vecCases ) {
+        if ( !getRegisteredCases().try_emplace( one.strName, one.vecLines ).second )
+            ADD_FAILURE() << "two cases are called " << one.strName;
+    }
+    return in_vecCases;
+}
+template const std::vector<LoadCase>& registerCases( const std::vector<LoadCase>& );
+template const std::vector<CallCase>& registerCases( const std::vector<CallCase>& );
+
+std::vector<std::string> getLinesOfCase( const std::string& in_strName ) {
+    const auto it = getRegisteredCases().find( in_strName );
+    if ( it != getRegisteredCases().end() )
+        return it->second;
+    ADD_FAILURE() << "no case is called " << in_strName;
+    return {};
+}
+
+} // namespace Velquin::Pstn::Test

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "loading/XmlConfig.h"
+
+namespace Velquin::Pstn::Test {
+
+/// One change to a document: a text that stands in it exactly once, and what stands there instead.
+struct Edit {
+    std::string strFrom;
+    std::string strTo;
+};
+
+/// A document for a test: `data/complete.xml`, changed.
+class TestDocument {
+public:
+    TestDocument();
+    explicit TestDocument( std::string in_strText ) : m_strText( std::move( in_strText ) ) {}
+
+    TestDocument& edit( const Edit& in_edit );
+    TestDocument& edit( const std::vector<Edit>& in_vecEdits );
+    const std::string& getText() const { return m_strText; }
+    /// The line on which the tag ends that holds the text, which stands exactly once. The text is looked for as it is.
+    unsigned int getLine( const std::string& in_strText ) const;
+
+    /// Replaces, in a line that is expected, `{file}` by the file, `{line}` by the line of the tag of the last edit and
+    /// `{line:text}` by that of the tag that holds the text.
+    std::string expand( std::string in_strExpected, const std::string& in_strFile ) const;
+
+private:
+    std::string m_strText;
+    std::string m_strLastEdit;
+};
+
+/// A file in the folder for temporary files, removed with the object.
+class TemporaryFile {
+public:
+    explicit TemporaryFile( const std::string& in_strContent );
+    TemporaryFile( const TemporaryFile& ) = delete;
+    TemporaryFile& operator=( const TemporaryFile& ) = delete;
+    ~TemporaryFile();
+
+    const std::string& getPath() const { return m_strPath; }
+
+private:
+    std::string m_strPath;
+};
+
+/// Folder and files of the source tree.
+extern const char* const DATA_FOLDER;
+extern const char* const EXAMPLES_FOLDER;
+extern const char* const SCHEMA;     ///< the schema of the format
+extern const char* const ANY_SCHEMA; ///< one that accepts every document
+
+/// A log line at WARNING or above as the tables have it: "ERROR XmlConfig: text", the logger without the prefix
+/// "marovane.pstn.config.". In assertions the source line is "N".
+std::string toLine( int in_nLevel, const std::string& in_strLogger, const std::string& in_strText );
+
+/// What a load said.
+struct LoadResult {
+    bool bValid = false;
+    std::vector<std::string> vecLines; ///< at WARNING and above, in order
+};
+
+/// Runs something and gathers its lines at WARNING and above.
+std::vector<std::string> captureLines( const std::function<void()>& in_function );
+LoadResult load( XmlConfig& out_config, const std::string& in_strFile, const std::string& in_strSchema = ANY_SCHEMA );
+/// Loads a document that must be valid, with the schema of the format, and without a line at WARNING or above.
+void loadValid( XmlConfig& out_config, const TestDocument& in_document, const std::string& in_strSchema = SCHEMA );
+
+/// A case of a table: edits to the complete document, the verdict, and all lines at WARNING and above, exact and in
+/// order, see TestDocument::expand. The schema accepts everything unless the case says otherwise.
+struct LoadCase {
+    std::string strName;
+    std::vector<Edit> vecEdits;
+    bool bValid = false;
+    std::vector<std::string> vecLines;
+    std::string strSchema = ANY_SCHEMA;
+};
+
+/// A case that calls the model: what is called, and all lines that it must give.
+struct CallCase {
+    std::string strName;
+    std::function<void()> call;
+    std::vector<std::string> vecLines;
+};
+
+void check( const LoadCase& in_case );
+void check( const CallCase& in_case );
+
+/// Lines as one text, so that a difference shows as a diff.
+std::string join( const std::vector<std::string>& in_vecLines );
+
+/// Every text of the library must be provoked by a case: a table registers its cases for the list of texts.
+template <class TCase>
+const std::vector<TCase>& registerCases( const std::vector<TCase>& in_vecCases );
+/// The lines of the case of that name, unexpanded; fails the test when there is none.
+std::vector<std::string> getLinesOfCase( const std::string& in_strName );
+
+inline std::string nameOf( const testing::TestParamInfo<LoadCase>& in_info ) {
+    return in_info.param.strName;
+}
+inline std::string nameOfCall( const testing::TestParamInfo<CallCase>& in_info ) {
+    return in_info.param.strName;
+}
+inline void PrintTo( const LoadCase& in_case, std::ostream* out_pStream ) {
+    *out_pStream << in_case.strName;
+}
+inline void PrintTo( const CallCase& in_case, std::ostream* out_pStream ) {
+    *out_pStream << in_case.strName;
+}
+
+} // namespace Velquin::Pstn::Test
+
+/// Makes tests of a table of cases.
+#define PSTN_LOAD_CASES( Suite, vecCases )                                                                             \
+    class Suite : public testing::TestWithParam<Velquin::Pstn::Test::LoadCase> {};                                     \
+    TEST_P( Suite, GivesExactlyTheseLines ) {                                                                          \
+        Velquin::Pstn::Test::check( GetParam() );                                                                      \
+    }                                                                                                                  \
+    INSTANTIATE_TEST_SUITE_P( Table, Suite, testing::ValuesIn( Velquin::Pstn::Test::registerCases( vecCases ) ),       \
+                              Velquin::Pstn::Test::nameOf )
+#define PSTN_CALL_CASES( Suite, vecCases )                                                                             \
+    class Suite : public testing::TestWithParam<Velquin::Pstn::Test::CallCase> {};                                     \
+    TEST_P( Suite, GivesExactlyTheseLines ) {                                                                          \
+        Velquin::Pstn::Test::check( GetParam() );                                                                      \
+    }                                                                                                                  \
+    INSTANTIATE_TEST_SUITE_P( Table, Suite, testing::ValuesIn( Velquin::Pstn::Test::registerCases( vecCases ) ),       \
+                              Velquin::Pstn::Test::nameOfCall )
