@@ -1,5 +1,7 @@
 #include "analog/AnalogDisconnectSupervisionConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 #include <velquin/XML.h>
 

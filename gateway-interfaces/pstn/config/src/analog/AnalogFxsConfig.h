@@ -104,8 +104,8 @@ public:
         unsigned int m_uCurrentDisconnectDurationMs = 0;
     };
 
-    /// The interfaces that the configuration applies to, in the order in which they were added. Their boards own them,
-    /// and so does the configuration.
+    /// The interfaces that the configuration applies to, in the order in which they were added. It owns them together
+    /// with their boards.
     const std::vector<TSHandle<AnalogInterfaceConfig>>& getApplyToAnalogInterfaces() const noexcept {
         return m_interfaces.get();
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velquin/Assertion.h>
+#include <velquin/Finding.h>
 #include <velquin/LimitedObjPtr.h>
 #include <velquin/UniqueObjPtr.h>
 
