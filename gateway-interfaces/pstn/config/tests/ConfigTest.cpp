@@ -10,6 +10,8 @@
 #include <regex>
 #include <sstream>
 
+#include <log4cplus/nullappender.h>
+
 #include "LogCapture.h"
 
 namespace Velquin::Pstn::Test {
@@ -36,6 +38,15 @@ std::size_t findOnce( const std::string& in_strText, const std::string& in_strPa
     }
     return uPosition;
 }
+
+/// The log goes nowhere, except where a test captures it.
+class QuietLog : public testing::Environment {
+public:
+    void SetUp() override {
+        log4cplus::Logger::getRoot().addAppender( log4cplus::SharedAppenderPtr( new log4cplus::NullAppender() ) );
+    }
+};
+const testing::Environment* const QUIET_LOG = testing::AddGlobalTestEnvironment( new QuietLog() );
 
 std::map<std::string, std::vector<std::string>>& getRegisteredCases() {
     static std::map<std::string, std::vector<std::string>> s_mapCases;

@@ -23,6 +23,7 @@
 #include "xml/InputFile.h"
 #include "xml/LibXml2.h"
 #include "xml/LibXml2Errors.h"
+#include "xml/SchemaAdvisor.h"
 #include "xml/XmlDocumentReader.h"
 
 namespace Velquin::Pstn {
@@ -89,7 +90,8 @@ private:
     static const Logger& getLogger() { return XmlConfig::getLogger(); }
 
     static bool logContent( const char* in_szConfigFile );
-    static XmlRelaxNGPtr loadSchema( const char* in_szSchemaFile );
+    /// Compiles the schema, and hands out its document for those who ask what it says.
+    static XmlRelaxNGPtr compileSchema( const char* in_szSchemaFile, XmlDocPtr& out_pSchemaDocument );
     static XmlDocPtr loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile );
     template <class ReadEntry>
     static bool loadSection( const xmlNode* in_pRootNode, const char* in_szSection, const char* in_szSubject,
@@ -148,13 +150,14 @@ bool XmlConfig::Impl::logContent( const char* in_szConfigFile ) {
     return true;
 }
 
-XmlRelaxNGPtr XmlConfig::Impl::loadSchema( const char* in_szSchemaFile ) {
+XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, XmlDocPtr& out_pSchemaDocument ) {
     VELQUIN_LOG_DEBUG( getLogger(), "Validating Relax-NG file (" << in_szSchemaFile << ")..." );
     VELQUIN_LOG_DEBUG( getLogger(), "Creating RelaxNG parser context..." );
     LibXml2ErrorRoute errorRoute( getLogger(), in_szSchemaFile );
-    XmlDocPtr pSchemaDocument = readXmlDocument( in_szSchemaFile, getLogger() );
-    const XmlRelaxNGParserCtxtPtr pParserContext( pSchemaDocument ? xmlRelaxNGNewDocParserCtxt( pSchemaDocument.get() )
-                                                                  : nullptr );
+    out_pSchemaDocument = readXmlDocument( in_szSchemaFile, getLogger() );
+    // The context works on a copy of the document.
+    const XmlRelaxNGParserCtxtPtr pParserContext(
+        out_pSchemaDocument ? xmlRelaxNGNewDocParserCtxt( out_pSchemaDocument.get() ) : nullptr );
     if ( !pParserContext ) {
         VELQUIN_REPORT_ERROR( getLogger(), "failed to load the schema file : " << in_szSchemaFile );
         return nullptr;
@@ -162,7 +165,7 @@ XmlRelaxNGPtr XmlConfig::Impl::loadSchema( const char* in_szSchemaFile ) {
     xmlRelaxNGSetParserStructuredErrors( pParserContext.get(), &LibXml2ErrorRoute::onStructuredError, &errorRoute );
     VELQUIN_LOG_DEBUG( getLogger(), "Compiling RelaxNG schema file " << in_szSchemaFile << "..." );
     XmlRelaxNGPtr pSchema;
-    if ( !refersToOtherFiles( reinterpret_cast<const xmlNode*>( pSchemaDocument.get() ), getLogger() ) )
+    if ( !refersToOtherFiles( reinterpret_cast<const xmlNode*>( out_pSchemaDocument.get() ), getLogger() ) )
         pSchema.reset( xmlRelaxNGParse( pParserContext.get() ) );
     if ( !pSchema )
         VELQUIN_REPORT_ERROR( getLogger(), "Failed to parse RelaxNG schema file " << in_szSchemaFile );
@@ -173,7 +176,8 @@ XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFi
     VELQUIN_TRACE_SCOPE( getLogger(), "Config::loadAndValidateXmlDocument" );
     VELQUIN_LOG_DEBUG( getLogger(), "loading PSTN configuration \nPSTN Configuration XML file: "
                                         << in_szConfigFile << "\nRelaxNG schema file: " << in_szSchemaFile );
-    const XmlRelaxNGPtr pSchema = loadSchema( in_szSchemaFile );
+    XmlDocPtr pSchemaDocument;
+    const XmlRelaxNGPtr pSchema = compileSchema( in_szSchemaFile, pSchemaDocument );
     if ( !pSchema )
         return nullptr;
     const XmlRelaxNGValidCtxtPtr pValidationContext( xmlRelaxNGNewValidCtxt( pSchema.get() ) );
@@ -191,6 +195,9 @@ XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFi
         return nullptr;
     }
     if ( xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) != 0 ) {
+        const SchemaAdvisor advisor( pSchemaDocument.get() );
+        for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
+            advisor.advise( pElement, getLogger() );
         VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "
                                                << in_szConfigFile << " against schema " << in_szSchemaFile );
         return nullptr;

@@ -1,10 +1,13 @@
 #include "xml/LibXml2Errors.h"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
+#include <cstring>
 #include <utility>
 
 #include <libxml/globals.h>
+#include <libxml/relaxng.h>
 
 #include "xml/ElementPosition.h"
 #include "xml/LibXml2.h"
@@ -43,6 +46,26 @@ void onGenericError( void* in_pRoute, const char* in_szFormat, ... ) {
     LibXml2ErrorRoute::onStructuredError( in_pRoute, &error );
 }
 
+bool isAboutAttributes( const xmlError& in_error ) {
+    return in_error.domain == XML_FROM_RELAXNGV &&
+           ( in_error.code == XML_RELAXNG_ERR_ATTRVALID || in_error.code == XML_RELAXNG_ERR_INVALIDATTR );
+}
+
+/// The element that the error is about; null when it is about none. For attributes, libxml2 tells the element's name
+/// but hands over its first child where it has one.
+xmlNode* getElement( const xmlError& in_error ) {
+    auto* const pNode = static_cast<xmlNode*>( in_error.node );
+    if ( !pNode || pNode->type != XML_ELEMENT_NODE )
+        return nullptr;
+    if ( isAboutAttributes( in_error ) && pNode->parent && pNode->parent->type == XML_ELEMENT_NODE ) {
+        const char* const szName = in_error.code == XML_RELAXNG_ERR_INVALIDATTR ? in_error.str2 : in_error.str1;
+        if ( szName && std::strcmp( fromXml( pNode->name ), szName ) != 0 &&
+             std::strcmp( fromXml( pNode->parent->name ), szName ) == 0 )
+            return pNode->parent;
+    }
+    return pNode;
+}
+
 } // namespace
 
 void reportInFile( const Logger& in_logger, Finding in_finding ) {
@@ -57,8 +80,7 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
     Finding finding;
     finding.strFile = in_error.file && in_error.file[0] != '\0' ? in_error.file : in_szFile;
     finding.ullLine = in_error.line > 0 ? static_cast<unsigned long long>( in_error.line ) : 0;
-    if ( const auto* const pNode = static_cast<const xmlNode*>( in_error.node );
-         pNode && pNode->type == XML_ELEMENT_NODE ) {
+    if ( const xmlNode* const pNode = getElement( in_error ) ) {
         finding.ullLine = getElementLine( pNode );
         finding.strElementPath = getElementPath( pNode );
         // The document knows the file as the program named it.
@@ -85,9 +107,13 @@ LibXml2ErrorRoute::~LibXml2ErrorRoute() {
 }
 
 void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, xmlError* in_pError ) {
-    const auto& route = *static_cast<const LibXml2ErrorRoute*>( in_pRoute );
+    auto& route = *static_cast<LibXml2ErrorRoute*>( in_pRoute );
     try {
         reportLibXml2Error( route.m_logger, Logger::ERROR_LEVEL, *in_pError, route.m_strFile.c_str() );
+        auto& vecElements = route.m_vecWrongAttributes;
+        xmlNode* const pElement = isAboutAttributes( *in_pError ) ? getElement( *in_pError ) : nullptr;
+        if ( pElement && std::find( vecElements.begin(), vecElements.end(), pElement ) == vecElements.end() )
+            vecElements.push_back( pElement );
     } catch ( ... ) {
         // libxml2's C code in between must not be unwound.
         reportCurrentException( route.m_logger, __func__, __FILE__, __LINE__ );

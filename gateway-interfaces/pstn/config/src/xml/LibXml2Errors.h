@@ -1,7 +1,10 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
+#include <libxml/tree.h>
 #include <libxml/xmlerror.h>
 
 #include <velquin/Finding.h>
@@ -25,8 +28,8 @@ public:
     LibXml2ErrorRoute& operator=( const LibXml2ErrorRoute& ) = delete;
     ~LibXml2ErrorRoute();
 
-    /// From now on another file is meant when an error names none.
-    void setFile( std::string in_strFile ) { m_strFile = std::move( in_strFile ); }
+    /// The elements whose attributes validation refused, each once.
+    const std::vector<xmlNode*>& getElementsWithWrongAttributes() const noexcept { return m_vecWrongAttributes; }
 
     /// A structured error callback of libxml2, whose context is a LibXml2ErrorRoute.
     static void onStructuredError( void* in_pRoute, xmlError* in_pError );
@@ -34,6 +37,7 @@ public:
 private:
     const Logger& m_logger;
     std::string m_strFile;
+    std::vector<xmlNode*> m_vecWrongAttributes;
     xmlStructuredErrorFunc m_pOuterStructuredError;
     void* m_pOuterStructuredContext;
     xmlGenericErrorFunc m_pOuterGenericError;

@@ -27,6 +27,11 @@ struct Block {
     const char* szFailure;
 };
 
+// clang++ 14 deduces nothing for an aggregate by itself.
+template <class TXmlSerializer, class TConfig>
+Block( const char*, TXmlSerializer* (XmlSerializerObjectFactory::*)( const char* ) const,
+       bool ( AudioConfig::* )( TConfig* ), const char* ) -> Block<TXmlSerializer, TConfig>;
+
 template <class TXmlSerializer, class TConfig>
 bool readBlock( const ElementReader& in_audioReader, XmlConfig& in_xmlConfig, AudioConfig& out_config,
                 const Logger& in_logger, const Block<TXmlSerializer, TConfig>& in_block ) {

@@ -1,0 +1,357 @@
+#include <filesystem>
+#include <fstream>
+
+#include <libxml/parser.h>
+#include <libxml/relaxng.h>
+
+#include <velquin/Finding.h>
+#include <velquin/GlobalConfig.h>
+#include <velquin/ParameterInfoDB.h>
+#include <velquin/UniqueObjPtr.h>
+#include <velquin/XML.h>
+
+#include "ConfigTest.h"
+#include "LogCapture.h"
+#include "hardware/BoardConfigXmlSerializer.h"
+#include "hardware/TirvanaDigitalVirtualBoardConfig.h"
+#include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
+#include "loading/PSTNConfigParamDefs.h"
+
+// The loader: what it does with files and schemas that are not what they should be, its lines, its sections, its
+// copies.
+
+namespace Velquin::Pstn::Test {
+
+namespace {
+
+const std::string MINIMAL =
+    "<pstnConfig version=\"2.3\">\n<callControl><channelGroups/></callControl>\n</pstnConfig>\n";
+
+// ---- Sections of a document that the schema lets pass
+
+const std::vector<LoadCase> SECTION_CASES{
+    { "CompleteDocumentWithAnySchema", {}, true, {} },
+    { "ProviderUnknown",
+      { { "<tirvana>", "<Tirvana>" }, { "</tirvana>", "</Tirvana>" } },
+      false,
+      { "ERROR XmlSerializerObjectFactory: unkown provider: Tirvana",
+        "ERROR marovane.core.Assertion: Assertion failed: !pProviderConfigXmlSerializer.isNull(), file XmlConfig, line "
+        "N" } },
+    { "BoardTypeUnknown",
+      { { "<tirvanaVirtualDigitalBoard", "<virtualBoard" }, { "</tirvanaVirtualDigitalBoard>", "</virtualBoard>" } },
+      false,
+      { "ERROR XmlSerializerObjectFactory: unkown board config type: virtualBoard",
+        "ERROR marovane.core.Assertion: Assertion failed: !pBoardConfigXmlSerializer.isNull(), file XmlConfig, line "
+        "N" } },
+    { "PhysicalTypeUnknown",
+      { { "<tirvanaAnalogConfig", "<analogConfig" }, { "</tirvanaAnalogConfig>", "</analogConfig>" } },
+      false,
+      { "ERROR XmlSerializerObjectFactory: unkown physical config type: analogConfig",
+        "ERROR marovane.core.Assertion: Assertion failed: !pInterfacePhysicalConfigXmlSerializer.isNull(), file "
+        "XmlConfig, line N" } },
+    { "CallControlMissing",
+      { { "<callControl>", "<other>" }, { "</callControl>", "</other>" } },
+      false,
+      { "ERROR XmlConfig: Can't load call control parameters. Make sure to have a \"callControl\" element your   "
+        "configuration file." } },
+};
+
+} // namespace
+
+PSTN_LOAD_CASES( SectionCases, SECTION_CASES );
+
+TEST( Loader, TakesAbsentAndEmptySectionsAsEmpty ) {
+    for ( const char* const szSections : { "", "<providers/><boards/><physicalInterfaceConfigs/>" } ) {
+        XmlConfig config;
+        loadValid( config, TestDocument( "<pstnConfig version=\"2.3\">" + std::string( szSections ) +
+                                         "<callControl><channelGroups/></callControl></pstnConfig>" ) );
+        EXPECT_TRUE( config.getDigitalBoardsConfig().empty() );
+        EXPECT_FALSE( config.getCallControlConfig().isNull() );
+    }
+}
+
+TEST( Loader, FindsSectionsWhateverTheirOrder ) {
+    TestDocument document;
+    const std::string& strText = document.getText();
+    const std::size_t uBegin = strText.find( "  <providers>" );
+    const std::size_t uEnd = strText.find( "  <boards>" );
+    std::string strMoved = strText;
+    strMoved.erase( uBegin, uEnd - uBegin )
+        .insert( strMoved.find( "</pstnConfig>" ), strText.substr( uBegin, uEnd - uBegin ) );
+    XmlConfig config;
+    loadValid( config, TestDocument( strMoved ), ANY_SCHEMA );
+    EXPECT_FALSE( config.getProviderConfig( "tirvana" ).isNull() );
+}
+
+// ---- Files that can't be loaded
+
+namespace {
+
+struct FileCase {
+    std::string strName;
+    std::string strContent;
+    std::vector<std::string> vecLines; ///< before the line of the loader
+};
+
+const std::vector<FileCase> FILE_CASES{
+    { "Empty", "", { "Document is empty in file {file} at line 1." } },
+    { "Truncated",
+      "<pstnConfig>\n<boards>\n<board",
+      { "Couldn't find end of Start Tag board line 3 in file {file} at line 3.",
+        "Premature end of data in tag boards line 2 in file {file} at line 3." } },
+    { "NoUtf8",
+      "<pstnConfig\nversion=\"\xe9\"/>",
+      { "Input is not proper UTF-8, indicate encoding ! Bytes: 0xE9 0x22 0x2F 0x3E in file {file} at line 2." } },
+    { "EncodingUnknown",
+      "<?xml version=\"1.0\" encoding=\"NONE-1\"?>\n<a/>",
+      { "Unsupported encoding NONE-1 in file {file} at line 1." } },
+    { "NoXml", "display name", { "Start tag expected, '<' not found in file {file} at line 1." } },
+    { "EntityInternal",
+      "<!DOCTYPE a [\n<!ENTITY b \"c\">]>\n<a>&b;</a>",
+      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 2." } },
+    { "EntityExternal",
+      "<!DOCTYPE a [<!ENTITY b SYSTEM \"file:///etc/hostname\">]>\n<a>&b;</a>",
+      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 1." } },
+    { "EntityUnparsed",
+      "<!DOCTYPE a [<!NOTATION n SYSTEM \"n\"><!ENTITY b SYSTEM \"b\" NDATA n>]>\n<a/>",
+      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 1." } },
+    // The two bombs would keep libxml2 busy for hours.
+    { "EntityBombOfParameterEntities",
+      "<!DOCTYPE a [<!ENTITY % p0 \"x\"><!ENTITY % p1 \"%p0;%p0;\">%p1;]><a/>",
+      { "Entity declarations are not allowed, entity \"p0\" declared in file {file} at line 1." } },
+    { "EntityBombInAttribute",
+      "<!DOCTYPE a [<!ENTITY b \"" + std::string( 10000, 'x' ) + "\">]><a c=\"&b;&b;&b;\"/>",
+      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 1." } },
+};
+
+} // namespace
+
+TEST( Loader, RefusesFilesThatAreNoDocument ) {
+    for ( const FileCase& one : FILE_CASES ) {
+        SCOPED_TRACE( one.strName );
+        const TemporaryFile file( one.strContent );
+        std::vector<std::string> vecExpected;
+        for ( const std::string& strLine : one.vecLines )
+            vecExpected.push_back( "ERROR XmlConfig: " + TestDocument( "" ).expand( strLine, file.getPath() ) );
+        vecExpected.push_back( "ERROR XmlConfig: failed to parse XML file " + file.getPath() );
+        XmlConfig config;
+        testing::internal::CaptureStderr();
+        const LoadResult result = load( config, file.getPath(), SCHEMA );
+        EXPECT_EQ( testing::internal::GetCapturedStderr(), "" );
+        EXPECT_FALSE( result.bValid );
+        EXPECT_EQ( join( result.vecLines ), join( vecExpected ) );
+    }
+}
+
+TEST( Loader, RefusesWhatIsNoRegularFile ) {
+    const std::string strFolder = std::filesystem::temp_directory_path().string();
+    for ( const auto& [strPath, strWhy] :
+          { std::pair<std::string, std::string>( strFolder, "it is not a regular file" ),
+            { strFolder + "/no such file", "No such file or directory" } } ) {
+        XmlConfig config;
+        const std::string strCause = "ERROR XmlConfig: Can't read, " + strWhy + " in file " + strPath + ".";
+        EXPECT_EQ( join( load( config, strPath, SCHEMA ).vecLines ),
+                   join( { strCause, "ERROR XmlConfig: failed to parse XML file " + strPath } ) );
+        EXPECT_EQ( join( load( config, DATA_FOLDER + std::string( "/complete.xml" ), strPath ).vecLines ),
+                   join( { strCause, "ERROR XmlConfig: failed to load the schema file : " + strPath } ) );
+        EXPECT_EQ( join( captureLines( [&] { config.load( strPath.c_str(), SCHEMA, true ); } ) ),
+                   join( { "ERROR XmlConfig: failed to open PSTN configuration file: " + strPath } ) );
+    }
+}
+
+TEST( Loader, RefusesSchemasThatAreNone ) {
+    struct SchemaCase {
+        std::string strContent;
+        std::string strCause;
+        std::string strVerdict;
+    };
+    const std::string strGrammar = "<grammar xmlns=\"http://relaxng.org/ns/structure/1.0\">\n";
+    for ( const SchemaCase& one :
+          { SchemaCase{ "<grammar", "Couldn't find end of Start Tag grammar line 1 in file {file} at line 1.",
+                        "failed to load the schema file : " },
+            SchemaCase{ "<other/>", "xmlRelaxNGParse: schemas is empty in file {file}.",
+                        "Failed to parse RelaxNG schema file " },
+            SchemaCase{ strGrammar + "<start><element name=\"a\"/></start></grammar>",
+                        "xmlRelaxNGParseElement: element has no content in file {file} at line 2.",
+                        "Failed to parse RelaxNG schema file " },
+            SchemaCase{ strGrammar + "<include href=\"http://127.0.0.1/x.rng\"/></grammar>",
+                        "The schema must stand in one file: element include declared in file {file} at line 2.",
+                        "Failed to parse RelaxNG schema file " } } ) {
+        const TemporaryFile schema( one.strContent );
+        XmlConfig config;
+        testing::internal::CaptureStderr();
+        const LoadResult result = load( config, DATA_FOLDER + std::string( "/complete.xml" ), schema.getPath() );
+        EXPECT_EQ( testing::internal::GetCapturedStderr(), "" );
+        EXPECT_FALSE( result.bValid );
+        EXPECT_EQ( join( result.vecLines ),
+                   join( { "ERROR XmlConfig: " + TestDocument( "" ).expand( one.strCause, schema.getPath() ),
+                           "ERROR XmlConfig: " + one.strVerdict + schema.getPath() } ) );
+    }
+}
+
+// ---- Lines
+
+TEST( Loader, NamesTheTrueLineInLongFiles ) {
+    const std::string strPadding( 200000, '\n' );
+    // The tag goes over two lines: it is the second, where it ends, that counts.
+    const Edit pad{ "<interface ID=\"2\" displayName=\"T1-B\"",
+                    strPadding + "<interface ID=\"2\"\ndisplayName=\"T1-B\"" };
+    struct LineCase {
+        const char* szSchema;
+        std::vector<Edit> vecEdits;
+        const char* szTag;
+    };
+    for ( const LineCase& one : {
+              LineCase{ ANY_SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // a reader
+              LineCase{ SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // validation
+              LineCase{ SCHEMA,
+                        { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\" tirpipe=\"2\"" } },
+                        "displayName=\"T1-B\"" },                                     // cross-check
+              LineCase{ SCHEMA, { pad, { "</callControl>", "" } }, "</pstnConfig>" }, // parser
+          } ) {
+        const TestDocument document = TestDocument().edit( one.vecEdits );
+        const TemporaryFile file( document.getText() );
+        std::vector<Finding> vecFindings;
+        const FindingWatch watch( [&]( const Finding& in_finding ) { vecFindings.push_back( in_finding ); } );
+        XmlConfig config;
+        EXPECT_FALSE( load( config, file.getPath(), one.szSchema ).bValid );
+        ASSERT_FALSE( vecFindings.empty() );
+        EXPECT_EQ( vecFindings[0].strFile, file.getPath() );
+        EXPECT_EQ( vecFindings[0].ullLine, document.getLine( one.szTag ) ) << vecFindings[0].strText;
+        EXPECT_GT( vecFindings[0].ullLine, 200000U );
+    }
+}
+
+// ---- What surrounds a load
+
+TEST( Loader, ReadsItsPathsFromParameters ) {
+    GlobalConfig& parameters = GlobalConfig::getInstance();
+    XmlConfig config;
+    const auto loadByParameters = [&] {
+        return join( captureLines( [&] { EXPECT_FALSE( config.load( parameters, false ) ); } ) );
+    };
+    EXPECT_EQ( loadByParameters(), join( { "ERROR XmlConfig: Can't find global configuration parameter: "
+                                           "marovane.pstn.config.file." } ) );
+    parameters.setString( "marovane.pstn.config.file", ( std::string( DATA_FOLDER ) + "/complete.xml" ).c_str() );
+    EXPECT_EQ( loadByParameters(), join( { "ERROR XmlConfig: Can't find global configuration parameter: "
+                                           "marovane.pstn.config.schemaFile." } ) );
+    parameters.setString( "marovane.pstn.config.schemaFile", SCHEMA );
+    EXPECT_TRUE( config.load( parameters, false ) );
+    parameters.remove( "marovane.pstn.config.file" );
+    parameters.remove( "marovane.pstn.config.schemaFile" );
+}
+
+TEST( Loader, DeclaresItsParameters ) {
+    EXPECT_TRUE( PSTNConfig::addParametersToDB() );
+    EXPECT_TRUE( PSTNConfig::addParametersToDB() );
+    const auto vecParameters = ParameterInfoDB::getNonConstInstance().getParameters();
+    ASSERT_EQ( vecParameters.size(), 2U );
+    EXPECT_EQ( vecParameters[0].strName, "marovane.pstn.config.file" );
+    EXPECT_EQ( vecParameters[0].strDescription, "Configuration file for PSTN modules of the Gateway." );
+    EXPECT_EQ( vecParameters[1].strName, "marovane.pstn.config.schemaFile" );
+    EXPECT_EQ( vecParameters[1].strDescription, "Schema file that validates the PSTN configuration of the Gateway." );
+    EXPECT_EQ( vecParameters[1].nKind, 1 );
+    EXPECT_FALSE( vecParameters[1].bRequired || vecParameters[1].bReadOnly || vecParameters[1].bHidden );
+}
+
+TEST( Loader, LogsItsStepsAndTheContent ) {
+    const TemporaryFile file( "<pstnConfig version=\"2.3\">\n<!--" + std::string( 2050, 'x' ) +
+                              "-->\n<callControl><channelGroups/></callControl></pstnConfig>" );
+    const std::string& strFile = file.getPath();
+    const std::string strSchema = SCHEMA;
+    const Velquin::Test::LogCapture log( Logger::DEBUG_LEVEL );
+    XmlConfig config;
+    EXPECT_TRUE( config.load( strFile.c_str(), SCHEMA, true ) );
+    std::vector<std::string> vecMessages;
+    for ( const auto& record : log.getRecords() )
+        vecMessages.push_back( record.strMessage );
+    EXPECT_EQ( join( vecMessages ),
+               join( { "PSTN configuration: " + strFile + "\n     1: <pstnConfig version=\"2.3\">\n     2: <!--" +
+                           std::string( 2043, 'x' ) + "\n     2: " + std::string( 7, 'x' ) +
+                           "-->\n     3: <callControl><channelGroups/></callControl></pstnConfig>\n",
+                       "loading PSTN configuration \nPSTN Configuration XML file: " + strFile +
+                           "\nRelaxNG schema file: " + strSchema,
+                       "Validating Relax-NG file (" + strSchema + ")...", "Creating RelaxNG parser context...",
+                       "Compiling RelaxNG schema file " + strSchema + "..." } ) );
+}
+
+TEST( Loader, LeavesTheProgramsLibxml2Alone ) {
+    int nErrors = 0;
+    const xmlStructuredErrorFunc countErrors = []( void* out_pCount, xmlError* ) {
+        ++*static_cast<int*>( out_pCount );
+    };
+    xmlSetStructuredErrorFunc( &nErrors, countErrors );
+    XmlConfig config;
+    for ( const std::string& strContent : { MINIMAL, std::string( "<a" ) } ) {
+        const TemporaryFile file( strContent );
+        load( config, file.getPath(), SCHEMA );
+        EXPECT_EQ( xmlStructuredError, countErrors );
+        EXPECT_EQ( xmlStructuredErrorContext, &nErrors );
+        EXPECT_EQ( XML::getOpenCount(), 0U );
+    }
+    EXPECT_EQ( nErrors, 0 );
+    xmlSetStructuredErrorFunc( nullptr, nullptr );
+}
+
+TEST( Loader, FillsTheCopyThatLoads ) {
+    auto pFirst = std::make_unique<XmlConfig>();
+    XmlConfig copy( *pFirst );
+    XmlConfig assigned;
+    assigned = *pFirst;
+    pFirst.reset(); // the shared part must not reach for it
+    loadValid( copy, TestDocument() );
+    EXPECT_EQ( copy.getDigitalBoardsConfig().size(), 3U );
+    EXPECT_TRUE( assigned.getDigitalBoardsConfig().empty() );
+    EXPECT_EQ( &copy.getXmlSerializerObjectFactory(), &assigned.getXmlSerializerObjectFactory() );
+    assigned = copy;
+    EXPECT_EQ( assigned.getDigitalBoardConfig( 1 ).get(), copy.getDigitalBoardConfig( 1 ).get() );
+}
+
+// ---- Factory
+
+namespace {
+
+template <class TXmlSerializer>
+CallCase unknownKeyword( std::string in_strName, std::string in_strText,
+                         TXmlSerializer* ( XmlSerializerObjectFactory::*in_create )( const char* ) const ) {
+    return { std::move( in_strName ),
+             [in_create] {
+                 const XmlSerializerObjectFactory factory;
+                 EXPECT_EQ( ( factory.*in_create )( "hardware" ), nullptr );
+             },
+             { "ERROR XmlSerializerObjectFactory: " + in_strText + "hardware" } };
+}
+
+const std::vector<CallCase> FACTORY_CASES{
+    unknownKeyword( "EchoCancellationTypeUnknown", "unkown echo cancellation config type: ",
+                    &XmlSerializerObjectFactory::newEchoCancellationConfigXmlSerializer ),
+    unknownKeyword( "AcousticEchoCancellationTypeUnknown", "unkown acoustic echo cancellation config type: ",
+                    &XmlSerializerObjectFactory::newAcousticEchoCancellationConfigXmlSerializer ),
+    unknownKeyword( "LevelControlTypeUnknown", "unkown level control config type: ",
+                    &XmlSerializerObjectFactory::newLevelControlConfigXmlSerializer ),
+    unknownKeyword( "BackgroundNoiseAttenuationTypeUnknown", "unkown background noise attenuation config type: ",
+                    &XmlSerializerObjectFactory::newBackgroundNoiseAttenuationConfigXmlSerializer ),
+    unknownKeyword( "DtmfRemovalTypeUnknown", "unkown DTMF removal config type: ",
+                    &XmlSerializerObjectFactory::newDtmfRemovalConfigXmlSerializer ),
+    { "BoardClassUnknown",
+      [] {
+          DigitalBoardConfig board;
+          EXPECT_EQ( XmlSerializerObjectFactory().newBoardConfigXmlSerializer( board ), nullptr );
+      },
+      { "ERROR XmlSerializerObjectFactory: unkown board config type: " } },
+    { "VirtualBoardWritten",
+      [] {
+          TirvanaDigitalVirtualBoardConfig board;
+          const UniqueObjPtr pXmlSerializer( XmlSerializerObjectFactory().newBoardConfigXmlSerializer( board ) );
+          ASSERT_NE( dynamic_cast<TirvanaDigitalVirtualBoardConfigXmlSerializer*>( pXmlSerializer.get() ), nullptr );
+          EXPECT_FALSE( pXmlSerializer->write( nullptr, board ) );
+      },
+      { "ERROR TirvanaDigitalVirtualBoardConfigXmlSerializer: Not implemented : "
+        "TirvanaDigitalVirtualBoardConfigXmlSerializer::write" } },
+};
+
+} // namespace
+
+PSTN_CALL_CASES( FactoryCases, FACTORY_CASES );
+
+} // namespace Velquin::Pstn::Test

@@ -1,0 +1,93 @@
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "ConfigTest.h"
+
+// The program that operators run: what it prints and how it exits.
+
+namespace Velquin::Pstn::Test {
+
+namespace {
+
+struct ToolResult {
+    int nExitCode;
+    std::string strOutput;
+    std::string strErrors;
+};
+
+std::string readAll( const std::string& in_strPath ) {
+    std::ostringstream text;
+    text << std::ifstream( in_strPath ).rdbuf();
+    return text.str();
+}
+
+ToolResult runTool( const std::string& in_strArguments ) {
+    const TemporaryFile output( "" );
+    const TemporaryFile errors( "" );
+    const std::string strCommand =
+        std::string( PSTN_TEST_TOOL ) + " " + in_strArguments + " >" + output.getPath() + " 2>" + errors.getPath();
+    const int nStatus = std::system( strCommand.c_str() );
+    return { nStatus > 255 ? nStatus / 256 : nStatus, readAll( output.getPath() ), readAll( errors.getPath() ) };
+}
+
+const std::string COMPLETE = std::string( DATA_FOLDER ) + "/complete.xml";
+
+} // namespace
+
+TEST( Tool, AcceptsAValidFileWithTheSchemaThatComesWithIt ) {
+    const ToolResult result = runTool( "check " + COMPLETE );
+    EXPECT_EQ( result.nExitCode, 0 );
+    EXPECT_EQ( result.strOutput, COMPLETE + ": valid\n" );
+    EXPECT_EQ( result.strErrors, "" );
+}
+
+TEST( Tool, PrintsFindingsAndTheWorstExitCode ) {
+    const TestDocument document = TestDocument().edit(
+        std::vector<Edit>{ { "ID=\"2\" displayName=\"T1-B\"", "ID=\"2&#10;\" displayName=\"T1#B\"" } } );
+    const TemporaryFile wrong( document.getText() );
+    const std::string strFile = wrong.getPath();
+    const std::string strAnySchema = " --schema " + std::string( ANY_SCHEMA );
+    const ToolResult result = runTool( "check " + COMPLETE + " " + strFile + strAnySchema );
+    EXPECT_EQ( result.nExitCode, 1 );
+    EXPECT_EQ( result.strOutput,
+               COMPLETE + ": valid\n" + strFile + ":19: error: invalid value \"T1#B\" of attribute \"displayName\": " +
+                   "Display name may contains spaces, '-', '_' and alpha numeric characters. "
+                   "[/pstnConfig/boards/tirvanaDigitalBoard[2]/interface[2]]\n" +
+                   strFile +
+                   ":17: error: Configuration of the board tirvanaDigitalBoard contains one ore more errors. " +
+                   "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n" + strFile + ": invalid (2 errors)\n" );
+
+    const ToolResult missing = runTool( "check /no/such/file.xml " + strFile + strAnySchema );
+    EXPECT_EQ( missing.nExitCode, 2 );
+    EXPECT_NE( missing.strOutput.find( "/no/such/file.xml: not checked (2 errors)\n" ), std::string::npos );
+    EXPECT_EQ( runTool( "check --schema /no/such/schema.rng " + COMPLETE ).nExitCode, 2 );
+}
+
+TEST( Tool, WritesTheLogToStandardErrorWhenAsked ) {
+    const ToolResult content = runTool( "check --log-content " + COMPLETE );
+    EXPECT_EQ( content.strOutput, COMPLETE + ": valid\n" );
+    EXPECT_NE( content.strErrors.find( "\n     3: <pstnConfig version=\"2.3\">\n" ), std::string::npos );
+    EXPECT_EQ( content.strErrors.find( "DEBUG" ), std::string::npos );
+    EXPECT_NE(
+        runTool( "check --log-level debug " + COMPLETE ).strErrors.find( "adding new digital board: 1<E1 card>" ),
+        std::string::npos );
+}
+
+TEST( Tool, TakesTheGatewaysParameters ) {
+    const TemporaryFile parameters( "# the gateway\nmarovane.Installation.Directory=/opt/gateway\n" );
+    EXPECT_EQ( runTool( "check --parameters " + parameters.getPath() + " " + COMPLETE ).nExitCode, 0 );
+    EXPECT_EQ( runTool( "check --parameters /no/such/file " + COMPLETE ).nExitCode, 2 );
+}
+
+TEST( Tool, RefusesWrongUsage ) {
+    for ( const char* const szArguments : { "", "check", "load x", "check --log-level LOUD x", "check --bad x" } ) {
+        const ToolResult result = runTool( szArguments );
+        EXPECT_EQ( result.nExitCode, 2 ) << szArguments;
+        EXPECT_EQ( result.strOutput, "" );
+        EXPECT_NE( result.strErrors, "" );
+    }
+    EXPECT_EQ( runTool( "--help" ).nExitCode, 0 );
+}
+
+} // namespace Velquin::Pstn::Test
