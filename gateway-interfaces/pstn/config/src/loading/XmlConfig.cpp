@@ -167,6 +167,8 @@ XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, XmlDo
     XmlRelaxNGPtr pSchema;
     if ( !refersToOtherFiles( reinterpret_cast<const xmlNode*>( out_pSchemaDocument.get() ), getLogger() ) )
         pSchema.reset( xmlRelaxNGParse( pParserContext.get() ) );
+    if ( errorRoute.isOutOfMemory() )
+        pSchema.reset();
     if ( !pSchema )
         VELQUIN_REPORT_ERROR( getLogger(), "Failed to parse RelaxNG schema file " << in_szSchemaFile );
     return pSchema;
@@ -194,7 +196,7 @@ XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFi
         VELQUIN_REPORT_ERROR( getLogger(), "failed to parse XML file " << in_szConfigFile );
         return nullptr;
     }
-    if ( xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) != 0 ) {
+    if ( xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) != 0 || errorRoute.isOutOfMemory() ) {
         const SchemaAdvisor advisor( pSchemaDocument.get() );
         for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
             advisor.advise( pElement, getLogger() );

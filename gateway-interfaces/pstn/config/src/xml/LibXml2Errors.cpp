@@ -108,6 +108,7 @@ LibXml2ErrorRoute::~LibXml2ErrorRoute() {
 
 void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, xmlError* in_pError ) {
     auto& route = *static_cast<LibXml2ErrorRoute*>( in_pRoute );
+    route.m_bOutOfMemory = route.m_bOutOfMemory || in_pError->code == XML_ERR_NO_MEMORY;
     try {
         reportLibXml2Error( route.m_logger, Logger::ERROR_LEVEL, *in_pError, route.m_strFile.c_str() );
         auto& vecElements = route.m_vecWrongAttributes;

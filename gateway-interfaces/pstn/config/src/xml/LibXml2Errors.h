@@ -28,6 +28,9 @@ public:
     LibXml2ErrorRoute& operator=( const LibXml2ErrorRoute& ) = delete;
     ~LibXml2ErrorRoute();
 
+    /// Whether memory ended: libxml2's own verdict means nothing then.
+    bool isOutOfMemory() const noexcept { return m_bOutOfMemory; }
+
     /// The elements whose attributes validation refused, each once.
     const std::vector<xmlNode*>& getElementsWithWrongAttributes() const noexcept { return m_vecWrongAttributes; }
 
@@ -37,6 +40,7 @@ public:
 private:
     const Logger& m_logger;
     std::string m_strFile;
+    bool m_bOutOfMemory = false;
     std::vector<xmlNode*> m_vecWrongAttributes;
     xmlStructuredErrorFunc m_pOuterStructuredError;
     void* m_pOuterStructuredContext;

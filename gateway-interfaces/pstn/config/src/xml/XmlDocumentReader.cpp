@@ -21,7 +21,7 @@ struct ParseState {
     const Logger& logger;
     const char* szPath;
     std::ifstream stream;
-    bool bRefused = false; // and reported
+    bool bRefused = false; // and told
 
     static ParseState& of( void* in_pContext ) {
         return *static_cast<ParseState*>( static_cast<xmlParserCtxt*>( in_pContext )->_private );
@@ -50,7 +50,9 @@ void guardCallback( void* in_pContext, Body in_body ) noexcept {
 }
 
 void onError( void* in_pContext, xmlError* in_pError ) {
-    guardCallback( in_pContext, [in_pError]( const ParseState& in_state ) {
+    guardCallback( in_pContext, [in_pError]( ParseState& in_state ) {
+        // When memory ends, libxml2 hands out what it has so far and doesn't call it ill-formed.
+        in_state.bRefused = in_state.bRefused || in_pError->level == XML_ERR_FATAL;
         const int nLevel = in_pError->level == XML_ERR_WARNING ? Logger::WARNING_LEVEL : Logger::ERROR_LEVEL;
         reportLibXml2Error( in_state.logger, nLevel, *in_pError, in_state.szPath );
     } );

@@ -1,0 +1,211 @@
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <set>
+#include <sstream>
+#include <utility>
+
+#include <libxml/globals.h>
+#include <libxml/relaxng.h>
+#include <libxml/xmlmemory.h>
+
+#include "ConfigTest.h"
+
+// Memory that ends: every allocation of a load and of a write fails once. The load then says false and why, or it is
+// the load that it would have been; nothing crashes, nothing leaks (the sanitizers watch).
+
+namespace Velquin::Pstn::Test {
+
+namespace {
+
+enum class Allocator { LIBXML2, NEW };
+
+/// Whose allocation fails, and which, counted down from the moment when it is set; 0 when none does.
+thread_local Allocator t_eFailing = Allocator::NEW;
+thread_local unsigned long t_uFailing = 0;
+
+bool isFailing( Allocator in_eAllocator ) {
+    return t_uFailing > 0 && in_eAllocator == t_eFailing && --t_uFailing == 0;
+}
+
+constexpr unsigned long NONE_FAILS = 1UL << 30;
+
+/// How many allocations the operation makes.
+unsigned long countAllocations( Allocator in_eAllocator, const std::function<void()>& in_operation ) {
+    t_eFailing = in_eAllocator;
+    t_uFailing = NONE_FAILS;
+    in_operation();
+    return NONE_FAILS - std::exchange( t_uFailing, 0 );
+}
+
+void* failingMalloc( std::size_t in_uBytes ) {
+    return isFailing( Allocator::LIBXML2 ) ? nullptr : std::malloc( in_uBytes );
+}
+
+void* failingRealloc( void* in_pBlock, std::size_t in_uBytes ) {
+    return isFailing( Allocator::LIBXML2 ) ? nullptr : std::realloc( in_pBlock, in_uBytes );
+}
+
+char* failingStrdup( const char* in_szText ) {
+    return isFailing( Allocator::LIBXML2 ) ? nullptr : strdup( in_szText );
+}
+
+/// Lets libxml2's allocations fail.
+class FailingLibXml2 {
+public:
+    FailingLibXml2() {
+        // What libxml2 makes once and keeps, it makes without a check.
+        xmlInitParser();
+        xmlRelaxNGInitTypes();
+        xmlMemGet( &m_free, &m_malloc, &m_realloc, &m_strdup );
+        xmlMemSetup( &std::free, &failingMalloc, &failingRealloc, &failingStrdup );
+    }
+    ~FailingLibXml2() { xmlMemSetup( m_free, m_malloc, m_realloc, m_strdup ); }
+
+private:
+    xmlFreeFunc m_free = nullptr;
+    xmlMallocFunc m_malloc = nullptr;
+    xmlReallocFunc m_realloc = nullptr;
+    xmlStrdupFunc m_strdup = nullptr;
+};
+
+/// Runs the operation once for every allocation of it, with that one failing, and gathers what is logged.
+/// @param in_operation yields whether it succeeded
+/// @return the texts, without loggers
+std::set<std::string> failEachAllocation( Allocator in_eAllocator, const std::function<bool()>& in_operation,
+                                          unsigned long in_uFirst = 1, unsigned long in_uLast = NONE_FAILS ) {
+    std::set<std::string> setTexts;
+    for ( unsigned long u = in_uFirst; u < in_uLast; ++u ) {
+        bool bSucceeded = false;
+        bool bAllSucceeded = false;
+        const std::vector<std::string> vecLines = captureLines( [&] {
+            t_eFailing = in_eAllocator;
+            t_uFailing = u;
+            bSucceeded = in_operation();
+            bAllSucceeded = t_uFailing > 0;
+            t_uFailing = 0;
+        } );
+        EXPECT_TRUE( bSucceeded || !vecLines.empty() ) << "silent when allocation " << u << " fails";
+        for ( const std::string& strLine : vecLines )
+            setTexts.insert( strLine.substr( strLine.find( ": " ) + 2 ) );
+        if ( bAllSucceeded ) {
+            EXPECT_TRUE( bSucceeded );
+            break;
+        }
+    }
+    return setTexts;
+}
+
+bool holds( const std::set<std::string>& in_setTexts, const std::string& in_strPart ) {
+    return std::any_of( in_setTexts.begin(), in_setTexts.end(),
+                        [&]( const std::string& in_strText ) { return in_strText.starts_with( in_strPart ); } );
+}
+
+bool isComplete( const XmlConfig& in_config ) {
+    return in_config.getDigitalBoardsConfig().size() == 3 && in_config.getAnalogBoardsConfig().size() == 2;
+}
+
+} // namespace
+
+TEST( AllocationFailures, OfLibxml2EndALoadWell ) {
+    const TemporaryFile file( TestDocument().getText() );
+    const FailingLibXml2 failing;
+    // libxml2 2.9.14 crashes by itself when memory ends in its RelaxNG code: what fails comes between compiling the
+    // schema and validating. A load without a document ends where that begins, one of an ill-formed document where it
+    // ends.
+    const auto countLoad = [&]( const std::string& in_strFile ) {
+        return countAllocations( Allocator::LIBXML2, [&] {
+            captureLines( [&] { XmlConfig().load( in_strFile.c_str(), ANY_SCHEMA, false ); } );
+        } );
+    };
+    const TemporaryFile illFormed( TestDocument().getText() + "<" );
+    const auto setTexts = failEachAllocation(
+        Allocator::LIBXML2,
+        [&] {
+            XmlConfig config;
+            return config.load( file.getPath().c_str(), ANY_SCHEMA, false ) && isComplete( config );
+        },
+        countLoad( "/no/such/file" ), countLoad( illFormed.getPath() ) );
+    for ( const char* const szText :
+          { "failed to create a XML validation context to validate file ", "failed to parse XML file " } )
+        EXPECT_TRUE( holds( setTexts, szText ) ) << szText;
+}
+
+TEST( AllocationFailures, OfLibxml2EndAWriteWell ) {
+    XmlConfig config;
+    TestDocument document;
+    document.edit( Edit{ "<tirvanaVirtualDigitalBoard ID=\"3\" displayName=\"Virtual\" model=\"none\">",
+                         "<tirvanaDigitalBoard ID=\"3\" displayName=\"Virtual\" model=\"none\">" } );
+    document.edit( Edit{ "</tirvanaVirtualDigitalBoard>", "</tirvanaDigitalBoard>" } );
+    document.edit( Edit{ "peerVirtualInterfaceID=\"1\" peerVirtualBoardID=\"3\"", "tirpipe=\"5\"" } );
+    loadValid( config, document );
+    std::ostringstream expected;
+    expected << config;
+
+    const FailingLibXml2 failing;
+    const auto setTexts = failEachAllocation( Allocator::LIBXML2, [&] {
+        std::ostringstream stream;
+        stream << config;
+        EXPECT_EQ( stream.str(), stream ? expected.str() : "" );
+        return static_cast<bool>( stream );
+    } );
+    for ( const char* const szText :
+          { "Can not create root element.", "Can not add \"boards\" XML element.",
+            "Can not add digital boards XML element.", "Can not add digital boards elements.",
+            "Can not add analog boards XML element.", "Can not add analog boards elements.",
+            "Can not add interface XML element.", "failed to serialize interface",
+            "Failed to add ID to board XML element.", "Failed to add displayName to board XML element.",
+            "Failed to add model to board XML element.", "Failed to add pciSlot to board XML element.",
+            "Failed to add pciBus to board XML element.", "Failed to add tirpipe to board XML element.",
+            "Failed to add tirpipeInterface to board XML element.", "Failed to add type to board XML element.",
+            "Failed to add phoneNumber to board XML element.", "Failed to add callerName to board XML element." } )
+        EXPECT_TRUE( holds( setTexts, szText ) ) << szText;
+}
+
+} // namespace Velquin::Pstn::Test
+
+#if defined( __has_feature )
+#if __has_feature( thread_sanitizer )
+#define MEMORY_IS_THE_SANITIZERS // whose operator new can't be replaced
+#endif
+#endif
+#ifndef MEMORY_IS_THE_SANITIZERS
+
+void* operator new( std::size_t in_uBytes, const std::nothrow_t& ) noexcept {
+    return Velquin::Pstn::Test::isFailing( Velquin::Pstn::Test::Allocator::NEW )
+               ? nullptr
+               : std::malloc( in_uBytes ? in_uBytes : 1 );
+}
+void* operator new( std::size_t in_uBytes ) {
+    if ( void* const pBlock = operator new( in_uBytes, std::nothrow ) )
+        return pBlock;
+    throw std::bad_alloc();
+}
+void operator delete( void* in_pBlock ) noexcept {
+    std::free( in_pBlock );
+}
+void operator delete( void* in_pBlock, std::size_t ) noexcept {
+    std::free( in_pBlock );
+}
+
+namespace Velquin::Pstn::Test {
+
+TEST( AllocationFailures, OfTheLibraryEndALoadWell ) {
+    const TemporaryFile file( TestDocument().getText() );
+    const auto setTexts = failEachAllocation( Allocator::NEW, [&] {
+        try {
+            XmlConfig config; // a constructor may throw
+            bool bLoaded = false;
+            EXPECT_NO_THROW( bLoaded = config.load( file.getPath().c_str(), ANY_SCHEMA, false ) );
+            return bLoaded && isComplete( config );
+        } catch ( const std::bad_alloc& ) {
+            return true;
+        }
+    } );
+    EXPECT_TRUE( holds( setTexts, "out of memory in " ) );
+}
+
+} // namespace Velquin::Pstn::Test
+
+#endif
