@@ -1,14 +1,12 @@
 #pragma once
 
-#include <map>
-
 #include <velquin/Object.h>
-#include <velquin/TSHandle.h>
 
 #include "PstnConfigClass.h"
 #include "PstnConfigExport.h"
 #include "analog/AnalogFxoConfig.h"
 #include "analog/AnalogFxsConfig.h"
+#include "callcontrol/NumberedConfigs.h"
 
 namespace Velquin::Pstn {
 
@@ -18,8 +16,8 @@ class VELQUIN_PSTN_CONFIG_EXPORT AnalogCallControlConfig : public virtual Object
     PSTN_CONFIG_CLASS( AnalogCallControlConfig );
 
 public:
-    using FxoConfigs = std::map<unsigned int, TSHandle<AnalogFxoConfig>>;
-    using FxsConfigs = std::map<unsigned int, TSHandle<AnalogFxsConfig>>;
+    using FxoConfigs = NumberedConfigs<AnalogFxoConfig>;
+    using FxsConfigs = NumberedConfigs<AnalogFxsConfig>;
 
     // Refuse a configuration whose number is taken among those of its kind, with an ERROR line, and null, with an
     // assertion.

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <map>
-
-#include <velquin/TSHandle.h>
-
+#include "callcontrol/NumberedConfigs.h"
 #include "callcontrol/isdn/IsdnFasConfig.h"
 #include "callcontrol/isdn/IsdnNfasConfig.h"
 
@@ -16,8 +13,8 @@ class VELQUIN_PSTN_CONFIG_EXPORT IsdnConfig : public virtual Object {
 
 public:
     /// Groups, ascending by identifier.
-    using FasConfigs = std::map<unsigned int, TSHandle<IsdnFasConfig>>;
-    using NfasConfigs = std::map<unsigned int, TSHandle<IsdnNfasConfig>>;
+    using FasConfigs = NumberedConfigs<IsdnFasConfig>;
+    using NfasConfigs = NumberedConfigs<IsdnNfasConfig>;
 
     /// Refuses a group whose identifier is taken among the groups of its kind.
     bool addFasConfig( IsdnFasConfig* in_pFasConfig );

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <algorithm>
+#include <map>
+
+#include <velquin/Finding.h>
+#include <velquin/TSHandle.h>
+
+namespace Velquin::Pstn {
+
+/// Configurations of one kind (FAS, NFAS, FXO, FXS) by their number, ascending. Each applies to interfaces.
+template <class TConfig>
+using NumberedConfigs = std::map<unsigned int, TSHandle<TConfig>>;
+
+/// Adds the configuration unless its number is taken; the handle that was passed is then the last one. May throw.
+/// @param in_szKind "Fas", "NFas", "Fxo" or "Fxs", as the messages have it
+template <class TConfig>
+bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, const TSHandle<TConfig>& in_hConfig,
+                        const char* in_szKind, const Logger& in_logger ) {
+    VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " config: " << in_hConfig->getId() );
+    if ( inout_mapConfigs.try_emplace( in_hConfig->getId(), in_hConfig ).second )
+        return true;
+    VELQUIN_REPORT_ERROR( in_logger, "failed to add " << in_szKind << " config : " << in_hConfig->getId() );
+    return false;
+}
+
+/// Whether one of them, asked one after the other, applies to the interface of that long unique identifier.
+template <class TConfig>
+bool isAnyAppliedTo( const NumberedConfigs<TConfig>& in_mapConfigs, const char* in_szUniqueId ) {
+    return std::any_of( in_mapConfigs.begin(), in_mapConfigs.end(), [in_szUniqueId]( const auto& in_entry ) {
+        return in_entry.second->isAppliedToInterface( in_szUniqueId );
+    } );
+}
+
+} // namespace Velquin::Pstn
