@@ -16,15 +16,14 @@ namespace {
 
 /// What the adding of a range is told with, at DEBUG and when it is refused.
 struct Adding {
-    const BChannelRangeConfig& range;
-    const char* szGroupId;
+    const BChannelRangeConfig& m_range;
+    const char* m_szGroupId;
 
     friend std::ostream& operator<<( std::ostream& inout_stream, const Adding& in_adding ) {
-        const BChannelRangeConfig& range = in_adding.range;
         return inout_stream << "Add B-Channel range "
-                            << "[" << range.getFirstChannel() << ".." << range.getLastChannel() << "] of "
-                            << range.getInterfaceConfig()->getUniqueId( false ) << " to channelGroup \""
-                            << in_adding.szGroupId << "\"";
+                            << "[" << in_adding.m_range.getFirstChannel() << ".." << in_adding.m_range.getLastChannel()
+                            << "] of " << in_adding.m_range.getInterfaceConfig()->getUniqueId( false )
+                            << " to channelGroup \"" << in_adding.m_szGroupId << "\"";
     }
 };
 
