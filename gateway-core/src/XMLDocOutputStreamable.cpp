@@ -30,6 +30,10 @@ struct BufferDeleter {
     void operator()( xmlBuffer* in_pBuffer ) const noexcept { xmlBufferFree( in_pBuffer ); }
 };
 
+struct SaveContextDeleter {
+    void operator()( xmlSaveCtxt* in_pContext ) const noexcept { xmlSaveClose( in_pContext ); }
+};
+
 /// Hears libxml2's errors on this thread while it lives. Most operations that make or write a tree tell of a failure in
 /// no other way, and their callers would write what is left of the document.
 class ErrorListener {
@@ -102,10 +106,11 @@ bool XMLSTLDocOutputStreamableImpl::writeTo( std::ostream& inout_stream ) const 
         return false;
     const std::unique_ptr<xmlBuffer, BufferDeleter> pBuffer( xmlBufferCreate() );
     errors.require( pBuffer != nullptr );
-    xmlSaveCtxt* const pContext = xmlSaveToBuffer( pBuffer.get(), "UTF-8", XML_SAVE_FORMAT );
+    std::unique_ptr<xmlSaveCtxt, SaveContextDeleter> pContext(
+        xmlSaveToBuffer( pBuffer.get(), "UTF-8", XML_SAVE_FORMAT ) );
     errors.require( pContext != nullptr );
-    const bool bSaved = xmlSaveDoc( pContext, pDocument.get() ) >= 0;
-    const bool bClosed = xmlSaveClose( pContext ) >= 0;
+    const bool bSaved = xmlSaveDoc( pContext.get(), pDocument.get() ) >= 0;
+    const bool bClosed = xmlSaveClose( pContext.release() ) >= 0;
     errors.require( bSaved && bClosed );
     // What isn't UTF-8 in the model is written as it is.
     if ( !xmlCheckUTF8( xmlBufferContent( pBuffer.get() ) ) )
