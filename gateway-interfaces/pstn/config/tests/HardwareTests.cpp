@@ -1,4 +1,15 @@
-#include "ConfigTest.h"
+#include "LogCapture.h"
+#include "ReaderTest.h"
+#include "callcontrol/CallControlConfig.h"
+#include "hardware/TirvanaAnalogBoardConfig.h"
+#include "hardware/TirvanaAnalogBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaAnalogInterfaceConfig.h"
+#include "hardware/TirvanaDigitalBoardConfig.h"
+#include "hardware/TirvanaDigitalBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaDigitalVirtualBoardConfig.h"
+#include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaDigitalVirtualInterfaceConfig.h"
+#include "hardware/TirvanaProviderConfig.h"
 
 // Providers, boards, interfaces: what their readers and containers refuse, and what they keep.
 
@@ -6,19 +17,383 @@ namespace Velquin::Pstn::Test {
 
 namespace {
 
+const Reader PROVIDER( "TirvanaProviderConfig", "] for tirvana provider  " );
+const Reader THREADS( "TirvanaThreadGroupConfig", "] for thread group " );
+const Reader BOARD( "BoardConfig", "] for board  " );
+const Reader ANALOG_BOARD( "TirvanaAnalogBoardConfig", "] for analog board  " );
+const Reader DIGITAL_BOARD( "TirvanaDigitalBoardConfig", "] for tirvana digital board  " );
+const Reader INTERFACE( "InterfaceConfig", "] for interface  " );
+const Reader SPAN( "TirvanaDigitalInterfaceConfig", "] for digital interface  ", "] for digital interface " );
+const Reader VIRTUAL_SPAN( "TirvanaDigitalVirtualInterfaceConfig", "] for digital interface " );
+const Reader PORT( "AnalogInterfaceConfig", "] for analog interface " );
+const Reader TIRVANA_PORT( "TirvanaAnalogInterfaceConfig", "] for analog interface " );
+
+const std::string PROVIDER_PATH = "/pstnConfig/providers/tirvana";
+const std::string DIGITAL_PATH = "/pstnConfig/boards/tirvanaDigitalBoard[1]";
+const std::string ANALOG_PATH = "/pstnConfig/boards/tirvanaAnalogBoard";
+
+const std::string PROVIDER_FAILED = containsErrors( "provider tirvana", "<tirvana>" );
+const std::string DIGITAL_FAILED = containsErrors( "board tirvanaDigitalBoard" );
+const std::string E1_FAILED = containsErrors( "board tirvanaDigitalBoard", "E1 card" );
+const std::string VIRTUAL_FAILED = containsErrors( "board tirvanaVirtualDigitalBoard", "\"Virtual\"" );
+const std::string LINES_FAILED = containsErrors( "board tirvanaAnalogBoard", "\"Lines\"" );
+const std::string PHONES_FAILED = containsErrors( "board tirvanaAnalogBoard", "\"Phones\"" );
+const std::string PORT_FAILED = assertion( "!pInterfaceConfig.isNull()", "TirvanaAnalogBoardConfigXmlSerializer" );
+
+const Subject B_THREADS( "BChannelsThreads", "<BChannelsThreads", PROVIDER_PATH + "/BChannelsThreads",
+                         { PROVIDER_FAILED } );
+const Subject D_THREADS( "DChannelsThreads", "<DChannelsThreads", PROVIDER_PATH + "/DChannelsThreads",
+                         { PROVIDER_FAILED } );
+const Subject TX( "TxMediaStreams", "<TxMediaStreams", PROVIDER_PATH + "/TxMediaStreams", { PROVIDER_FAILED } );
+const Subject RX( "RxMediaStreams", "<RxMediaStreams", PROVIDER_PATH + "/RxMediaStreams", { PROVIDER_FAILED } );
+const Subject E1_CARD( "Board", "E1 card", DIGITAL_PATH, { DIGITAL_FAILED } );
+const Subject LINES_CARD( "AnalogBoard", "\"Lines\"", ANALOG_PATH + "[1]",
+                          { containsErrors( "board tirvanaAnalogBoard" ) } );
+const Subject E1_SPAN( "DigitalInterface", "E1-A", DIGITAL_PATH + "/interface[1]", { E1_FAILED } );
+const Subject
+    VIRTUAL( "VirtualInterface", "V-A", "/pstnConfig/boards/tirvanaVirtualDigitalBoard/interface",
+             { assertion( "!pDigitalInterfaceConfig.isNull()", "TirvanaDigitalVirtualBoardConfigXmlSerializer" ),
+               VIRTUAL_FAILED } );
+const Subject FXO( "AnalogInterface", "Line-A", ANALOG_PATH + "[1]/interface[1]", { PORT_FAILED, LINES_FAILED } );
+const Subject FXS( "AnalogInterface", "Phone-A", ANALOG_PATH + "[2]/interface", { PORT_FAILED, PHONES_FAILED } );
+
 const std::vector<LoadCase> CASES{
     { "CompleteDocument", {}, true, {}, SCHEMA },
-    { "BoardIdMissing",
-      { { "<tirvanaDigitalBoard ID=\"1\" displayName", "<tirvanaDigitalBoard displayName" } },
-      false,
-      { "ERROR BoardConfigXmlSerializer: Missing attribute /pstnConfig/boards/tirvanaDigitalBoard[1]/ID] for board  "
-        "tirvanaDigitalBoard declared in file {file} at line {line}. ",
-        "ERROR XmlConfig: Configuration of the board tirvanaDigitalBoard declared in file {file} at line {line} "
-        "contains one ore more errors. " } },
+    refused( "ProviderTwice", { { "</tirvana>", R"(</tirvana><tirvana><BChannelsThreads count="1" priority="LOW"/>
+                                                   <DChannelsThreads count="1" priority="LOW"/></tirvana>)" } },
+             { "ERROR Config: failed to all new provider: tirvana" } ),
+    refused( "ProviderBChannelsThreadsMissing", { { "<BChannelsThreads", "<Threads" } },
+             { missing( PROVIDER, PROVIDER_PATH + "/BChannelsThreads", "<tirvana>" ), PROVIDER_FAILED } ),
+    refused( "ProviderDChannelsThreadsMissing", { { "<DChannelsThreads", "<Threads" } },
+             { missing( PROVIDER, PROVIDER_PATH + "/DChannelsThreads", "<tirvana>" ), PROVIDER_FAILED } ),
+    refused( "ProviderReadsDChannelsFirst",
+             { { R"(<BChannelsThreads count="4")", "<BChannelsThreads" },
+               { R"(<DChannelsThreads count="1")", "<DChannelsThreads" } },
+             { missing( THREADS, PROVIDER_PATH + "/DChannelsThreads/count" ), PROVIDER_FAILED } ),
+    refused( "BoardClockReferenceUnknown", { { R"(Reference="2")", R"(Reference="9")" } },
+             { "ERROR DigitalBoardConfig: failed to get digital interface: 9",
+               invalid( DIGITAL_BOARD, DIGITAL_PATH + "/primaryClockReference=9",
+                        "Specified interface ID value does not exist" ),
+               DIGITAL_FAILED } ),
+    refused( "BoardDigitalInterfaceTwice", { { R"(ID="2" displayName="E1-B")", R"(ID="1" displayName="E1-B")" } },
+             { "ERROR DigitalBoardConfig: failed to add new digital interface: 1<E1-B>", E1_FAILED } ),
+    refused( "BoardAnalogInterfaceTwice", { { R"(ID="2" displayName="Line-B")", R"(ID="1" displayName="Line-B")" } },
+             { "ERROR AnalogBoardConfig: failed to add new analog interface: 1<Line-B>", LINES_FAILED } ),
+    refused( "BoardVirtualInterfaceTwice",
+             { { VIRTUAL.strTag,
+                 VIRTUAL.strTag +
+                     R"(<interface ID="1" displayName="V-B" peerVirtualInterfaceID="1" peerVirtualBoardID="3"/>)" } },
+             { "ERROR DigitalBoardConfig: failed to add new digital interface: 1<V-B>", VIRTUAL_FAILED } ),
+    // Virtual boards share the numbers of the digital ones; analog boards don't, as the complete document shows.
+    refused( "BoardIdOfVirtualAndDigital",
+             { { R"(<tirvanaVirtualDigitalBoard ID="3")", R"(<tirvanaVirtualDigitalBoard ID="2")" } },
+             { "ERROR Config: failed to add new digital board: 2<Virtual>" } ),
+    refused( "BoardIdOfTwoAnalog", { { R"(<tirvanaAnalogBoard ID="2")", R"(<tirvanaAnalogBoard ID="1")" } },
+             { "ERROR Config: failed to add new analog board: 1<Phones>" } ),
+};
+
+const char* const PRIORITY = "Please specify one of the following prioritie values: LOWEST, LOW, NORMAL, HIGH, HIGHEST";
+const char* const FLAG = "Valid values are: TRUE and FALSE.";
+const char* const BOARD_NAME = "Display name may contain space, '-', '_' and alpha numeric characters.";
+const char* const NAME = "Display name may contains spaces, '-', '_' and alpha numeric characters.";
+
+const std::vector<LoadCase> ATTRIBUTE_CASES = gather( {
+    attributeCases( B_THREADS, THREADS, "count#" ),
+    attributeCases( B_THREADS, THREADS, "priority#normal", PRIORITY ),
+    attributeCases( D_THREADS, THREADS, "count#" ),
+    attributeCases( D_THREADS, THREADS, "priority#2", PRIORITY ),
+    attributeCases( TX, PROVIDER, "?reverseBits#true", FLAG ),
+    attributeCases( RX, PROVIDER, "?reverseBits#NO", FLAG ),
+    attributeCases( E1_CARD, BOARD, "ID#1x model ?pciSlot#-1 ?pciBus#0x10" ),
+    attributeCases( E1_CARD, BOARD, "displayName#", BOARD_NAME ),
+    attributeCases( E1_CARD, DIGITAL_BOARD, "?primaryClockReference#2x" ),
+    attributeCases( LINES_CARD, ANALOG_BOARD, "tirpipe#10x" ),
+    attributeCases( E1_SPAN, INTERFACE, "ID#" ),
+    attributeCases( E1_SPAN, INTERFACE, "displayName#", NAME ),
+    attributeCases( E1_SPAN, SPAN, "tirpipe#" ),
+    attributeCases( VIRTUAL, INTERFACE, "ID#" ),
+    attributeCases( VIRTUAL, VIRTUAL_SPAN, "peerVirtualInterfaceID# peerVirtualBoardID#" ),
+    attributeCases( FXO, INTERFACE, "displayName#", NAME ),
+    attributeCases( FXO, PORT, "type#fxo", "Valid values are FXO and FXS" ),
+    attributeCases( FXS, PORT, "phoneNumber callerName" ),
+    attributeCases( FXO, TIRVANA_PORT, "tirpipeInterface#" ),
+} );
+
+/// Identifiers of what a map or a vector of handles holds, in its order.
+template <class TContainer>
+std::string getIds( const TContainer& in_container ) {
+    std::string strIds;
+    for ( const auto& one : in_container ) {
+        if constexpr ( requires { one.second; } )
+            strIds += std::to_string( one.second->getId() ) + " ";
+        else
+            strIds += std::to_string( one->getId() ) + " ";
+    }
+    return strIds;
+}
+
+// ---- What no document provokes
+
+template <class T>
+T* newNamed( unsigned int in_uId, const char* in_szName ) {
+    auto* const pNew = new T();
+    pNew->setId( in_uId );
+    EXPECT_TRUE( pNew->setDisplayName( in_szName ) );
+    return pNew;
+}
+
+/// Serializers that make objects of another class, or none.
+template <class TXmlSerializer, class TBoard>
+class WrongBoardXmlSerializer : public TXmlSerializer {
+    BoardConfig* newBoardConfig() override { return makeSome<BoardConfig, TBoard>(); }
+};
+template <class TXmlSerializer, class TInterface>
+class WrongInterfaceXmlSerializer : public TXmlSerializer {
+    InterfaceConfig* newInterfaceConfig() override { return makeSome<InterfaceConfig, TInterface>(); }
+};
+
+template <class TXmlSerializer, class TBoard>
+CallCase wrongBoard( const std::string& in_strExpression ) {
+    return misused<TXmlSerializer>( in_strExpression, [] {
+        XmlConfig config;
+        const Element element( R"(<board ID="1" displayName="B" model="" tirpipe="1"/>)" );
+        return !WrongBoardXmlSerializer<TXmlSerializer, TBoard>().read( element.get(), config );
+    } );
+}
+template <class TXmlSerializer, class TInterface>
+CallCase wrongInterface( const std::string& in_strExpression ) {
+    return misused<TXmlSerializer>( in_strExpression, [] {
+        XmlConfig config;
+        const Element element( R"(<interface ID="1" displayName="I" type="FXO"/>)" );
+        return !WrongInterfaceXmlSerializer<TXmlSerializer, TInterface>().read( element.get(), config, BoardConfig() );
+    } );
+}
+
+const std::vector<CallCase> CALLS{
+    { "ConfigRefusesNull",
+      [] {
+          Config config;
+          EXPECT_TRUE( config.getCallControlConfig().isNull() );
+          auto* const pCallControl = new CallControlConfig();
+          EXPECT_TRUE( config.setCallControlConfig( pCallControl ) );
+          TSHandle<CallControlConfig> hNull;
+          EXPECT_FALSE( config.addProviderConfig( nullptr ) || config.addBoardConfig( nullptr ) ||
+                        config.addAnalogBoardConfig( nullptr ) || config.addDigitalBoardConfig( nullptr ) );
+          EXPECT_FALSE( config.setCallControlConfig( hNull.get() ) || config.setCallControlConfig( hNull ) );
+          EXPECT_TRUE( config.getProviderConfig( nullptr ).isNull() );
+          EXPECT_EQ( config.getCallControlConfig().get(), pCallControl ) << "what was there is gone";
+      },
+      { assertion( "in_pNewProviderConfig", "Config" ), assertion( "in_pNewBoardConfig", "Config" ),
+        assertion( "in_pNewAnalogBoardConfig", "Config" ), assertion( "in_pNewDigitalBoardConfig", "Config" ),
+        assertion( "!pCallControlConfig.isNull()", "Config" ), assertion( "!in_hCallControlConfig.isNull()", "Config" ),
+        assertion( "in_szName != nullptr", "Config" ) } },
+    { "ConfigKeepsFirstBoardOfAnId",
+      [] {
+          Config config;
+          EXPECT_TRUE( config.addBoardConfig( newNamed<DigitalBoardConfig>( 9, "Ninth" ) ) );
+          EXPECT_TRUE( config.addBoardConfig( newNamed<DigitalBoardConfig>( 1, "First" ) ) );
+          EXPECT_TRUE( config.addBoardConfig( newNamed<AnalogBoardConfig>( 1, "First" ) ) ) << "another kind";
+          EXPECT_FALSE( config.addBoardConfig( newNamed<TirvanaDigitalBoardConfig>( 1, "Second" ) ) );
+          EXPECT_FALSE( config.addAnalogBoardConfig( newNamed<AnalogBoardConfig>( 1, "Second" ) ) );
+          EXPECT_FALSE( config.addBoardConfig( newNamed<BoardConfig>( 5, "Odd" ) ) );
+          EXPECT_EQ( getIds( config.getDigitalBoardsConfig() ), "1 9 " );
+          EXPECT_STREQ( config.getDigitalBoardConfig( 1 )->getDisplayName(), "First" );
+          EXPECT_STREQ( config.getAnalogBoardConfig( 1 )->getDisplayName(), "First" );
+      },
+      { "ERROR Config: failed to add new digital board: 1<Second>",
+        "ERROR Config: failed to add new analog board: 1<Second>",
+        "ERROR Config: failed to add new board, which is neither analog nor digital: 5<Odd>" } },
+    { "ConfigFindsNothing",
+      [] {
+          Config config;
+          EXPECT_TRUE( config.addBoardConfig( newNamed<DigitalBoardConfig>( 1, "D" ) ) );
+          EXPECT_TRUE( config.addBoardConfig( newNamed<AnalogBoardConfig>( 1, "A" ) ) );
+          EXPECT_TRUE( config.getProviderConfig( "Tirvana" ).isNull() );
+          EXPECT_TRUE( config.getAnalogInterfaceConfig( 8, 1 ).isNull() &&
+                       config.getAnalogInterfaceConfig( 1, 9 ).isNull() );
+          EXPECT_TRUE( config.getDigitalInterfaceConfig( 8, 1 ).isNull() &&
+                       config.getDigitalInterfaceConfig( 1, 9 ).isNull() );
+      },
+      { "ERROR Config: failed to get provider: Tirvana", "ERROR Config: failed to get analog board: 8",
+        "ERROR AnalogBoardConfig: failed to get analog interface: 9", "ERROR Config: failed to get digital board: 8",
+        "ERROR DigitalBoardConfig: failed to get digital interface: 9" } },
+    { "HardwareRefusesNull",
+      [] {
+          Config config;
+          const_cast<Config::AnalogBoardConfigs&>( config.getAnalogBoardsConfig() )[1] = nullptr;
+          std::set<std::string> setToneSets;
+          EXPECT_FALSE( config.getToneSets( setToneSets ) );
+          AnalogBoardConfig analogBoard;
+          DigitalBoardConfig digitalBoard;
+          EXPECT_FALSE( analogBoard.addAnalogInterfaceConfig( nullptr ) ||
+                        digitalBoard.addDigitalInterfaceConfig( nullptr ) );
+          std::vector<TSHandle<AnalogInterfaceConfig>> vecPorts( 1 );
+          std::vector<TSHandle<DigitalInterfaceConfig>> vecSpans( 1 );
+          EXPECT_FALSE( analogBoard.getAnalogInterfacesConfig( vecPorts ) ||
+                        digitalBoard.getDigitalInterfacesConfig( vecSpans ) );
+          EXPECT_FALSE( analogBoard.setDisplayName( nullptr ) || analogBoard.setModel( nullptr ) );
+          AnalogInterfaceConfig port;
+          DigitalInterfaceConfig span;
+          EXPECT_FALSE( port.setBoardConfig( nullptr ) || port.setPhysicalConfig( nullptr ) ||
+                        span.setPhysicalConfig( nullptr ) );
+          EXPECT_STREQ( span.getUniqueId( true ), "" );
+      },
+      { assertion( "!hBoardConfig.isNull()", "Config" ),
+        assertion( "in_pNewAnalogInterfaceConfig", "AnalogBoardConfig" ),
+        assertion( "in_pNewDigitalInterfaceConfig", "DigitalBoardConfig" ),
+        assertion( "out_vecAnalogInterfaceConfig.empty()", "AnalogBoardConfig" ),
+        assertion( "out_vecDigitalInterfaceConfig.empty()", "DigitalBoardConfig" ),
+        assertion( "in_szName != nullptr", "DisplayName" ), assertion( "in_szText != nullptr", "Text" ),
+        assertion( "!in_pBoardConfig.isNull()", "InterfaceConfig" ),
+        assertion( "!in_hPhysicalConfig.isNull()", "AnalogInterfaceConfig" ),
+        assertion( "!in_hPhysicalConfig.isNull()", "DigitalInterfaceConfig" ),
+        assertion( "!getBoardConfig().isNull()", "InterfaceConfig" ) } },
+    { "InterfaceWithoutPhysicalConfig",
+      [] {
+          const TSHandle<BoardConfig> hBoard( newNamed<BoardConfig>( 1, "Span board" ) );
+          const TSHandle<DigitalInterfaceConfig> hSpan( newNamed<DigitalInterfaceConfig>( 2, "Trunk-A" ) );
+          EXPECT_TRUE( hSpan->setBoardConfig( hBoard.get() ) );
+          EXPECT_FALSE( hSpan->hasDChannel() );
+      },
+      { "WARN DigitalInterfaceConfig: digital interface \"b1(Span board)di2(Trunk-A)\" has no physical "
+        "configuration" } },
+    wrongBoard<BoardConfigXmlSerializer, void>( "!pBoardConfig.isNull()" ),
+    wrongInterface<InterfaceConfigXmlSerializer, void>( "!pInterfaceConfig.isNull()" ),
+    wrongBoard<AnalogBoardConfigXmlSerializer, DigitalBoardConfig>( "!pAnalogBoardConfig.isNull()" ),
+    wrongBoard<DigitalBoardConfigXmlSerializer, AnalogBoardConfig>( "!pDigitalBoardConfig.isNull()" ),
+    wrongBoard<TirvanaAnalogBoardConfigXmlSerializer, AnalogBoardConfig>( "!pTirvanaAnalogBoardConfig.isNull()" ),
+    wrongBoard<TirvanaDigitalBoardConfigXmlSerializer, DigitalBoardConfig>( "!pTirvanaDigitalBoardConfig.isNull()" ),
+    wrongBoard<TirvanaDigitalVirtualBoardConfigXmlSerializer, DigitalBoardConfig>( "!pVirtualBoardConfig.isNull()" ),
+    wrongInterface<DigitalInterfaceConfigXmlSerializer, AnalogInterfaceConfig>( "!pDigitalInterfaceConfig.isNull()" ),
+    wrongInterface<AnalogInterfaceConfigXmlSerializer, DigitalInterfaceConfig>( "!pAnalogInterfaceConfig.isNull()" ),
+    wrongInterface<TirvanaDigitalInterfaceConfigXmlSerializer, DigitalInterfaceConfig>(
+        "!pTirvanaDigitalInterfaceConfig.isNull()" ),
+    wrongInterface<TirvanaDigitalVirtualInterfaceConfigXmlSerializer, DigitalInterfaceConfig>(
+        "!pTirvanaDigitalVirtualInterfaceConfig.isNull()" ),
+    wrongInterface<TirvanaAnalogInterfaceConfigXmlSerializer, AnalogInterfaceConfig>(
+        "!pTirvanaAnalogInterfaceConfig.isNull()" ),
 };
 
 } // namespace
 
 PSTN_LOAD_CASES( HardwareCases, CASES );
+PSTN_LOAD_CASES( HardwareAttributeCases, ATTRIBUTE_CASES );
+PSTN_CALL_CASES( HardwareCalls, CALLS );
+
+// What boards and interfaces hold is compared where they are written; here is the rest.
+
+TEST( Hardware, ProviderHasTheValuesOfTheFile ) {
+    XmlConfig config;
+    loadValid( config, TestDocument() );
+    const TSHandle<ProviderConfig> hProvider = config.getProviderConfig( "tirvana" );
+    const auto& provider = as<TirvanaProviderConfig>( hProvider );
+    const auto describe = []( const TirvanaThreadGroupConfig& in_threads ) {
+        return std::to_string( in_threads.getThreadCount() ) + in_threads.getThreadsPriority().getName();
+    };
+    EXPECT_EQ( provider.getId() + describe( provider.getBChannelsThreadsConfig() ) +
+                   describe( provider.getDChannelsThreadsConfig() ),
+               "tirvana4HIGH1NORMAL" );
+    EXPECT_TRUE( provider.isReverseBitsOfTxMediaStreamsEnabled() && !provider.isReverseBitsOfRxMediaStreamsEnabled() );
+    EXPECT_EQ( TirvanaThreadGroupConfig().getThreadsPriority().getCode(), 2 );
+}
+
+TEST( Hardware, InterfacesComeOutInOrderWithTheirNames ) {
+    XmlConfig config;
+    // The spans stand in the file as 3, 1, 2; the clock reference is neither the first in the file nor in order.
+    loadValid( config, TestDocument().edit( { { "model=\"TVD-3\"", "model=\"TVD-3\" primaryClockReference=\"2\"" },
+                                              { R"(ID="1" displayName="T1-A")", R"(ID="3" displayName="T1-A")" },
+                                              { R"(ID="2" displayName="T1-B")", R"(ID="1" displayName="T1-B")" },
+                                              { R"(ID="3" displayName="T1-C")", R"(ID="2" displayName="T1-C")" } } ) );
+    const auto hBoard = config.getDigitalBoardConfig( 2 );
+    std::vector<TSHandle<DigitalInterfaceConfig>> vecSpans;
+    ASSERT_TRUE( hBoard->getDigitalInterfacesConfig( vecSpans ) );
+    EXPECT_EQ( getIds( vecSpans ), "1 2 3 " );
+    EXPECT_STREQ( vecSpans[0]->getUniqueId( true ), "b2di1" );
+    EXPECT_STREQ( vecSpans[0]->getUniqueId( false ), "b2(T1 card)di1(T1-B)" );
+    EXPECT_EQ( vecSpans[0]->getBoardConfig().get(), hBoard.get() );
+    EXPECT_EQ( as<TirvanaDigitalBoardConfig>( hBoard ).getPrimaryClockReferenceInterfaceConfig().get(),
+               vecSpans[1].get() );
+    EXPECT_FALSE( as<TirvanaDigitalInterfaceConfig>( vecSpans[0] ).isPrimaryClockReference() );
+    EXPECT_TRUE( TirvanaDigitalBoardConfig().getPrimaryClockReferenceInterfaceConfig().isNull() );
+    EXPECT_TRUE( config.getDigitalInterfaceConfig( 1, 2 )->hasDChannel() );
+    const auto hVirtualSpan = config.getDigitalInterfaceConfig( 3, 1 );
+    EXPECT_NE( dynamic_cast<const TirvanaDigitalVirtualInterfaceConfig*>( hVirtualSpan.get() ), nullptr );
+    EXPECT_STREQ( config.getAnalogInterfaceConfig( 2, 1 )->getUniqueId( true ), "b2ai1" );
+    EXPECT_STREQ( config.getAnalogInterfaceConfig( 2, 1 )->getUniqueId( false ), "b2(Phones)ai1(Phone-A)" );
+    std::set<std::string> setToneSets{ "OTHER" };
+    EXPECT_TRUE( config.getToneSets( setToneSets ) );
+    EXPECT_EQ( setToneSets, ( std::set<std::string>{ "AMERICA", "ANALOG", "EUROPE", "OTHER" } ) );
+
+    AnalogBoardConfig board;
+    for ( const unsigned int uId : { 3U, 1U, 2U } )
+        EXPECT_TRUE( board.addAnalogInterfaceConfig( newNamed<AnalogInterfaceConfig>( uId, "" ) ) );
+    std::vector<TSHandle<AnalogInterfaceConfig>> vecPorts;
+    ASSERT_TRUE( board.getAnalogInterfacesConfig( vecPorts ) );
+    EXPECT_EQ( getIds( vecPorts ), "1 2 3 " );
+}
+
+TEST( Hardware, ReadersKeepDefaultsAndTakeLeadingNumbers ) {
+    XmlConfig config;
+    loadValid(
+        config,
+        TestDocument().edit( { { "<TxMediaStreams reverseBits=\"TRUE\"/>", "" },
+                               { "<RxMediaStreams reverseBits=\"FALSE\"/>", "" },
+                               { "count=\"4\"", "count=\" 4 threads\"" },
+                               { "tirpipe=\"2\"", "tirpipe=\"12.5\"" },
+                               { R"(<interface ID="3" displayName="T1-C")", R"(<span ID="3abc" displayName="")" },
+                               { "type=\"FXO\" tirpipeInterface=\"1\"",
+                                 R"(type="FXO" phoneNumber="1" callerName="x" tirpipeInterface="7x")" } } ),
+        ANY_SCHEMA );
+    const TSHandle<ProviderConfig> hProvider = config.getProviderConfig( "tirvana" );
+    const auto& provider = as<TirvanaProviderConfig>( hProvider );
+    EXPECT_FALSE( provider.isReverseBitsOfTxMediaStreamsEnabled() || provider.isReverseBitsOfRxMediaStreamsEnabled() );
+    EXPECT_EQ( provider.getBChannelsThreadsConfig().getThreadCount(), 4U );
+    EXPECT_EQ( as<TirvanaDigitalInterfaceConfig>( config.getDigitalInterfaceConfig( 2, 1 ) ).getTirpipe(), 12U );
+    EXPECT_STREQ( config.getDigitalInterfaceConfig( 2, 3 )->getDisplayName(), "" );
+    const auto hLine = config.getAnalogInterfaceConfig( 1, 1 );
+    EXPECT_EQ( as<TirvanaAnalogInterfaceConfig>( hLine ).getTirpipeInterface(), 7U );
+    EXPECT_STREQ( hLine->getPhoneNumber(), "" ) << "an FXO line has none";
+    EXPECT_STREQ( hLine->getCallerName(), "" );
+}
+
+TEST( Hardware, DisplayNamesAreCheckedAsAWhole ) {
+    BoardConfig board;
+    DigitalInterfaceConfig span;
+    for ( const char* const szName : { "Span 1_a-b", "", "-", "0" } )
+        EXPECT_TRUE( board.setDisplayName( szName ) && span.setDisplayName( szName ) ) << szName;
+    for ( const char* const szName : { "Span#1", "a\n", "a\tb", "\xc3\xa9", "a.b", "#" } )
+        EXPECT_FALSE( board.setDisplayName( szName ) || span.setDisplayName( szName ) ) << szName;
+    EXPECT_STREQ( board.getDisplayName(), "0" ) << "the old name is gone";
+    EXPECT_STREQ( span.getDisplayName(), "0" ) << "the old name is gone";
+}
+
+TEST( Hardware, TellsItsStepsAtDebug ) {
+    const Velquin::Test::LogCapture log( Logger::DEBUG_LEVEL );
+    Config config;
+    auto* const pProvider = new TirvanaProviderConfig();
+    EXPECT_TRUE( pProvider->setId( "tirvana" ) && config.addProviderConfig( pProvider ) );
+    auto* const pAnalogBoard = newNamed<AnalogBoardConfig>( 3, "Main" );
+    auto* const pDigitalBoard = newNamed<DigitalBoardConfig>( 4, "Span" );
+    EXPECT_TRUE( pAnalogBoard->addAnalogInterfaceConfig( newNamed<AnalogInterfaceConfig>( 5, "P" ) ) );
+    EXPECT_TRUE( pDigitalBoard->addDigitalInterfaceConfig( newNamed<DigitalInterfaceConfig>( 6, "S" ) ) );
+    EXPECT_TRUE( config.addBoardConfig( pAnalogBoard ) && config.addBoardConfig( pDigitalBoard ) );
+    EXPECT_EQ( config.getProviderConfig( "tirvana" ).get(), pProvider );
+    EXPECT_FALSE( config.getAnalogInterfaceConfig( 3, 5 ).isNull() ||
+                  config.getDigitalInterfaceConfig( 4, 6 ).isNull() );
+    std::set<std::string> setToneSets;
+    EXPECT_TRUE( config.getToneSets( setToneSets ) );
+    std::vector<std::string> vecMessages;
+    for ( const auto& record : log.getRecords() )
+        vecMessages.push_back( record.strMessage );
+    EXPECT_EQ( join( vecMessages ),
+               join( { "adding new provider: tirvana", "adding new analog interface: 5<P>",
+                       "adding new digital interface: 6<S>", "adding new analog board: 3<Main>",
+                       "adding new digital board: 4<Span>", "getting provider: tirvana",
+                       "getting analog interface board=3 interface=5", "getting analog board: 3",
+                       "getting analog interface: 5", "getting digital interface board=4 interface=6",
+                       "getting digital board: 4", "getting digital interface: 6", "getting all digital interfaces",
+                       "no Tirvana digital interface to configure for board 4", "getting all analog interfaces",
+                       "no Tirvana analog interface to configure for board 3" } ) );
+}
 
 } // namespace Velquin::Pstn::Test

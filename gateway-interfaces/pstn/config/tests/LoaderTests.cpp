@@ -145,11 +145,11 @@ TEST( Loader, RefusesFilesThatAreNoDocument ) {
 
 TEST( Loader, RefusesWhatIsNoRegularFile ) {
     const std::string strFolder = std::filesystem::temp_directory_path().string();
-    for ( const auto& [strPath, strWhy] :
-          { std::pair<std::string, std::string>( strFolder, "it is not a regular file" ),
-            { strFolder + "/no such file", "No such file or directory" } } ) {
+    for ( const auto& paths : { std::pair<std::string, std::string>( strFolder, "it is not a regular file" ),
+                                { strFolder + "/no such file", "No such file or directory" } } ) {
+        const std::string& strPath = paths.first;
         XmlConfig config;
-        const std::string strCause = "ERROR XmlConfig: Can't read, " + strWhy + " in file " + strPath + ".";
+        const std::string strCause = "ERROR XmlConfig: Can't read, " + paths.second + " in file " + strPath + ".";
         EXPECT_EQ( join( load( config, strPath, SCHEMA ).vecLines ),
                    join( { strCause, "ERROR XmlConfig: failed to parse XML file " + strPath } ) );
         EXPECT_EQ( join( load( config, DATA_FOLDER + std::string( "/complete.xml" ), strPath ).vecLines ),

@@ -1,0 +1,232 @@
+#include "LogCapture.h"
+#include "ReaderTest.h"
+#include "hardware/TirvanaAnalogBoardConfig.h"
+#include "hardware/TirvanaAnalogBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaAnalogInterfaceConfig.h"
+#include "hardware/TirvanaDigitalBoardConfig.h"
+#include "hardware/TirvanaDigitalBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaDigitalVirtualBoardConfig.h"
+#include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaDigitalVirtualInterfaceConfig.h"
+#include "hardware/TirvanaProviderConfig.h"
+#include "hardware/TirvanaProviderConfigXmlSerializer.h"
+#include "hardware/TirvanaThreadGroupConfigXmlSerializer.h"
+#include "physical/AnalogInterfacePhysicalConfigXmlSerializer.h"
+#include "physical/DChannelConfigXmlSerializer.h"
+#include "physical/TirvanaAnalogInterfacePhysicalConfigXmlSerializer.h"
+#include "physical/TirvanaDigitalInterfacePhysicalConfigXmlSerializer.h"
+#include "physical/audio/HardwareAcousticEchoCancellationConfigXmlSerializer.h"
+#include "physical/audio/HardwareBackgroundNoiseAttenuationConfigXmlSerializer.h"
+#include "physical/audio/HardwareDtmfRemovalConfigXmlSerializer.h"
+#include "physical/audio/HardwareEchoCancellationConfigXmlSerializer.h"
+#include "physical/audio/HardwareLevelControlConfigXmlSerializer.h"
+#include "physical/audio/TirvanaAudioConfigXmlSerializer.h"
+
+// Boards are written as they were read; nothing else is written. What libxml2 lacks the memory for stands elsewhere.
+
+namespace Velquin::Pstn::Test {
+
+namespace {
+
+class WritableConfig : public XmlConfig {
+public:
+    using XmlConfig::writeXML;
+};
+
+std::string write( const XmlConfig& in_config ) {
+    std::ostringstream stream;
+    stream << in_config;
+    return stream.str();
+}
+
+template <class TBoard, class TInterface>
+BoardConfig* newBoard() {
+    auto* const pBoard = new TBoard();
+    if constexpr ( std::is_base_of_v<AnalogBoardConfig, TBoard> )
+        EXPECT_TRUE( pBoard->addAnalogInterfaceConfig( new TInterface() ) );
+    else
+        EXPECT_TRUE( pBoard->addDigitalInterfaceConfig( new TInterface() ) );
+    return pBoard;
+}
+
+/// A case in which a configuration with one board isn't written.
+CallCase unwritable( const char* in_szName, BoardConfig* ( *in_newBoard )(),
+                     const std::vector<std::string>& in_vecLines ) {
+    const auto tryToWrite = [in_newBoard] {
+        XmlConfig config;
+        EXPECT_TRUE( config.addBoardConfig( in_newBoard() ) );
+        std::ostringstream stream;
+        EXPECT_TRUE( ( stream << config ).fail() );
+        EXPECT_EQ( stream.str(), "" );
+    };
+    return { in_szName, tryToWrite, in_vecLines };
+}
+
+/// What a serializer's write takes, as an object that can be made.
+template <class TConfig>
+struct Some : TConfig {};
+template <class TOwner, class TConfig>
+bool callWrite( bool ( TOwner::*in_write )( xmlNode*, const TConfig& ),
+                std::type_identity_t<TOwner>&& in_xmlSerializer ) {
+    return ( in_xmlSerializer.*in_write )( nullptr, Some<TConfig>() );
+}
+
+/// A case of serializers that don't write.
+template <class... TXmlSerializers>
+CallCase notWritten( const char* in_szName ) {
+    const auto getLine = []( const std::string& in_strName ) {
+        return "ERROR " + in_strName + ": Not implemented : " + in_strName + "::write";
+    };
+    return { in_szName,
+             [] { EXPECT_FALSE( ( callWrite( &TXmlSerializers::write, TXmlSerializers() ) || ... ) ); },
+             { getLine( TXmlSerializers::getMemAccountName() )... } };
+}
+
+const std::vector<CallCase> CALLS{
+    notWritten<ProviderConfigXmlSerializer, TirvanaProviderConfigXmlSerializer, TirvanaThreadGroupConfigXmlSerializer,
+               TirvanaDigitalVirtualBoardConfigXmlSerializer>( "HardwareNotWritten" ),
+    notWritten<InterfacePhysicalConfigXmlSerializer, DigitalInterfacePhysicalConfigXmlSerializer,
+               AnalogInterfacePhysicalConfigXmlSerializer, TirvanaDigitalInterfacePhysicalConfigXmlSerializer,
+               TirvanaAnalogInterfacePhysicalConfigXmlSerializer, DChannelConfigXmlSerializer>( "PhysicalNotWritten" ),
+    notWritten<AudioConfigXmlSerializer, TirvanaAudioConfigXmlSerializer, EchoCancellationConfigXmlSerializer,
+               HardwareEchoCancellationConfigXmlSerializer, AcousticEchoCancellationConfigXmlSerializer,
+               HardwareAcousticEchoCancellationConfigXmlSerializer, LevelControlConfigXmlSerializer,
+               HardwareLevelControlConfigXmlSerializer, BackgroundNoiseAttenuationConfigXmlSerializer,
+               HardwareBackgroundNoiseAttenuationConfigXmlSerializer, DtmfRemovalConfigXmlSerializer,
+               HardwareDtmfRemovalConfigXmlSerializer>( "AudioNotWritten" ),
+    { "VirtualInterfaceNotWritten",
+      [] {
+          EXPECT_FALSE(
+              TirvanaDigitalVirtualInterfaceConfigXmlSerializer().write( nullptr, DigitalInterfaceConfig() ) );
+      },
+      { "ERROR TirvanaDigitalVirtualInterfaceConfigXmlSerializer: Not implemented : "
+        "TirvanaDigitalVirtualInterfaceConfigXmlSerializer::write" } },
+    { "ProviderNotReadWithoutClass",
+      [] {
+          XmlConfig config;
+          EXPECT_EQ( ProviderConfigXmlSerializer().read( nullptr, config ), nullptr );
+      },
+      { "ERROR ProviderConfigXmlSerializer: Not implemented : ProviderConfigXmlSerializer::read" } },
+    { "WritingWithoutParent",
+      [] {
+          EXPECT_FALSE( WritableConfig().writeXML( nullptr ) );
+          EXPECT_FALSE( TirvanaDigitalBoardConfigXmlSerializer().write( nullptr, TirvanaDigitalBoardConfig() ) );
+          EXPECT_FALSE( TirvanaAnalogBoardConfigXmlSerializer().write( nullptr, TirvanaAnalogBoardConfig() ) );
+          EXPECT_FALSE(
+              TirvanaDigitalInterfaceConfigXmlSerializer().write( nullptr, TirvanaDigitalInterfaceConfig() ) );
+          EXPECT_FALSE( TirvanaAnalogInterfaceConfigXmlSerializer().write( nullptr, TirvanaAnalogInterfaceConfig() ) );
+          EXPECT_FALSE( BoardConfigXmlSerializer().write( nullptr, BoardConfig() ) );
+          EXPECT_FALSE( InterfaceConfigXmlSerializer().write( nullptr, DigitalInterfaceConfig() ) );
+      },
+      { "ERROR XmlConfig: Can not create root element.",
+        "ERROR TirvanaDigitalBoardConfigXmlSerializer: Can not add digital boards XML element.",
+        "ERROR TirvanaAnalogBoardConfigXmlSerializer: Can not add analog boards XML element.",
+        "ERROR TirvanaDigitalInterfaceConfigXmlSerializer: Can not add interface XML element.",
+        "ERROR TirvanaAnalogInterfaceConfigXmlSerializer: Can not add interface XML element.",
+        "ERROR BoardConfigXmlSerializer: Failed to add ID to board XML element.",
+        "ERROR InterfaceConfigXmlSerializer: Failed to add ID to board XML element." } },
+    { "WritingOfTheWrongClass",
+      [] {
+          EXPECT_FALSE( TirvanaDigitalBoardConfigXmlSerializer().write( nullptr, AnalogBoardConfig() ) );
+          EXPECT_FALSE( TirvanaAnalogBoardConfigXmlSerializer().write( nullptr, DigitalBoardConfig() ) );
+          EXPECT_FALSE( AnalogInterfaceConfigXmlSerializer().write( nullptr, DigitalInterfaceConfig() ) );
+      },
+      { assertion( "!pDigitalBoardConfig.isNull()", "TirvanaDigitalBoardConfigXmlSerializer" ),
+        assertion( "pAnalogBoardConfig", "TirvanaAnalogBoardConfigXmlSerializer" ),
+        assertion( "!pIfConfig.isNull()", "AnalogInterfaceConfigXmlSerializer" ) } },
+    unwritable( "WritingOfDigitalBoardFails", &newBoard<TirvanaDigitalBoardConfig, DigitalInterfaceConfig>,
+                { assertion( "!pDigitalIfConfig.isNull()", "TirvanaDigitalInterfaceConfigXmlSerializer" ),
+                  "ERROR TirvanaDigitalBoardConfigXmlSerializer: failed to serialize interface",
+                  "ERROR XmlConfig: Can not add digital boards elements." } ),
+    unwritable( "WritingOfAnalogBoardFails", &newBoard<TirvanaAnalogBoardConfig, AnalogInterfaceConfig>,
+                { assertion( "!pIfConfig.isNull()", "TirvanaAnalogInterfaceConfigXmlSerializer" ),
+                  "ERROR TirvanaAnalogBoardConfigXmlSerializer: failed to serialize interface",
+                  "ERROR XmlConfig: Can not add analog boards elements." } ),
+    unwritable( "WritingOfVirtualBoardFails", &newBoard<TirvanaDigitalVirtualBoardConfig, DigitalInterfaceConfig>,
+                { "ERROR TirvanaDigitalVirtualBoardConfigXmlSerializer: Not implemented : "
+                  "TirvanaDigitalVirtualBoardConfigXmlSerializer::write",
+                  "ERROR XmlConfig: Can not add digital boards elements." } ),
+    { "WritingOfNullFails",
+      [] {
+          XmlConfig config;
+          const_cast<Config::DigitalBoardConfigs&>( config.getDigitalBoardsConfig() )[1] = nullptr;
+          EXPECT_EQ( write( config ), "" );
+      },
+      { assertion( "!hBoardCfg.isNull()", "XmlConfig" ) } },
+};
+
+} // namespace
+
+PSTN_CALL_CASES( WritingCalls, CALLS );
+
+TEST( Writing, BoardsAreWrittenAsTheyWereRead ) {
+    // Without the virtual board, which isn't written. The boards and their interfaces stand in the wrong order.
+    const TestDocument document = TestDocument().edit(
+        { { R"(<tirvanaVirtualDigitalBoard ID="3" displayName="Virtual" model="none">)", "<!--" },
+          { "</tirvanaVirtualDigitalBoard>", "-->" },
+          { R"(<interfaceRef boardID="3"/>)", "" },
+          { "<interfaceRef boardID=\"3\">\n            <BChannelRange channelGroupID=\"both\" firstChannel=\"1\" "
+            "lastChannel=\"31\"/>\n          </interfaceRef>",
+            "" },
+          { "model=\"TVD-2\"", "model=\"&lt;&quot;\xc3\xa9&amp;'\"" },
+          { R"(<interface ID="1" displayName="Line-A")", R"(<interface ID="3" displayName="Line-A")" } } );
+    XmlConfig config;
+    loadValid( config, document );
+    const std::string strWritten = write( config );
+    EXPECT_EQ( strWritten, R"(<?xml version="1.0" encoding="UTF-8"?>
+<pstnConfig version="2.3">
+  <boards>
+    <tirvanaDigitalBoard ID="1" displayName="E1 card" model="&lt;&quot;)"
+                           "\xc3\xa9"
+                           R"(&amp;'" pciSlot="3" pciBus="0">
+      <interface ID="1" displayName="E1-A" tirpipe="0"/>
+      <interface ID="2" displayName="E1-B" tirpipe="1"/>
+    </tirvanaDigitalBoard>
+    <tirvanaDigitalBoard ID="2" displayName="T1 card" model="TVD-3">
+      <interface ID="1" displayName="T1-A" tirpipe="2"/>
+      <interface ID="2" displayName="T1-B" tirpipe="3"/>
+      <interface ID="3" displayName="T1-C" tirpipe="4"/>
+    </tirvanaDigitalBoard>
+    <tirvanaAnalogBoard ID="1" displayName="Lines" model="TVA-4" tirpipe="10">
+      <interface ID="2" displayName="Line-B" type="FXO" phoneNumber="" callerName="" tirpipeInterface="2"/>
+      <interface ID="3" displayName="Line-A" type="FXO" phoneNumber="" callerName="" tirpipeInterface="1"/>
+    </tirvanaAnalogBoard>
+    <tirvanaAnalogBoard ID="2" displayName="Phones" model="TVA-4" tirpipe="11">
+      <interface ID="1" displayName="Phone-A" type="FXS" phoneNumber="100" callerName="Reception" tirpipeInterface="1"/>
+    </tirvanaAnalogBoard>
+  </boards>
+</pstnConfig>
+)" );
+    // What was written takes the place of the boards and makes a valid file, which is written in the same way.
+    const std::string strEnd = "</boards>";
+    const std::size_t uBoards = strWritten.find( "  <boards>" );
+    const std::size_t uOld = document.getText().find( "  <boards>" );
+    std::string strSecond = document.getText();
+    strSecond.replace( uOld, strSecond.find( strEnd ) - uOld, strWritten, uBoards,
+                       strWritten.find( strEnd ) - uBoards );
+    XmlConfig second;
+    loadValid( second, TestDocument( strSecond ) );
+    EXPECT_EQ( write( second ), strWritten );
+    EXPECT_EQ( write( XmlConfig( second ) ), strWritten ) << "a copy";
+}
+
+TEST( Writing, EmptyConfigurationsHaveEmptyBoards ) {
+    EXPECT_EQ( write( XmlConfig() ), R"(<?xml version="1.0" encoding="UTF-8"?>
+<pstnConfig version="2.3">
+  <boards/>
+</pstnConfig>
+)" );
+}
+
+TEST( Writing, BoardsWithoutInterfacesAreToldAtDebug ) {
+    XmlConfig config;
+    EXPECT_TRUE( config.addBoardConfig( new TirvanaDigitalBoardConfig() ) &&
+                 config.addBoardConfig( new TirvanaAnalogBoardConfig() ) );
+    const Velquin::Test::LogCapture log( Logger::DEBUG_LEVEL );
+    EXPECT_NE( write( config ), "" );
+    ASSERT_EQ( log.getRecords().size(), 4U );
+    EXPECT_EQ( log.getRecords()[1].strMessage, "no Tirvana digital interface to add for board 0" );
+    EXPECT_EQ( log.getRecords()[3].strMessage, "no Tirvana analog interface to configure for board 0" );
+}
+
+} // namespace Velquin::Pstn::Test
