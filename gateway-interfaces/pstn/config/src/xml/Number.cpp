@@ -40,6 +40,22 @@ std::optional<T> extract( std::string_view in_strDigits, bool in_bNegative ) {
     return static_cast<T>( in_bNegative ? static_cast<Unsigned>( 0U - *magnitude ) : *magnitude );
 }
 
+/// Whether a number that no floating-point type takes is too large, by where its first digit stands: else it is too
+/// small.
+bool isTooLarge( std::string_view in_strMantissa, std::string_view in_strExponent ) {
+    const bool bNegative = in_strExponent.starts_with( '-' );
+    if ( bNegative || in_strExponent.starts_with( '+' ) )
+        in_strExponent.remove_prefix( 1 );
+    const auto nPoint = static_cast<long long>( std::min( in_strMantissa.find( '.' ), in_strMantissa.size() ) );
+    const auto nFirst = static_cast<long long>( in_strMantissa.find_first_of( "123456789" ) );
+    unsigned int uExponent = 0;
+    const auto [pEnd, eError] =
+        std::from_chars( in_strExponent.data(), in_strExponent.data() + in_strExponent.size(), uExponent );
+    if ( eError == std::errc::result_out_of_range )
+        return !bNegative;
+    return nPoint - nFirst + ( bNegative ? -static_cast<long long>( uExponent ) : uExponent ) > 0;
+}
+
 template <std::floating_point T>
 std::optional<T> extract( std::string_view in_strNumber, bool in_bNegative ) {
     if ( in_strNumber.empty() || !( isDigit( in_strNumber.front() ) || in_strNumber.front() == '.' ) )
@@ -52,7 +68,8 @@ std::optional<T> extract( std::string_view in_strNumber, bool in_bNegative ) {
     const char* const pExponent = std::find_if( pFirst, pEnd, isExponent );
     if ( eError == std::errc::result_out_of_range ) {
         // A stream takes what is too small for the type as zero and refuses what is too large.
-        if ( pExponent == pEnd || pExponent + 1 == pEnd || pExponent[1] != '-' )
+        const char* const pDigits = pExponent == pEnd ? pEnd : pExponent + 1;
+        if ( isTooLarge( { pFirst, pExponent }, { pDigits, pEnd } ) )
             return std::nullopt;
         value = 0;
     } else if ( eError != std::errc{} ) {

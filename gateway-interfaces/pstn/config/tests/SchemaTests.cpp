@@ -1,0 +1,216 @@
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <set>
+
+#include <velquin/XML.h>
+
+#include "ConfigTest.h"
+#include "DocumentPath.h"
+#include "KeywordRows.h"
+#include "xml/ChildElements.h"
+#include "xml/LibXml2.h"
+
+// The schema of the format: it agrees with the library's keywords and with the examples, and stops what the readers
+// would pass over.
+
+namespace Velquin::Pstn::Test {
+
+namespace {
+
+std::string getAttribute( xmlNode* in_pElement, const char* in_szName ) {
+    return fromXml( XmlStringPtr( xmlGetProp( in_pElement, toXml( in_szName ) ) ).get() );
+}
+
+XmlDocPtr parse( const std::string& in_strFile ) {
+    XmlDocPtr pDocument( xmlReadFile( in_strFile.c_str(), nullptr, XML_PARSE_NONET ) );
+    EXPECT_TRUE( pDocument ) << in_strFile;
+    return pDocument;
+}
+
+/// What a schema, or a document, says of its elements and attributes: "/a/b" and "/a/b/@c".
+class Format {
+public:
+    explicit Format( const char* in_szSchema ) : m_pDocument( parse( in_szSchema ) ) {
+        const xmlNode* const pGrammar = xmlDocGetRootElement( m_pDocument.get() );
+        for ( xmlNode* const pDefine : ChildElements( pGrammar, "define" ) )
+            m_mapDefines[getAttribute( pDefine, "name" )] = pDefine;
+        walk( XML::findFirstElement( pGrammar, "start" ), "", nullptr );
+    }
+
+    std::map<const xmlNode*, std::set<std::string>> mapPaths; ///< of each pattern, for elements and attributes
+    std::map<std::string, std::set<std::string>> mapKeywords; ///< of the attributes that have any
+
+private:
+    void walk( xmlNode* in_pPattern, std::string in_strPath, std::set<std::string>* out_pKeywords ) {
+        const std::string_view strKind = fromXml( in_pPattern->name );
+        if ( strKind == "ref" )
+            in_pPattern = m_mapDefines.at( getAttribute( in_pPattern, "name" ) );
+        if ( strKind == "value" && out_pKeywords )
+            out_pKeywords->insert( fromXml( XmlStringPtr( xmlNodeGetContent( in_pPattern ) ).get() ) );
+        if ( strKind == "element" || strKind == "attribute" ) {
+            in_strPath += ( strKind == "element" ? "/" : "/@" ) + getAttribute( in_pPattern, "name" );
+            mapPaths[in_pPattern].insert( in_strPath );
+        }
+        std::set<std::string> setKeywords;
+        for ( xmlNode* const pChild : ChildElements( in_pPattern ) )
+            walk( pChild, in_strPath, strKind == "attribute" ? &setKeywords : out_pKeywords );
+        if ( !setKeywords.empty() )
+            mapKeywords[in_strPath].merge( setKeywords );
+    }
+
+    XmlDocPtr m_pDocument;
+    std::map<std::string, xmlNode*> m_mapDefines;
+};
+
+void addPaths( const xmlNode* in_pElement, const std::string& in_strParent, std::set<std::string>& out_setPaths ) {
+    const std::string strPath = in_strParent + "/" + fromXml( in_pElement->name );
+    out_setPaths.insert( strPath );
+    for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute; pAttribute = pAttribute->next )
+        out_setPaths.insert( strPath + "/@" + fromXml( pAttribute->name ) );
+    for ( xmlNode* const pChild : ChildElements( in_pElement ) )
+        addPaths( pChild, strPath, out_setPaths );
+}
+
+std::string join( const std::set<std::string>& in_setTexts ) {
+    return Velquin::Pstn::Test::join( std::vector<std::string>( in_setTexts.begin(), in_setTexts.end() ) );
+}
+
+} // namespace
+
+TEST( Schema, ListsTheKeywordsOfTheTables ) {
+    std::vector<KeywordRow> vecRows = getKeywordRows();
+    vecRows.push_back( { "/pstnConfig", "version", { { "2.3", 0 } }, {} } );
+    for ( const char* const szBlock : { "/EchoCancellation", "/AcousticEchoCancellation", "/LevelControl",
+                                        "/BackgroundNoiseAttenuation", "/DTMFRemoval" } )
+        vecRows.push_back( { szBlock, "type", { { "HARDWARE", 0 } }, {} } );
+    std::set<const KeywordRow*> setSeen;
+    const Format format( SCHEMA );
+    for ( const auto& [strPath, setKeywords] : format.mapKeywords ) {
+        const auto it = std::find_if( vecRows.begin(), vecRows.end(), [&path = strPath]( const KeywordRow& in_row ) {
+            return path.ends_with( in_row.strPath + "/@" + in_row.strAttribute );
+        } );
+        ASSERT_NE( it, vecRows.end() ) << strPath;
+        std::set<std::string> setExpected;
+        for ( const auto& [strKeyword, nValue] : it->vecKeywords )
+            setExpected.insert( strKeyword );
+        EXPECT_EQ( join( setKeywords ), join( setExpected ) ) << strPath;
+        setSeen.insert( &*it );
+    }
+    EXPECT_EQ( setSeen.size(), vecRows.size() ) << "an attribute of the tables isn't in the schema";
+}
+
+TEST( Schema, IsUsedUpByOneExample ) {
+    const XmlDocPtr pExample = parse( std::string( EXAMPLES_FOLDER ) + "/every-attribute.xml" );
+    std::set<std::string> setUsed;
+    addPaths( xmlDocGetRootElement( pExample.get() ), "", setUsed );
+    const Format format( SCHEMA );
+    EXPECT_GT( format.mapPaths.size(), 200U );
+    for ( const auto& [pPattern, setPaths] : format.mapPaths ) {
+        const bool bUsed = std::any_of( setPaths.begin(), setPaths.end(), [&]( const std::string& in_strPath ) {
+            return setUsed.contains( in_strPath );
+        } );
+        EXPECT_TRUE( bUsed ) << *setPaths.begin();
+    }
+}
+
+TEST( Schema, LetsTheExamplesPass ) {
+    std::size_t uExamples = 0;
+    for ( const auto& entry : std::filesystem::directory_iterator( EXAMPLES_FOLDER ) ) {
+        if ( entry.path().extension() != ".xml" )
+            continue;
+        SCOPED_TRACE( entry.path() );
+        XmlConfig config;
+        const LoadResult result = load( config, entry.path().string(), SCHEMA );
+        EXPECT_TRUE( result.bValid );
+        EXPECT_EQ( Velquin::Pstn::Test::join( result.vecLines ), "" );
+        ++uExamples;
+    }
+    EXPECT_EQ( uExamples, 5U );
+}
+
+// ---- What the schema stops
+
+namespace {
+
+/// A document that the schema refuses: what libxml2 says of a line and, where an attribute is at fault, what the schema
+/// takes there.
+LoadCase refused( const std::string& in_strName, const std::vector<Edit>& in_vecEdits, const std::string& in_strLine,
+                  const std::vector<std::string>& in_vecTexts, const std::string& in_strAttribute = "" ) {
+    LoadCase one{ "Schema" + in_strName, in_vecEdits, false, {}, SCHEMA };
+    for ( const std::string& strText : in_vecTexts )
+        one.vecLines.push_back( "ERROR XmlConfig: " + strText + " in file {file} at line " + in_strLine + "." );
+    if ( !in_strAttribute.empty() )
+        one.vecLines.push_back( "ERROR XmlConfig: " + in_strAttribute );
+    const std::string strEnd = "failed to validate PSTN configuration file {file} against schema ";
+    one.vecLines.push_back( "ERROR XmlConfig: " + strEnd + SCHEMA );
+    return one;
+}
+
+LoadCase unexpected( const std::string& in_strName, const Edit& in_edit, const std::string& in_strElement,
+                     const std::string& in_strLine = "{line}" ) {
+    return refused( in_strName, { in_edit }, in_strLine, { "Did not expect element " + in_strElement + " there" } );
+}
+
+LoadCase missing( const std::string& in_strName, const std::string& in_strPath, const std::string& in_strAttribute,
+                  const std::string& in_strPosition = "" ) {
+    const std::string strElement = in_strPath.substr( in_strPath.rfind( '/' ) + 1 );
+    return refused( in_strName, { withoutAttribute( in_strPath, in_strAttribute ) }, "{line}",
+                    { "Element " + strElement + " failed to validate attributes" },
+                    "Missing attribute [" + in_strPath + in_strPosition + "/" + in_strAttribute + "] for element " +
+                        strElement + " declared in file {file} at line {line}. " );
+}
+
+LoadCase invalid( const std::string& in_strName, const std::string& in_strPath, const std::string& in_strAttribute,
+                  const std::string& in_strValue, const std::string& in_strHint,
+                  std::vector<std::string> in_vecTexts = {}, const std::string& in_strPosition = "" ) {
+    const std::string strElement = in_strPath.substr( in_strPath.rfind( '/' ) + 1 );
+    if ( in_vecTexts.empty() || in_vecTexts.front().starts_with( "Type " ) )
+        in_vecTexts.push_back( "Element " + strElement + " failed to validate attributes" );
+    return refused( in_strName, { withAttribute( in_strPath, in_strAttribute, in_strValue ) }, "{line}", in_vecTexts,
+                    "Invalid attribute  [" + in_strPath + in_strPosition + "/" + in_strAttribute + "=" + in_strValue +
+                        "] for element " + strElement + " declared in file {file} at line {line}. " + in_strHint );
+}
+
+std::vector<LoadCase> makeCases() {
+    const std::string strFxo = "/pstnConfig/callControl/analog/analogFxoConfig/";
+    const std::string strFxs = "/pstnConfig/callControl/analog/analogFxsConfig/";
+    const std::string strBoard = "/pstnConfig/boards/tirvanaAnalogBoard";
+    const std::string strDecimal = "The value must be a decimal number.";
+    const std::string strSpecial = "InternationalDialingSpecialCharacter";
+    return {
+        // What the readers would pass over
+        unexpected( "SecondFxs", { "</analogFxsConfig>", "</analogFxsConfig><analogFxsConfig/>" }, "analogFxsConfig" ),
+        unexpected( "FxoBehindFxs", { "</analogFxsConfig>", "</analogFxsConfig><analogFxoConfig/>" },
+                    "analogFxoConfig" ),
+        unexpected( "EntryOfOtherName", { "<interfaceRef boardID=\"3\"/>", "<ref boardID=\"3\"/>" }, "ref" ),
+        unexpected( "ElementUnknown", { "</boards>", "<fax/></boards>" }, "fax" ),
+        unexpected( "SectionMisplaced", { "</pstnConfig>", "<providers/></pstnConfig>" }, "providers" ),
+        refused( "TextBetweenElements", { { "</providers>", "</providers>text" } }, "{line:<pstnConfig}",
+                 { "Did not expect text in element pstnConfig content" } ),
+        invalid( "RelayUnknown", strFxs + "inboundCallHandling/relayEarlyMedia", "value", "on",
+                 "Valid values are ENABLED and DISABLED." ),
+        invalid( "NotificationUnknown", strFxs + "disconnectAnswerNotification", "mode", "reverse",
+                 "Valid values are NONE, POLARITY-REVERSAL and CURRENT-DISCONNECT." ),
+        invalid( "SpecialCharacterDigit", strFxo + "outboundCallHandling/dial", strSpecial, "5",
+                 "The value must match [ -/:-~]", { "Invalid attribute " + strSpecial + " for element dial" } ),
+        missing( "DetectorWithoutName", strFxo + "disconnectSupervision/disconnectDetectors/detector", "name" ),
+        invalid( "AttributeUnknown", strBoard, "color", "blue", "The element has no such attribute.",
+                 { "Invalid attribute color for element tirvanaAnalogBoard" }, "[1]" ),
+        invalid( "NumberWithRest", strBoard, "ID", "1a", strDecimal, { "Type unsignedInt doesn't allow value '1a'" },
+                 "[1]" ),
+        invalid( "VersionUnknown", "/pstnConfig", "version", "2.4", "The only valid value is 2.3." ),
+        // What they would refuse, too
+        missing( "ModelMissing", strBoard, "model", "[1]" ),
+        unexpected( "ElementMissing", { "<DChannelsThreads count=\"1\" priority=\"NORMAL\"/>", "" }, "TxMediaStreams",
+                    "{line:<TxMediaStreams}" ),
+        invalid( "KeywordWithBlank", "/pstnConfig/providers/tirvana/TxMediaStreams", "reverseBits", " TRUE",
+                 "Valid values are TRUE and FALSE." ),
+    };
+}
+
+} // namespace
+
+PSTN_LOAD_CASES( SchemaCases, makeCases() );
+
+} // namespace Velquin::Pstn::Test
