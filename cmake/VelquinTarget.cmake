@@ -3,6 +3,10 @@ function(velquin_target target)
   target_compile_options(${target} PRIVATE
     $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion>
     $<$<CXX_COMPILER_ID:MSVC>:/W4>)
+  # GCC 12 warns of overlapping copies inside its own `const char* + std::string` (GCC bug 105651).
+  if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(${target} PRIVATE -Wno-restrict)
+  endif()
   if(VELQUIN_WARNINGS_AS_ERRORS)
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang>:-Werror> $<$<CXX_COMPILER_ID:MSVC>:/WX>)
   endif()

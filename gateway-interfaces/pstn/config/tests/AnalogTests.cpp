@@ -22,219 +22,9 @@ using FxoInbound = AnalogFxoConfig::InboundCallHandlingConfig;
 using FxoOutbound = AnalogFxoConfig::OutboundCallHandlingConfig;
 using Notification = AnalogFxsConfig::DisconnectAnswerNotificationConfig;
 
-const std::string DECIMAL = "The value must be a decimal number.";
-const std::string INTERGER = "The value must be a positive interger.";
-const std::string INTEGER = "The value must be a positive integer.";
 const std::string ASSERTION = "ERROR marovane.core.Assertion: Assertion failed: ";
-const std::string CALL_CONTROL = "ERROR XmlConfig: Call Control configuration declared in file {file} at line "
-                                 "{line:<callControl>} contains one ore more errors. ";
-const std::string NEW_FXO = ASSERTION + "pNewFXOConfig, file AnalogCallControlConfigXmlSerializer, line N";
-const std::string NEW_FXS = ASSERTION + "pNewFXSConfig, file AnalogCallControlConfigXmlSerializer, line N";
-
-// ---- Faults of elements
-
-/// A reader, in whose words the faults of its elements are told.
-struct Reader {
-    std::string strPrefix; ///< of the names of its cases
-    std::string strPath;   ///< of the element whose parts it reads
-    std::string strNoun;
-    std::string strLogger;
-    std::string strAssertion; ///< that follows a fault; none where a fault is let pass
-
-    std::string missing( const std::string& in_strPath, const std::string& in_strName,
-                         const std::string& in_strLine = "{line}" ) const {
-        return "ERROR " + strLogger + ": Missing attribute " + strPath + in_strPath + "/" + in_strName +
-               end( in_strPath, in_strLine );
-    }
-    std::string invalid( const std::string& in_strPath, const std::string& in_strName, const std::string& in_strValue,
-                         const std::string& in_strHint ) const {
-        return "ERROR " + strLogger + ": Invalid attribute  [" + strPath + in_strPath + "/" + in_strName + "=" +
-               in_strValue + end( in_strPath, "{line}" ) + in_strHint;
-    }
-    LoadCase fault( const std::string& in_strName, std::vector<Edit> in_vecEdits,
-                    std::vector<std::string> in_vecLines ) const {
-        if ( strAssertion.empty() )
-            return { strPrefix + in_strName, std::move( in_vecEdits ), true, std::move( in_vecLines ) };
-        in_vecLines.insert( in_vecLines.end(), { strAssertion, CALL_CONTROL } );
-        return { strPrefix + in_strName, std::move( in_vecEdits ), false, std::move( in_vecLines ) };
-    }
-
-private:
-    std::string end( const std::string& in_strPath, const std::string& in_strLine ) const {
-        const std::string strElement = strPath + in_strPath;
-        return "] for " + strNoun + strElement.substr( strElement.rfind( '/' ) + 1 ) +
-               " declared in file {file} at line " + in_strLine + ". ";
-    }
-};
-
-Reader makeReader( const std::string& in_strPrefix, const std::string& in_strPath, const std::string& in_strNoun,
-                   const std::string& in_strClass, const std::string& in_strAssertion ) {
-    return { in_strPrefix, "/pstnConfig/callControl/analog/" + in_strPath, in_strNoun + "analog config  ",
-             in_strClass + "ConfigXmlSerializer", in_strAssertion };
-}
-
-const Reader FXO_COMMON = makeReader( "Fxo", "analogFxoConfig", "", "AnalogCallControlCommon", NEW_FXO );
-const Reader FXS_COMMON = makeReader( "Fxs", "analogFxsConfig", "", "AnalogCallControlCommon", NEW_FXS );
-const Reader FXO = makeReader( "Fxo", "analogFxoConfig", "fxo ", "AnalogFxo", NEW_FXO );
-const Reader FXS = makeReader( "Fxs", "analogFxsConfig", "fxs ", "AnalogFxs", NEW_FXS );
-const Reader SUPERVISION =
-    makeReader( "Supervision", "analogFxoConfig/disconnectSupervision", "fxo ", "AnalogDisconnectSupervision", "" );
-
-/// A required attribute: without it, and with a wrong value where not any text will do, its reader reports it.
-struct Required {
-    std::string strPath; ///< of the element, below that of the reader
-    std::string strAttribute;
-    std::string strWrong;
-    std::string strHint;
-    std::string strReported = strAttribute;
-};
-
-/// "/a/b" + "c" as "ABC".
-std::string toName( const std::string& in_strPath, const std::string& in_strName ) {
-    std::string strName;
-    bool bCapital = true;
-    for ( const char c : in_strPath + "/" + in_strName ) {
-        if ( c != '/' )
-            strName += bCapital ? static_cast<char>( std::toupper( c ) ) : c;
-        bCapital = c == '/';
-    }
-    return strName;
-}
-
-void addCases( const Reader& in_reader, const std::vector<Required>& in_vecRequired,
-               std::vector<LoadCase>& out_vecCases ) {
-    for ( const auto& [strPath, strAttribute, strWrong, strHint, strReported] : in_vecRequired ) {
-        const std::string strName = toName( strPath, strAttribute );
-        out_vecCases.push_back( in_reader.fault( strName + "Missing",
-                                                 { withoutAttribute( in_reader.strPath + strPath, strAttribute ) },
-                                                 { in_reader.missing( strPath, strAttribute ) } ) );
-        if ( strWrong.empty() )
-            continue;
-        out_vecCases.push_back( in_reader.fault(
-            strName + "Invalid", { withAttribute( in_reader.strPath + strPath, strAttribute, strWrong ) },
-            { in_reader.invalid( strPath, strReported, strWrong, strHint ) } ) );
-    }
-}
-
-std::vector<LoadCase> makeAttributeCases() {
-    const std::string strIn = "/inboundCallHandling";
-    const std::string strDial = "/outboundCallHandling/dial";
-    const std::string strAnswer = "/outboundCallHandling/connectSupervision/connectOutboundSide";
-    const std::string strConnect = "/outboundCallHandling/connectSupervision/connect";
-    const std::string strNotification = "/disconnectAnswerNotification";
-    const std::string strRing = "/disconnectDetectors/ringCadenceDetector";
-    std::vector<LoadCase> vecCases;
-    addCases( FXO_COMMON, { { "", "ID", "abc", DECIMAL }, { "", "displayName", "", "" } }, vecCases );
-    addCases( FXS_COMMON, { { "", "ID", "4294967296", DECIMAL }, { "", "displayName", "", "" } }, vecCases );
-    addCases( FXO,
-              { { "", "minimumOnHookDurationMs", "x", DECIMAL },
-                { strIn + "/notifyOutboundSide", "condition", "NEVER", "" },
-                { strIn + "/notifyOutboundSide", "numberOfRings", "two", INTERGER },
-                { strIn + "/notifyOutboundSide", "delayInMs", "x", INTERGER },
-                { strIn + "/connect", "condition", "ON-INBOUNDSIDE-NOTIFICATION", "" },
-                { strIn + "/callerID", "type", "DTMF", "" },
-                { strDial, "active", "yes", "" },
-                { strDial, "waitForDialTone", "FALSE", "" },
-                { strDial, "preDialDelayInMs", "x", INTERGER },
-                { strDial, "interDigitDelayInMs", "x", INTERGER },
-                { strDial, "DTMFDigitDurationInMs", "x", INTERGER },
-                { strAnswer, "condition", "ON-RING", "" },
-                { strAnswer, "disconnectTimeoutMs", "x", INTERGER },
-                { strAnswer, "connectOnNoRemoteRingTimeoutMs", "x", INTERGER },
-                { strConnect, "condition", "ON-OUTBOUNDSIDE-MEDIA-AVAILABLE", "" },
-                { strConnect, "delayInMs", "x", INTERGER } },
-              vecCases );
-    addCases( FXS,
-              { { "", "regretTimeMs", "x", INTERGER },
-                { "", "oosBehavior", "BUSY", "" },
-                { strIn, "minExpectedDigits", "x", INTERGER },
-                { strIn, "interDigitTimeoutMs", "x", INTERGER, "minExpectedDigits" },
-                { strIn, "busyToneDurationMs", "x", INTERGER },
-                { strIn, "dialToneDurationMs", "x", INTERGER },
-                { strIn + "/relayEarlyMedia", "value", "", "" },
-                { "/hotlineDialing", "enable", "yes", "" },
-                { "/hotlineDialing", "delayBeforeDialingMs", "x", INTEGER },
-                { "/hotlineDialing", "dialingNumber", "", "" },
-                { strNotification, "mode", "", "" },
-                { strNotification, "currentDisconnectDurationMs", "x", INTEGER } },
-              vecCases );
-    addCases( SUPERVISION,
-              { { strRing, "active", "yes", "" },
-                { strRing, "ringCadenceOffDelayMs", "x", INTEGER },
-                { "/disconnectDetectors/detector", "name", "", "" },
-                { "/disconnectDetectors/detector", "sequence", "", "" } },
-              vecCases );
-    return vecCases;
-}
-
-/// Required child elements, by the path of the parent; what is reported for them is their name, but once.
-std::vector<LoadCase> makeChildCases() {
-    std::vector<LoadCase> vecCases;
-    const auto add = [&vecCases]( const Reader& in_reader, const std::string& in_strParent,
-                                  const std::string& in_strChild, const std::string& in_strReported ) {
-        const std::string strParent = in_reader.strPath + in_strParent;
-        vecCases.push_back( in_reader.fault(
-            toName( in_strParent, in_strChild ) + "Missing", { { getElementText( strParent + "/" + in_strChild ), "" } },
-            { in_reader.missing( in_strParent, in_strReported, "{line:" + getTag( strParent ) + "}" ) } ) );
-    };
-    const std::string strOut = "/outboundCallHandling";
-    for ( const std::string strChild :
-          { "inboundCallHandling", "outboundCallHandling", "disconnectSupervision", "applyTo" } )
-        add( FXO, "", strChild, strChild );
-    for ( const std::string strChild : { "notifyOutboundSide", "connect", "callerID" } )
-        add( FXO, "/inboundCallHandling", strChild, strChild );
-    for ( const std::string strChild : { "dial", "connectSupervision" } )
-        add( FXO, strOut, strChild, strChild );
-    for ( const std::string strChild : { "connectOutboundSide", "connect" } )
-        add( FXO, strOut + "/connectSupervision", strChild, strChild );
-    for ( const std::string strChild : { "inboundCallHandling", "hotlineDialing", "applyTo" } )
-        add( FXS, "", strChild, strChild );
-    add( FXS, "/inboundCallHandling", "relayEarlyMedia", "value" );
-    add( SUPERVISION, "", "disconnectDetectors", "disconnectDetectors" );
-    return vecCases;
-}
-
-/// The entries of `applyTo`; any name will do for them.
-std::vector<LoadCase> makeEntryCases() {
-    std::vector<LoadCase> vecCases;
-    for ( const Reader& reader : { FXO, FXS } ) {
-        Reader entry = reader;
-        entry.strPrefix += "Entry";
-        entry.strPath += "/applyTo/ref";
-        entry.strLogger += "::InterfaceRefXmlSerializer";
-        const std::string strOld = getTag( reader.strPath + "/applyTo/interfaceRef" );
-        const auto add = [&]( const std::string& in_strName, const std::string& in_strNew,
-                              const std::vector<std::string>& in_vecLines ) {
-            vecCases.push_back( entry.fault( in_strName, { { strOld, in_strNew } }, in_vecLines ) );
-        };
-        const std::string strTwice = "ERROR ChannelGroupConfig: Add B-Channel range [1..1] of b2(Phones)ai1(Phone-A) "
-                                     "to channelGroup \"both\". One more channel of this range are already contained "
-                                     "in this group. Please edit your PSTN configuration to fix this problem.  Make "
-                                     "sure to add any channel only once in a given channel group.";
-        add( "BoardMissing", "<ref channelGroupID=\"both\"/>", { entry.missing( "", "boardID" ) } );
-        add( "BoardInvalid", "<ref boardID=\"one\" channelGroupID=\"both\"/>",
-             { entry.invalid( "", "boardID", "one", DECIMAL ) } );
-        add( "BoardUnknown", "<ref boardID=\"9\" channelGroupID=\"none\"/>",
-             { "ERROR Config: failed to get analog board: 9",
-               entry.invalid( "", "boardID", "9", "Make sure to provide a valid board ID" ) } );
-        add( "GroupMissing", "<ref boardID=\"2\" interfaceID=\"x\"/>", { entry.missing( "", "channelGroupID" ) } );
-        add( "GroupUnknown", "<ref boardID=\"2\" channelGroupID=\"none\" interfaceID=\"x\"/>",
-             { "ERROR CallControlConfig: failed to get channel group: none" } );
-        add( "InterfaceInvalid", "<ref boardID=\"2\" channelGroupID=\"both\" interfaceID=\"x\"/>",
-             { entry.invalid( "", "interfaceID", "x", DECIMAL ) } );
-        add( "InterfaceUnknown", "<ref boardID=\"2\" channelGroupID=\"both\" interfaceID=\"9\"/>",
-             { "ERROR AnalogBoardConfig: failed to get analog interface: 9",
-               entry.invalid( "", "interfaceID", "9",
-                              "Make sure to provide a valid interface ID whithin the context of boardID=" ) } );
-        add( "PortTwice",
-             "<ref boardID=\"2\" channelGroupID=\"both\"/><ref boardID=\"2\" channelGroupID=\"both\" "
-             "interfaceID=\"1\"/>",
-             { strTwice, "ERROR " + entry.strLogger + ": failed to add BChannel range to channel group ID= both" } );
-    }
-    return vecCases;
-}
-
-// ---- Cases of several elements
+const std::string FXO_PATH = "/pstnConfig/callControl/analog/analogFxoConfig";
+const std::string FXS_PATH = "/pstnConfig/callControl/analog/analogFxsConfig";
 
 std::string replace( std::string in_strText, const std::vector<Edit>& in_vecEdits ) {
     return TestDocument( std::move( in_strText ) ).edit( in_vecEdits ).getText();
@@ -242,8 +32,8 @@ std::string replace( std::string in_strText, const std::vector<Edit>& in_vecEdit
 
 /// The FXO configuration of the complete document with another number, applied to nothing.
 std::string otherFxo( const std::string& in_strId ) {
-    return replace( getElementText( FXO.strPath ), { { "ID=\"1\" displayName", "ID=\"" + in_strId + "\" displayName" },
-                                                 { "<interfaceRef boardID=\"1\" channelGroupID=\"both\"/>", "" } } );
+    return replace( getElementText( FXO_PATH ), { { "ID=\"1\" displayName", "ID=\"" + in_strId + "\" displayName" },
+                                                  { "<interfaceRef boardID=\"1\" channelGroupID=\"both\"/>", "" } } );
 }
 
 /// The same, so that it can be read as an FXS configuration, too.
@@ -256,67 +46,11 @@ std::string fxoAndFxs( const std::string& in_strId ) {
                       { "<disconnectSupervision>", "<hotlineDialing enable=\"NO\"/><disconnectSupervision>" } } );
 }
 
-/// Puts an element behind that of the reader.
-Edit behind( const Reader& in_reader, const std::string& in_strElement ) {
-    const std::string strEnd = "</" + in_reader.strPath.substr( in_reader.strPath.rfind( '/' ) + 1 ) + ">";
+/// Puts an element behind that of the path.
+Edit behind( const std::string& in_strPath, const std::string& in_strElement ) {
+    const std::string strEnd = "</" + in_strPath.substr( in_strPath.rfind( '/' ) + 1 ) + ">";
     return { strEnd, strEnd + "\n" + in_strElement };
 }
-
-const Edit BAD_SUBSTITUTE{ "CharacterSubstitute=\"00\"", "CharacterSubstitute=\"0x11\"" };
-const std::string BAD_SUBSTITUTE_LINE =
-    "WARN AnalogFxoConfigXmlSerializer: Outbound Call Handling attribute InternationalDialingSpecialCharacterSubstitute"
-    " of element Dialing must contain only digits. setting the value of this parameter to 011 since the entered value "
-    "0x11 is not valid.";
-
-/// An unknown condition without a timeout is told by the timeout.
-LoadCase withoutTimeout( const std::string& in_strCondition ) {
-    const std::string strPath = "/outboundCallHandling/connectSupervision/connectOutboundSide";
-    return FXO.fault( "WithoutTimeout" + toName( "", in_strCondition.substr( 3 ) ),
-                      { { "condition=\"ON-REMOTE-RING-STOPPED\" disconnectTimeoutMs=\"9000\"",
-                          "condition=\"" + in_strCondition + "\"" } },
-                      { FXO.missing( strPath, "disconnectTimeoutMs" ) } );
-}
-
-const std::vector<LoadCase> CASES{
-    { "FxoIdTwice",
-      { behind( FXO, otherFxo( "01" ) ) },
-      false,
-      { "ERROR AnalogCallControlConfig: failed to add Fxo config : 1",
-        "ERROR AnalogCallControlConfigXmlSerializer: Error while adding analog FXO config", CALL_CONTROL } },
-    { "FxsIdTwice",
-      { { "<analogFxsConfig ID=\"1\"", "<analogFxsConfig ID=\"5\"" }, behind( FXS, fxoAndFxs( "5" ) ) },
-      false,
-      { "ERROR AnalogCallControlConfig: failed to add Fxs config : 5",
-        "ERROR AnalogCallControlConfigXmlSerializer: Error while adding analog FXS config", CALL_CONTROL } },
-    // The second element is nothing that could be read.
-    { "FxsSecondElementIsPassedOver", { behind( FXS, "<analogFxsConfig/>" ) }, true, {} },
-    { "FxoBehindFxsIsReadAsFxs",
-      { behind( FXS, otherFxo( "2" ) ) },
-      false,
-      { "ERROR AnalogFxsConfigXmlSerializer: Missing attribute /pstnConfig/callControl/analog/analogFxoConfig[2]"
-        "/regretTimeMs] for fxs analog config  analogFxoConfig declared in file {file} at line "
-        "{line:<analogFxoConfig ID=\"2\"}. ",
-        NEW_FXS, CALL_CONTROL } },
-    withoutTimeout( "ON-RING" ),
-    withoutTimeout( "ON-VOICE" ),
-    { "FxoSubstituteNotDigits", { BAD_SUBSTITUTE }, true, { BAD_SUBSTITUTE_LINE }, SCHEMA },
-    // The substitute is read before the delays.
-    FXO.fault( "SubstituteBeforeDelays", { BAD_SUBSTITUTE, { "\"0x11\" preDialDelayInMs=\"200\"", "\"0x11\"" } },
-               { BAD_SUBSTITUTE_LINE, FXO.missing( "/outboundCallHandling/dial", "preDialDelayInMs" ) } ),
-    { "DetectorSequenceInvalid",
-      { { "busy/2,silence", "busy/2/3,silence" } },
-      true,
-      { "ERROR AnalogDisconnectDetectorConfig: Invalid sequence for disconnect supervison",
-        "ERROR AnalogDisconnectSupervisionConfigXmlSerializer: Could not parse detector sequence for disconnect "
-        "detector busy" },
-      SCHEMA },
-    { "DetectorNameTwice",
-      { { "<detector name=\"busy\" sequence=\"busy/2,silence\"/>",
-          "<detector name=\"busy\" sequence=\"busy\"/><detector name=\"busy\" sequence=\"silence\"/>" } },
-      true,
-      { "ERROR AnalogDisconnectSupervisionConfig: failed to add disconnect detector config : busy" },
-      SCHEMA },
-};
 
 // ---- Calls that no document provokes
 
@@ -412,10 +146,7 @@ const std::vector<CallCase> CALLS{
 
 } // namespace
 
-PSTN_LOAD_CASES( AnalogAttributeCases, makeAttributeCases() );
-PSTN_LOAD_CASES( AnalogChildCases, makeChildCases() );
-PSTN_LOAD_CASES( AnalogEntryCases, makeEntryCases() );
-PSTN_LOAD_CASES( AnalogCases, CASES );
+PSTN_LOAD_CASES( AnalogCases, readCases( "analog.cases" ) );
 PSTN_CALL_CASES( AnalogCalls, CALLS );
 
 // ---- Values
@@ -426,9 +157,9 @@ using Numbers = std::vector<unsigned int>;
 using Strings = std::vector<std::string>;
 using Sequence = std::vector<AnalogDisconnectDetectorConfig::Sequencemenber>;
 
-const std::string DIAL = FXO.strPath + "/outboundCallHandling/dial";
-const std::string ANSWER = FXO.strPath + "/outboundCallHandling/connectSupervision/connectOutboundSide";
-const std::string RING = SUPERVISION.strPath + "/disconnectDetectors/ringCadenceDetector";
+const std::string DIAL = FXO_PATH + "/outboundCallHandling/dial";
+const std::string ANSWER = FXO_PATH + "/outboundCallHandling/connectSupervision/connectOutboundSide";
+const std::string RING = FXO_PATH + "/disconnectSupervision" + "/disconnectDetectors/ringCadenceDetector";
 
 /// The complete document, changed and loaded.
 class Loaded {
@@ -528,7 +259,8 @@ TEST( Analog, KeepsTheFirstOfTwoConfigurationsOfOneNumber ) {
 }
 
 TEST( Analog, ReadsAnFxoElementBehindTheFxsElementTwice ) {
-    const Loaded loaded( { behind( FXO, otherFxo( "3" ) ), behind( FXS, "<analogFxsConfig/>\n" + fxoAndFxs( "7" ) ) } );
+    const Loaded loaded(
+        { behind( FXO_PATH, otherFxo( "3" ) ), behind( FXS_PATH, "<analogFxsConfig/>\n" + fxoAndFxs( "7" ) ) } );
     EXPECT_EQ( loaded.getAnalog().getFxoConfigs().size(), 3U );
     EXPECT_EQ( loaded.getAnalog().getFxsConfigs().size(), 2U );
     EXPECT_EQ( loaded.getFxo( 7 ).getOnHookMinimumDurationMs(), 1500U );
@@ -536,8 +268,8 @@ TEST( Analog, ReadsAnFxoElementBehindTheFxsElementTwice ) {
 }
 
 TEST( Analog, TakesTheNumberThatATextBeginsWith ) {
-    EXPECT_EQ( Loaded( withAttribute( FXO.strPath, "ID", "12abc" ) ).getFxo( 12 ).getId(), 12U );
-    EXPECT_EQ( Loaded( withAttribute( FXS.strPath, "regretTimeMs", " 4294967295.9" ) ).getFxs().getRegretTimeMs(),
+    EXPECT_EQ( Loaded( withAttribute( FXO_PATH, "ID", "12abc" ) ).getFxo( 12 ).getId(), 12U );
+    EXPECT_EQ( Loaded( withAttribute( FXS_PATH, "regretTimeMs", " 4294967295.9" ) ).getFxs().getRegretTimeMs(),
                4294967295U );
 }
 
@@ -567,7 +299,7 @@ TEST( Analog, UsesTheSubstituteWhenItIsDigits ) {
 }
 
 TEST( Analog, IgnoresWhatDoesNotApply ) {
-    const std::string strNotify = FXO.strPath + "/inboundCallHandling/notifyOutboundSide";
+    const std::string strNotify = FXO_PATH + "/inboundCallHandling/notifyOutboundSide";
     const Loaded loaded( { withAttribute( strNotify, "condition", "ON-CALLER-ID" ),
                            withAttribute( ANSWER, "condition", "AFTER-DIALING-DESTINATION-NUMBER" ) } );
     EXPECT_EQ( loaded.getFxo().getInboundCallHandlingConfigHandle()->getNumberOfRings(), 0U );
@@ -578,7 +310,7 @@ TEST( Analog, IgnoresWhatDoesNotApply ) {
 }
 
 TEST( Analog, HotlineThatIsOffHasNoDelayAndNoNumber ) {
-    const std::string strPath = FXS.strPath + "/hotlineDialing";
+    const std::string strPath = FXS_PATH + "/hotlineDialing";
     for ( const Edit& edit :
           { withAttribute( strPath, "enable", "NO" ), Edit{ getTag( strPath ), "<hotlineDialing enable=\"NO\"/>" } } ) {
         const Loaded loaded( edit );
@@ -589,7 +321,7 @@ TEST( Analog, HotlineThatIsOffHasNoDelayAndNoNumber ) {
 }
 
 TEST( Analog, NotifiesNothingUnlessToldTo ) {
-    const std::string strPath = FXS.strPath + "/disconnectAnswerNotification";
+    const std::string strPath = FXS_PATH + "/disconnectAnswerNotification";
     for ( const Edit& edit : { Edit{ getTag( strPath ), "" }, withAttribute( strPath, "mode", "reverse" ) } ) {
         const Loaded loaded( edit );
         EXPECT_EQ( loaded.getFxs().getDisconnectAnswerNotificationConfig()->getMode(), Notification::Mode::NONE );

@@ -143,6 +143,38 @@ void loadValid( XmlConfig& out_config, const TestDocument& in_document, const st
     EXPECT_EQ( join( result.vecLines ), "" );
 }
 
+std::vector<LoadCase> readCases( const std::string& in_strFile ) {
+    std::ifstream stream( std::string( DATA_FOLDER ) + "/cases/" + in_strFile );
+    std::vector<LoadCase> vecCases;
+    char cLastMark = ' ';
+    for ( std::string strLine; std::getline( stream, strLine ); ) {
+        const char cMark = strLine.empty() ? '#' : strLine[0];
+        std::string strText = strLine.size() > 2 ? strLine.substr( 2 ) : "";
+        if ( cMark == 'c' ) {
+            std::istringstream words( strLine );
+            std::string strCase, strName, strVerdict, strSchema;
+            words >> strCase >> strName >> strVerdict >> strSchema;
+            vecCases.push_back(
+                { strName, {}, strVerdict == "valid", {}, strSchema == "schema" ? SCHEMA : ANY_SCHEMA } );
+        } else if ( cMark == '-' && cLastMark != '-' ) {
+            vecCases.back().vecEdits.push_back( { strText, "" } );
+        } else if ( cMark == '-' ) {
+            vecCases.back().vecEdits.back().strFrom += "\n" + strText;
+        } else if ( cMark == '+' ) {
+            vecCases.back().vecEdits.back().strTo += ( cLastMark == '+' ? "\n" : "" ) + strText;
+        } else if ( cMark == '>' ) {
+            if ( strText.ends_with( '$' ) )
+                strText.pop_back();
+            vecCases.back().vecLines.push_back( strText );
+        } else if ( cMark != '#' ) {
+            ADD_FAILURE() << in_strFile << ": what is this? " << strLine;
+        }
+        cLastMark = cMark;
+    }
+    EXPECT_FALSE( vecCases.empty() ) << in_strFile;
+    return vecCases;
+}
+
 void check( const LoadCase& in_case ) {
     const TestDocument document = TestDocument().edit( in_case.vecEdits );
     const TemporaryFile file( document.getText() );
@@ -167,15 +199,15 @@ std::string join( const std::vector<std::string>& in_vecLines ) {
 }
 
 template <class TCase>
-const std::vector<TCase>& registerCases( const std::vector<TCase>& in_vecCases ) {
+std::vector<TCase> registerCases( std::vector<TCase> in_vecCases ) {
     for ( const TCase& one : in_vecCases ) {
         if ( !getRegisteredCases().try_emplace( one.strName, one.vecLines ).second )
             ADD_FAILURE() << "two cases are called " << one.strName;
     }
     return in_vecCases;
 }
-template const std::vector<LoadCase>& registerCases( const std::vector<LoadCase>& );
-template const std::vector<CallCase>& registerCases( const std::vector<CallCase>& );
+template std::vector<LoadCase> registerCases( std::vector<LoadCase> );
+template std::vector<CallCase> registerCases( std::vector<CallCase> );
 
 std::vector<std::string> getLinesOfCase( const std::string& in_strName ) {
     const auto it = getRegisteredCases().find( in_strName );

@@ -91,6 +91,9 @@ struct CallCase {
     std::vector<std::string> vecLines;
 };
 
+/// The cases of a file in `data/cases`, which says how they are written.
+std::vector<LoadCase> readCases( const std::string& in_strFile );
+
 void check( const LoadCase& in_case );
 void check( const CallCase& in_case );
 
@@ -99,7 +102,7 @@ std::string join( const std::vector<std::string>& in_vecLines );
 
 /// Every text of the library must be provoked by a case: a table registers its cases for the list of texts.
 template <class TCase>
-const std::vector<TCase>& registerCases( const std::vector<TCase>& in_vecCases );
+std::vector<TCase> registerCases( std::vector<TCase> in_vecCases );
 /// The lines of the case of that name, unexpanded; fails the test when there is none.
 std::vector<std::string> getLinesOfCase( const std::string& in_strName );
 

@@ -17,108 +17,6 @@ namespace Velquin::Pstn::Test {
 
 namespace {
 
-const Reader PROVIDER( "TirvanaProviderConfig", "] for tirvana provider  " );
-const Reader THREADS( "TirvanaThreadGroupConfig", "] for thread group " );
-const Reader BOARD( "BoardConfig", "] for board  " );
-const Reader ANALOG_BOARD( "TirvanaAnalogBoardConfig", "] for analog board  " );
-const Reader DIGITAL_BOARD( "TirvanaDigitalBoardConfig", "] for tirvana digital board  " );
-const Reader INTERFACE( "InterfaceConfig", "] for interface  " );
-const Reader SPAN( "TirvanaDigitalInterfaceConfig", "] for digital interface  ", "] for digital interface " );
-const Reader VIRTUAL_SPAN( "TirvanaDigitalVirtualInterfaceConfig", "] for digital interface " );
-const Reader PORT( "AnalogInterfaceConfig", "] for analog interface " );
-const Reader TIRVANA_PORT( "TirvanaAnalogInterfaceConfig", "] for analog interface " );
-
-const std::string PROVIDER_PATH = "/pstnConfig/providers/tirvana";
-const std::string DIGITAL_PATH = "/pstnConfig/boards/tirvanaDigitalBoard[1]";
-const std::string ANALOG_PATH = "/pstnConfig/boards/tirvanaAnalogBoard";
-
-const std::string PROVIDER_FAILED = containsErrors( "provider tirvana", "<tirvana>" );
-const std::string DIGITAL_FAILED = containsErrors( "board tirvanaDigitalBoard" );
-const std::string E1_FAILED = containsErrors( "board tirvanaDigitalBoard", "E1 card" );
-const std::string VIRTUAL_FAILED = containsErrors( "board tirvanaVirtualDigitalBoard", "\"Virtual\"" );
-const std::string LINES_FAILED = containsErrors( "board tirvanaAnalogBoard", "\"Lines\"" );
-const std::string PHONES_FAILED = containsErrors( "board tirvanaAnalogBoard", "\"Phones\"" );
-const std::string PORT_FAILED = assertion( "!pInterfaceConfig.isNull()", "TirvanaAnalogBoardConfigXmlSerializer" );
-
-const Subject B_THREADS( "BChannelsThreads", "<BChannelsThreads", PROVIDER_PATH + "/BChannelsThreads",
-                         { PROVIDER_FAILED } );
-const Subject D_THREADS( "DChannelsThreads", "<DChannelsThreads", PROVIDER_PATH + "/DChannelsThreads",
-                         { PROVIDER_FAILED } );
-const Subject TX( "TxMediaStreams", "<TxMediaStreams", PROVIDER_PATH + "/TxMediaStreams", { PROVIDER_FAILED } );
-const Subject RX( "RxMediaStreams", "<RxMediaStreams", PROVIDER_PATH + "/RxMediaStreams", { PROVIDER_FAILED } );
-const Subject E1_CARD( "Board", "E1 card", DIGITAL_PATH, { DIGITAL_FAILED } );
-const Subject LINES_CARD( "AnalogBoard", "\"Lines\"", ANALOG_PATH + "[1]",
-                          { containsErrors( "board tirvanaAnalogBoard" ) } );
-const Subject E1_SPAN( "DigitalInterface", "E1-A", DIGITAL_PATH + "/interface[1]", { E1_FAILED } );
-const Subject
-    VIRTUAL( "VirtualInterface", "V-A", "/pstnConfig/boards/tirvanaVirtualDigitalBoard/interface",
-             { assertion( "!pDigitalInterfaceConfig.isNull()", "TirvanaDigitalVirtualBoardConfigXmlSerializer" ),
-               VIRTUAL_FAILED } );
-const Subject FXO( "AnalogInterface", "Line-A", ANALOG_PATH + "[1]/interface[1]", { PORT_FAILED, LINES_FAILED } );
-const Subject FXS( "AnalogInterface", "Phone-A", ANALOG_PATH + "[2]/interface", { PORT_FAILED, PHONES_FAILED } );
-
-const std::vector<LoadCase> CASES{
-    { "CompleteDocument", {}, true, {}, SCHEMA },
-    refused( "ProviderTwice", { { "</tirvana>", R"(</tirvana><tirvana><BChannelsThreads count="1" priority="LOW"/>
-                                                   <DChannelsThreads count="1" priority="LOW"/></tirvana>)" } },
-             { "ERROR Config: failed to all new provider: tirvana" } ),
-    refused( "ProviderBChannelsThreadsMissing", { { "<BChannelsThreads", "<Threads" } },
-             { missing( PROVIDER, PROVIDER_PATH + "/BChannelsThreads", "<tirvana>" ), PROVIDER_FAILED } ),
-    refused( "ProviderDChannelsThreadsMissing", { { "<DChannelsThreads", "<Threads" } },
-             { missing( PROVIDER, PROVIDER_PATH + "/DChannelsThreads", "<tirvana>" ), PROVIDER_FAILED } ),
-    refused( "ProviderReadsDChannelsFirst",
-             { { R"(<BChannelsThreads count="4")", "<BChannelsThreads" },
-               { R"(<DChannelsThreads count="1")", "<DChannelsThreads" } },
-             { missing( THREADS, PROVIDER_PATH + "/DChannelsThreads/count" ), PROVIDER_FAILED } ),
-    refused( "BoardClockReferenceUnknown", { { R"(Reference="2")", R"(Reference="9")" } },
-             { "ERROR DigitalBoardConfig: failed to get digital interface: 9",
-               invalid( DIGITAL_BOARD, DIGITAL_PATH + "/primaryClockReference=9",
-                        "Specified interface ID value does not exist" ),
-               DIGITAL_FAILED } ),
-    refused( "BoardDigitalInterfaceTwice", { { R"(ID="2" displayName="E1-B")", R"(ID="1" displayName="E1-B")" } },
-             { "ERROR DigitalBoardConfig: failed to add new digital interface: 1<E1-B>", E1_FAILED } ),
-    refused( "BoardAnalogInterfaceTwice", { { R"(ID="2" displayName="Line-B")", R"(ID="1" displayName="Line-B")" } },
-             { "ERROR AnalogBoardConfig: failed to add new analog interface: 1<Line-B>", LINES_FAILED } ),
-    refused( "BoardVirtualInterfaceTwice",
-             { { VIRTUAL.strTag,
-                 VIRTUAL.strTag +
-                     R"(<interface ID="1" displayName="V-B" peerVirtualInterfaceID="1" peerVirtualBoardID="3"/>)" } },
-             { "ERROR DigitalBoardConfig: failed to add new digital interface: 1<V-B>", VIRTUAL_FAILED } ),
-    // Virtual boards share the numbers of the digital ones; analog boards don't, as the complete document shows.
-    refused( "BoardIdOfVirtualAndDigital",
-             { { R"(<tirvanaVirtualDigitalBoard ID="3")", R"(<tirvanaVirtualDigitalBoard ID="2")" } },
-             { "ERROR Config: failed to add new digital board: 2<Virtual>" } ),
-    refused( "BoardIdOfTwoAnalog", { { R"(<tirvanaAnalogBoard ID="2")", R"(<tirvanaAnalogBoard ID="1")" } },
-             { "ERROR Config: failed to add new analog board: 1<Phones>" } ),
-};
-
-const char* const PRIORITY = "Please specify one of the following prioritie values: LOWEST, LOW, NORMAL, HIGH, HIGHEST";
-const char* const FLAG = "Valid values are: TRUE and FALSE.";
-const char* const BOARD_NAME = "Display name may contain space, '-', '_' and alpha numeric characters.";
-const char* const NAME = "Display name may contains spaces, '-', '_' and alpha numeric characters.";
-
-const std::vector<LoadCase> ATTRIBUTE_CASES = gather( {
-    attributeCases( B_THREADS, THREADS, "count#" ),
-    attributeCases( B_THREADS, THREADS, "priority#normal", PRIORITY ),
-    attributeCases( D_THREADS, THREADS, "count#" ),
-    attributeCases( D_THREADS, THREADS, "priority#2", PRIORITY ),
-    attributeCases( TX, PROVIDER, "?reverseBits#true", FLAG ),
-    attributeCases( RX, PROVIDER, "?reverseBits#NO", FLAG ),
-    attributeCases( E1_CARD, BOARD, "ID#1x model ?pciSlot#-1 ?pciBus#0x10" ),
-    attributeCases( E1_CARD, BOARD, "displayName#", BOARD_NAME ),
-    attributeCases( E1_CARD, DIGITAL_BOARD, "?primaryClockReference#2x" ),
-    attributeCases( LINES_CARD, ANALOG_BOARD, "tirpipe#10x" ),
-    attributeCases( E1_SPAN, INTERFACE, "ID#" ),
-    attributeCases( E1_SPAN, INTERFACE, "displayName#", NAME ),
-    attributeCases( E1_SPAN, SPAN, "tirpipe#" ),
-    attributeCases( VIRTUAL, INTERFACE, "ID#" ),
-    attributeCases( VIRTUAL, VIRTUAL_SPAN, "peerVirtualInterfaceID# peerVirtualBoardID#" ),
-    attributeCases( FXO, INTERFACE, "displayName#", NAME ),
-    attributeCases( FXO, PORT, "type#fxo", "Valid values are FXO and FXS" ),
-    attributeCases( FXS, PORT, "phoneNumber callerName" ),
-    attributeCases( FXO, TIRVANA_PORT, "tirpipeInterface#" ),
-} );
-
 /// Identifiers of what a map or a vector of handles holds, in its order.
 template <class TContainer>
 std::string getIds( const TContainer& in_container ) {
@@ -276,8 +174,7 @@ const std::vector<CallCase> CALLS{
 
 } // namespace
 
-PSTN_LOAD_CASES( HardwareCases, CASES );
-PSTN_LOAD_CASES( HardwareAttributeCases, ATTRIBUTE_CASES );
+PSTN_LOAD_CASES( HardwareCases, readCases( "hardware.cases" ) );
 PSTN_CALL_CASES( HardwareCalls, CALLS );
 
 // What boards and interfaces hold is compared where they are written; here is the rest.

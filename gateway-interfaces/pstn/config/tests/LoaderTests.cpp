@@ -27,38 +27,9 @@ namespace {
 const std::string MINIMAL =
     "<pstnConfig version=\"2.3\">\n<callControl><channelGroups/></callControl>\n</pstnConfig>\n";
 
-// ---- Sections of a document that the schema lets pass
-
-const std::vector<LoadCase> SECTION_CASES{
-    { "CompleteDocumentWithAnySchema", {}, true, {} },
-    { "ProviderUnknown",
-      { { "<tirvana>", "<Tirvana>" }, { "</tirvana>", "</Tirvana>" } },
-      false,
-      { "ERROR XmlSerializerObjectFactory: unkown provider: Tirvana",
-        "ERROR marovane.core.Assertion: Assertion failed: !pProviderConfigXmlSerializer.isNull(), file XmlConfig, line "
-        "N" } },
-    { "BoardTypeUnknown",
-      { { "<tirvanaVirtualDigitalBoard", "<virtualBoard" }, { "</tirvanaVirtualDigitalBoard>", "</virtualBoard>" } },
-      false,
-      { "ERROR XmlSerializerObjectFactory: unkown board config type: virtualBoard",
-        "ERROR marovane.core.Assertion: Assertion failed: !pBoardConfigXmlSerializer.isNull(), file XmlConfig, line "
-        "N" } },
-    { "PhysicalTypeUnknown",
-      { { "<tirvanaAnalogConfig", "<analogConfig" }, { "</tirvanaAnalogConfig>", "</analogConfig>" } },
-      false,
-      { "ERROR XmlSerializerObjectFactory: unkown physical config type: analogConfig",
-        "ERROR marovane.core.Assertion: Assertion failed: !pInterfacePhysicalConfigXmlSerializer.isNull(), file "
-        "XmlConfig, line N" } },
-    { "CallControlMissing",
-      { { "<callControl>", "<other>" }, { "</callControl>", "</other>" } },
-      false,
-      { "ERROR XmlConfig: Can't load call control parameters. Make sure to have a \"callControl\" element your   "
-        "configuration file." } },
-};
-
 } // namespace
 
-PSTN_LOAD_CASES( SectionCases, SECTION_CASES );
+PSTN_LOAD_CASES( LoadingCases, readCases( "loading.cases" ) );
 
 TEST( Loader, TakesAbsentAndEmptySectionsAsEmpty ) {
     for ( const char* const szSections : { "", "<providers/><boards/><physicalInterfaceConfigs/>" } ) {

@@ -23,169 +23,10 @@ namespace Velquin::Pstn::Test {
 
 namespace {
 
-const std::string NOUN = "] for interface physical config ";
-const Reader PHYSICAL( "InterfacePhysicalConfig", " for interface physical config ", NOUN );
-const Reader DIGITAL( "DigitalInterfacePhysicalConfig", NOUN );
-const Reader SPAN( "DigitalInterfacePhysicalConfig", "] for interface physical config  ", NOUN );
-const Reader ANALOG( "AnalogInterfacePhysicalConfig", NOUN );
-const Reader PORT( "AnalogInterfacePhysicalConfig", "] for interface physical config  ", NOUN );
-const Reader TIRVANA_PORT( "TirvanaAnalogInterfacePhysicalConfig", NOUN );
-const Reader D_CHANNEL( "DChannelConfig", "] for DChannel  " );
-const Reader AUDIO( "AudioConfig", "] for audio config " );
-const Reader TIRVANA_AUDIO( "TirvanaAudioConfig", "] for audio config " );
-const Reader ECHO( "HardwareEchoCancellationConfig", "] for echo cancellation config " );
-const Reader ACOUSTIC( "HardwareAcousticEchoCancellationConfig", " for acoustic echo cancellation config " );
-const Reader LEVEL( "HardwareLevelControlConfig", " for level control config " );
-const Reader NOISE( "HardwareBackgroundNoiseAttenuationConfig", " for background noise attenuation config " );
-const Reader DTMF( "HardwareDtmfRemovalConfig", " for DTMF removal config " );
-
-const std::string PATH = "/pstnConfig/physicalInterfaceConfigs/tirvanaDigitalConfig";
-const std::string ANALOG_PATH = "/pstnConfig/physicalInterfaceConfigs/tirvanaAnalogConfig";
-const std::string E1_FAILED = containsErrors( "physical configuration tirvanaDigitalConfig", "E1 with" );
-const std::string T1_FAILED = containsErrors( "physical configuration tirvanaDigitalConfig", "T1 without" );
-const std::string ANALOG_FAILED = containsErrors( "physical configuration tirvanaAnalogConfig", R"("Analog")" );
-const std::string AUDIO_FAILED = "ERROR InterfacePhysicalConfigXmlSerializer: failed to read audio configuration";
-const std::string D_CHANNEL_FAILED = assertion( "!pDChannelConfig.isNull()", "DigitalInterfacePhysicalConfig" );
-
-Subject block( const std::string& in_strElement, const std::string& in_strPart, const std::string& in_strWhat ) {
-    const std::string strFailed = "ERROR AudioConfigXmlSerializer: failed to read " + in_strWhat + " configuration";
-    return Subject( in_strElement, in_strPart, PATH + "[1]/audio/" + in_strElement,
-                    { strFailed, AUDIO_FAILED, E1_FAILED } );
-}
-const Subject ECHO_BLOCK = block( "EchoCancellation", R"(tailDisplacementInMs="5")", "echo cancellation" );
-const Subject ACOUSTIC_BLOCK =
-    block( "AcousticEchoCancellation", R"(type="HARDWARE" mode="NORMAL"/>)", "echo cancellation" );
-const Subject LEVEL_BLOCK = block( "LevelControl", "MANUAL", "level control" );
-const Subject NOISE_BLOCK =
-    block( "BackgroundNoiseAttenuation", R"(attenuationIndB="6")", "background noise attenuation" );
-const Subject DTMF_BLOCK = block( "DTMFRemoval", R"(mode="ENABLED" direction="ALL")", "DTMF removal" );
-
-/// A case in which the first audio configuration lacks the block.
-LoadCase blockMissing( const Subject& in_block ) {
-    return refused( in_block.strName + "Missing", { { in_block.strTag, "" } },
-                    { missing( AUDIO, in_block.strPath, "EUROPE" ), AUDIO_FAILED, E1_FAILED } );
-}
-
-const std::string FIRST_ENTRY = R"(<interfaceRef boardID="1" interfaceID="1"/>)";
-const std::string T1_ENTRY = R"(<interfaceRef boardID="2" interfaceID="3"/>)";
-const std::string ANALOG_ENTRY = R"(<interfaceRef boardID="1"/>)";
-const std::string ALREADY =
-    " already as a physical configuration. Make sure to apply only one physical configuration per interface.";
-const std::string VALID_INTERFACE = "Make sure to provide a valid interface ID whithin the context of boardID=";
-
-const std::vector<LoadCase> CASES{
-    refused( "PhysicalAudioMissing",
-             { { R"(<audio defaultPcmLaw="PCMA")", "<sound" },
-               { "</audio>\n      <digitalE1", "</sound>\n      <digitalE1" } },
-             { "ERROR InterfacePhysicalConfigXmlSerializer: Missing element " + PATH +
-                   "[1]/audio for interface physial config " + declared( "tirvanaDigitalConfig", "E1 with" ) + ". ",
-               E1_FAILED } ),
-    refused( "PhysicalSpanMissing", { { R"(<digitalT1 framing="D4")", R"(<digital framing="D4")" } },
-             { missing( DIGITAL, PATH + "[3]/digitalT1 or digitalE1", "T1 without" ), T1_FAILED } ),
-    refused( "PhysicalAnalogMissing", { { "<analog variant", "<line variant" } },
-             { missing( ANALOG, ANALOG_PATH + "/analog", R"("Analog")" ), ANALOG_FAILED } ),
-    refused( "PhysicalVariantUnknown", { { R"("TBR21")", R"("tbr21")" } },
-             { assertion( "eVariant != Country::INVALID", ANALOG.strName ), ANALOG_FAILED } ),
-    refused( "PhysicalApplyToMissing", { { "<applyTo>\n        " + T1_ENTRY + "\n      </applyTo>", "" } },
-             { missing( DIGITAL, PATH + "[3]/applyTo", "T1 without" ), T1_FAILED } ),
-    refused( "AnalogPhysicalApplyToMissing",
-             { { "<applyTo>\n        " + ANALOG_ENTRY, "<other>" },
-               { "</applyTo>\n    </tirvanaAnalogConfig>", "</other>\n    </tirvanaAnalogConfig>" } },
-             { missing( ANALOG, ANALOG_PATH + "/applyTo", R"("Analog")" ), ANALOG_FAILED } ),
-    // Digital readers look at digital boards only: there is an analog board 7.
-    refused( "PhysicalBoardUnknown",
-             { { R"(<tirvanaAnalogBoard ID="2")", R"(<tirvanaAnalogBoard ID="7")" },
-               { FIRST_ENTRY, R"(<interfaceRef boardID="7"/>)" } },
-             { "ERROR Config: failed to get digital board: 7",
-               invalid( SPAN, PATH + "[1]/applyTo/interfaceRef[1]/boardID=7", "Make sure to provide a valid board ID" ),
-               E1_FAILED } ),
-    refused( "PhysicalInterfaceUnknown", { { FIRST_ENTRY, R"(<interfaceRef boardID="1" interfaceID="9"/>)" } },
-             { "ERROR DigitalBoardConfig: failed to get digital interface: 9",
-               invalid( SPAN, PATH + "[1]/applyTo/interfaceRef[1]/interfaceID=9", VALID_INTERFACE + "1" ),
-               E1_FAILED } ),
-    refused(
-        "AnalogPhysicalBoardUnknown", { { ANALOG_ENTRY, R"(<interfaceRef boardID="3"/>)" + FIRST_ENTRY } },
-        { "ERROR Config: failed to get analog board: 3",
-          invalid( PORT, ANALOG_PATH + "/applyTo/interfaceRef[1]/boardID=3", "Make sure to provide a valid board ID" ),
-          ANALOG_FAILED } ),
-    refused( "PhysicalAppliedTwice", { { T1_ENTRY, R"(<interfaceRef boardID="2"/>)" } },
-             { "ERROR DigitalInterfacePhysicalConfigXmlSerializer: Interface boardID=2 interfaceID=1" + ALREADY,
-               T1_FAILED } ),
-    refused( "AnalogPhysicalAppliedTwice",
-             { { ANALOG_ENTRY, R"(<interfaceRef boardID="1" interfaceID="2"/>)" + ANALOG_ENTRY } },
-             { "ERROR AnalogInterfacePhysicalConfigXmlSerializer: Interface boardID=1 interfaceID=2" + ALREADY,
-               ANALOG_FAILED } ),
-    { "PhysicalAppliedToNothing",
-      { { R"(<interface ID="3" displayName="T1-C" tirpipe="4"/>)", "" },
-        { T1_ENTRY, "<!-- none -->" },
-        { R"(<member nfasInterfaceID="2" DChannelMode="DISABLED" boardID="2" interfaceID="3">)", "<!--" },
-        { "lastChannel=\"24\"/>\n          </member>", "-->" } },
-      true,
-      {} },
-    blockMissing( ECHO_BLOCK ),
-    blockMissing( ACOUSTIC_BLOCK ),
-    blockMissing( LEVEL_BLOCK ),
-    blockMissing( NOISE_BLOCK ),
-    blockMissing( DTMF_BLOCK ),
-    refused( "AudioBlockTypeMissing",
-             { { R"(<LevelControl type="HARDWARE" mode="MANUAL")", R"(<LevelControl mode="MANUAL")" } },
-             { missing( AUDIO, PATH + "[1]/audio/LevelControl/type" ), AUDIO_FAILED, E1_FAILED } ),
-    refused( "AudioBlockTypeInLowerCase",
-             { { R"(type="HARDWARE" mode="MANUAL")", R"(type="hardware" mode="MANUAL")" } },
-             { "ERROR XmlSerializerObjectFactory: unkown level control config type: hardware",
-               assertion( "!pXmlSerializer.isNull()", "AudioConfigXmlSerializer" ), AUDIO_FAILED, E1_FAILED } ),
-};
-
-const Subject E1_SPAN( "E1", "<digitalE1", PATH + "[1]/digitalE1", { E1_FAILED } );
-const Subject T1_SPAN( "T1", R"("0-110feet")", PATH + "[3]/digitalT1", { T1_FAILED } );
-const Subject D_CHANNEL_E1( "DChannel", "<DChannelE1", PATH + "[1]/digitalE1/DChannelE1",
-                            { D_CHANNEL_FAILED, E1_FAILED } );
-const Subject E1_AUDIO( "Audio", "EUROPE", PATH + "[1]/audio", { AUDIO_FAILED, E1_FAILED } );
-const Subject ENTRY( "PhysicalEntry", FIRST_ENTRY, PATH + "[1]/applyTo/interfaceRef[1]", { E1_FAILED } );
-const Subject LINE( "Analog", "TBR21", ANALOG_PATH + "/analog", { ANALOG_FAILED } );
-const Subject LINE_ENTRY( "AnalogPhysicalEntry", ANALOG_ENTRY, ANALOG_PATH + "/applyTo/interfaceRef[1]",
-                          { ANALOG_FAILED } );
-const std::string SPAN_ATTRIBUTES =
-    "framing=ESF|ESF_Japan|D4|CRC4|NonCRC4 lineEncoding=AMI|B8ZS|HDB3 clocking=TERMINAL|NETWORK loopbackMode=DISABLED ";
-
-const std::vector<LoadCase> ATTRIBUTE_CASES = gather( {
-    attributeCases( Subject( "Physical", "E1 with", PATH + "[1]",
-                             { containsErrors( "physical configuration tirvanaDigitalConfig" ) } ),
-                    PHYSICAL, "ID# displayName" ),
-    attributeCases( E1_SPAN, SPAN,
-                    SPAN_ATTRIBUTES + "?receiverSensitivity=12dB|18dB|30dB|36dB|43dB ?highImpedance=ENABLED|DISABLED "
-                                      "E1Signaling=NONE|CAS|CCS E1Termination=75ohm|120ohm" ),
-    attributeCases(
-        T1_SPAN, SPAN,
-        SPAN_ATTRIBUTES +
-            "LBO=0dB|-7.5dB|-15dB|-22.5dB|0-110feet|110-220feet|220-330feet|330-440feet|440-550feet|550-660feet" ),
-    attributeCases( D_CHANNEL_E1, D_CHANNEL, "channelIndex# mtuSize# ?RecordToPcapFile=YES|NO" ),
-    attributeCases( ENTRY, SPAN, "boardID# ?interfaceID#" ),
-    attributeCases( LINE_ENTRY, PORT, "boardID#" ),
-    attributeCases( LINE, PORT, "variant" ),
-    attributeCases( LINE, TIRVANA_PORT, "?clocking#internal", "Valid values are INTERNAL and EXTERNAL" ),
-    attributeCases( LINE, TIRVANA_PORT, "?fxoRxGainIndB# ?fxoTxGainIndB#- ?fxsRxGainIndB#inf ?fxsTxGainIndB#1e",
-                    "The value must be a real number." ),
-    attributeCases( LINE, TIRVANA_PORT, "?fxoBatteryDebounceInMs# ?fxoBatteryThresholdInVolts#",
-                    "The value must be a positive integer number." ),
-    attributeCases( E1_AUDIO, AUDIO, "defaultPcmLaw=PCMU|PCMA toneSetName" ),
-    attributeCases( E1_AUDIO, TIRVANA_AUDIO, "voicePacketLengthInMs#" ),
-    attributeCases( ECHO_BLOCK, ECHO,
-                    "mode=NORMAL|SPEECH_RECOGNIZER_FRIENDLY|DISABLED comfortNoiseMode=NORMAL|DISABLED "
-                    "tailDisplacementInMs# doubleTalkBehavior=OPTIMAL|MORE_RESIDUAL_ECHO|MORE_CLIPPING" ),
-    attributeCases( ACOUSTIC_BLOCK, ACOUSTIC, "mode=NORMAL|DISABLED" ),
-    attributeCases( LEVEL_BLOCK, LEVEL,
-                    "mode=MANUAL|AUTOMATIC|DISABLED direction=TO_PSTN|FROM_PSTN|ALL gainIndB# targetLevelIndBM0#" ),
-    attributeCases( NOISE_BLOCK, NOISE, "mode=ENABLED|DISABLED direction=TO_PSTN|FROM_PSTN|ALL attenuationIndB#" ),
-    attributeCases( DTMF_BLOCK, DTMF, "mode=ENABLED|DISABLED direction=TO_PSTN|FROM_PSTN|ALL" ),
-} );
-
-// ---- What no document provokes
-
 /// The root of the complete document, in which the first physical configuration is applied to nothing.
 Element getUnapplied() {
     return Element( TestDocument()
-                        .edit( std::vector<Edit>{ { FIRST_ENTRY, "" },
+                        .edit( std::vector<Edit>{ { R"(<interfaceRef boardID="1" interfaceID="1"/>)", "" },
                                                   { R"(<interfaceRef boardID="1" interfaceID="2"/>)", "" },
                                                   { R"(<interfaceRef boardID="3"/>)", "" } } )
                         .getText() );
@@ -247,7 +88,8 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( AnalogInterfacePhysicalConfig().addApplyToAnalogInterface( nullptr ) );
       },
       { assertion( "!pAudioConfig.isNull()", "InterfacePhysicalConfig" ), assertion( "in_szText != nullptr", "Text" ),
-        D_CHANNEL_FAILED, assertion( "!in_pAnalogInterface.isNull()", "AnalogInterfacePhysicalConfig" ) } },
+        assertion( "!pDChannelConfig.isNull()", "DigitalInterfacePhysicalConfig" ),
+        assertion( "!in_pAnalogInterface.isNull()", "AnalogInterfacePhysicalConfig" ) } },
     { "AudioRefusesNull",
       [] {
           AudioConfig config;
@@ -335,8 +177,7 @@ std::string describe( const AudioConfig& in_audio ) {
 
 } // namespace
 
-PSTN_LOAD_CASES( PhysicalCases, CASES );
-PSTN_LOAD_CASES( PhysicalAttributeCases, ATTRIBUTE_CASES );
+PSTN_LOAD_CASES( PhysicalCases, readCases( "physical.cases" ) );
 PSTN_CALL_CASES( PhysicalCalls, CALLS );
 
 TEST( Physical, ConfigurationsHaveTheValuesOfTheFile ) {
@@ -373,16 +214,19 @@ TEST( Physical, ConfigurationsHaveTheValuesOfTheFile ) {
 TEST( Physical, ReadersKeepDefaultsAndTakeWhatTheOtherLineHas ) {
     XmlConfig config;
     // CRC4, an E1's D-channel and E1's attributes on a T1, which goes before the digitalE1 in front of it.
-    loadValid( config,
-               TestDocument().edit(
-                   { { R"(receiverSensitivity="43dB" highImpedance="ENABLED" )", "" },
-                     { R"(<DChannelE1 channelIndex="16" mtuSize="260" RecordToPcapFile="YES")",
-                       R"(<DChannelE1 channelIndex="16 " mtuSize="260.5" RecordToPcapFile="NO")" },
-                     { R"(<digitalT1 framing="ESF")", R"(<digitalE1/><digitalT1 framing="CRC4" E1Signaling="x")" },
-                     { R"(<DChannelT1 channelIndex="24" mtuSize="261")",
-                       R"(<DChannelE1 channelIndex="24" mtuSize="261" PcapFilesFolder="")" },
-                     { LINE.strTag, R"(<analog variant="JAPAN" fxoTxGainIndB="1e1dB"/>)" } } ),
-               ANY_SCHEMA );
+    loadValid(
+        config,
+        TestDocument().edit(
+            { { R"(receiverSensitivity="43dB" highImpedance="ENABLED" )", "" },
+              { R"(<DChannelE1 channelIndex="16" mtuSize="260" RecordToPcapFile="YES")",
+                R"(<DChannelE1 channelIndex="16 " mtuSize="260.5" RecordToPcapFile="NO")" },
+              { R"(<digitalT1 framing="ESF")", R"(<digitalE1/><digitalT1 framing="CRC4" E1Signaling="x")" },
+              { R"(<DChannelT1 channelIndex="24" mtuSize="261")",
+                R"(<DChannelE1 channelIndex="24" mtuSize="261" PcapFilesFolder="")" },
+              { R"(variant="TBR21" clocking="EXTERNAL" fxoRxGainIndB="-1.5" fxoTxGainIndB="2" fxsRxGainIndB="0.5")"
+                R"( fxsTxGainIndB="-3" fxoBatteryDebounceInMs="48" fxoBatteryThresholdInVolts="5")",
+                R"(variant="JAPAN" fxoTxGainIndB="1e1dB")" } } ),
+        ANY_SCHEMA );
     EXPECT_EQ( describe( *config.getDigitalInterfaceConfig( 1, 1 )->getPhysicalConfig() ),
                "143111031 D 16 260 0 /tmp/pcap" );
     EXPECT_EQ( describe( *config.getDigitalInterfaceConfig( 2, 1 )->getPhysicalConfig() ),
