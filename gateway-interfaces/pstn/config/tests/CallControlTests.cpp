@@ -1,0 +1,219 @@
+#include "ConfigTest.h"
+
+#include "analog/AnalogFxoConfig.h"
+#include "analog/AnalogFxsConfig.h"
+#include "callcontrol/CallControlConfigXmlSerializer.h"
+#include "callcontrol/ChannelGroupConfigXmlSerializer.h"
+#include "hardware/DigitalBoardConfig.h"
+
+// The root of call control, channel groups and the ranges in them.
+
+namespace Velquin::Pstn::Test {
+
+namespace {
+
+const std::string OVERLAP =
+    ". One more channel of this range are already contained in this group. Please edit your PSTN configuration to fix "
+    "this problem.  Make sure to add any channel only once in a given channel group.";
+
+std::string assertion( const std::string& in_strExpression, const std::string& in_strFile ) {
+    return "ERROR marovane.core.Assertion: Assertion failed: " + in_strExpression + ", file " + in_strFile + ", line N";
+}
+
+/// An interface of a new board, both with names, kept alive by the board.
+struct Span {
+    explicit Span( unsigned int in_uBoardId, unsigned int in_uId = 1 ) {
+        hBoard->setId( in_uBoardId );
+        hBoard->setDisplayName( "B" );
+        pInterface->setId( in_uId );
+        pInterface->setDisplayName( "I" );
+        pInterface->setBoardConfig( hBoard.get() );
+        hBoard->addDigitalInterfaceConfig( pInterface );
+    }
+    BChannelRangeConfig* newRange( unsigned int in_uFirst, unsigned int in_uLast ) const {
+        auto* const pRange = new BChannelRangeConfig();
+        pRange->setFirstChannel( in_uFirst );
+        pRange->setLastChannel( in_uLast );
+        pRange->setInterfaceConfig( pInterface );
+        return pRange;
+    }
+
+    TSHandle<DigitalBoardConfig> hBoard{ new DigitalBoardConfig() };
+    DigitalInterfaceConfig* pInterface = new DigitalInterfaceConfig();
+};
+
+const std::vector<CallCase> CALLS{
+    { "CallControlRefusesNull",
+      [] {
+          CallControlConfig config;
+          ASSERT_TRUE( config.setIsdnConfig( new IsdnConfig() ) );
+          ASSERT_TRUE( config.setAnalogConfig( new AnalogCallControlConfig() ) );
+          EXPECT_FALSE( config.addChannelGroupConfig( nullptr ) );
+          EXPECT_FALSE( config.setIsdnConfig( nullptr ) );
+          EXPECT_FALSE( config.setAnalogConfig( nullptr ) );
+          EXPECT_TRUE( config.getChannelGroupConfig( nullptr ).isNull() );
+          EXPECT_FALSE( config.getIsdnConfig().isNull() ) << "what was there is gone";
+          EXPECT_FALSE( config.getAnalogConfig().isNull() ) << "what was there is gone";
+          EXPECT_TRUE( config.getChannelGroupsConfig().empty() );
+      },
+      { assertion( "in_pNewChannelGroupConfig", "CallControlConfig" ),
+        assertion( "!pIsdnConfig.isNull()", "CallControlConfig" ),
+        assertion( "!pAnalogConfig.isNull()", "CallControlConfig" ),
+        assertion( "in_szId != nullptr", "CallControlConfig" ) } },
+    { "CallControlKeepsFirstGroupOfAnId",
+      [] {
+          CallControlConfig config;
+          auto* const pFirst = new ChannelGroupConfig();
+          auto* const pSecond = new ChannelGroupConfig();
+          pFirst->setId( "x" );
+          pSecond->setId( "x" );
+          EXPECT_TRUE( config.addChannelGroupConfig( pFirst ) );
+          EXPECT_FALSE( config.addChannelGroupConfig( pSecond ) );
+          EXPECT_EQ( config.getChannelGroupConfig( "x" ).get(), pFirst );
+          EXPECT_TRUE( config.getChannelGroupConfig( "X" ).isNull() );
+      },
+      { "ERROR CallControlConfig: failed to all new channel group: x",
+        "ERROR CallControlConfig: failed to get channel group: X" } },
+    { "ChannelGroupRefusesNull",
+      [] {
+          ChannelGroupConfig group;
+          group.setId( "old" );
+          EXPECT_FALSE( group.setId( nullptr ) );
+          EXPECT_STREQ( group.getId(), "old" );
+          EXPECT_FALSE( group.addBChannelRangeConfig( nullptr ) );
+          EXPECT_FALSE( group.addBChannelRangeConfig( new BChannelRangeConfig() ) );
+          EXPECT_TRUE( group.getBChannelRangeConfig().empty() );
+      },
+      { assertion( "in_szText != nullptr", "Text" ), assertion( "in_pNewBChannelRangeConfig", "ChannelGroupConfig" ),
+        assertion( "!hNewBChannelRangeConfig->getInterfaceConfig().isNull()", "ChannelGroupConfig" ) } },
+    { "BChannelRangeRefusesNull",
+      [] {
+          const Span span( 1 );
+          const IsdnCommonConfig isdn;
+          const AnalogFxoConfig fxo;
+          const AnalogFxsConfig fxs;
+          const TSHandle<BChannelRangeConfig> hRange( span.newRange( 1, 2 ) );
+          EXPECT_TRUE( hRange->setIsdnCommonConfig( &isdn ) && hRange->setFxoConfig( &fxo ) &&
+                       hRange->setFxsConfig( &fxs ) );
+          EXPECT_FALSE( hRange->setInterfaceConfig( nullptr ) );
+          EXPECT_FALSE( hRange->setIsdnCommonConfig( nullptr ) );
+          EXPECT_FALSE( hRange->setFxoConfig( nullptr ) );
+          EXPECT_FALSE( hRange->setFxsConfig( nullptr ) );
+          EXPECT_EQ( hRange->getInterfaceConfig().get(), span.pInterface );
+          EXPECT_EQ( hRange->getIsdnCommonConfig().get(), &isdn );
+          EXPECT_EQ( hRange->getFxoConfig().get(), &fxo );
+          EXPECT_EQ( hRange->getFxsConfig().get(), &fxs );
+      },
+      { assertion( "!in_pInterfaceConfig.isNull()", "BChannelRangeConfig" ),
+        assertion( "!in_pIsdnCommonConfig.isNull()", "BChannelRangeConfig" ),
+        assertion( "!in_pFxoConfig.isNull()", "BChannelRangeConfig" ),
+        assertion( "!in_pFxsConfig.isNull()", "BChannelRangeConfig" ) } },
+    { "BChannelRangeOverlap",
+      [] {
+          const Span span( 1 );
+          ChannelGroupConfig group;
+          group.setId( "g" );
+          EXPECT_TRUE( group.addBChannelRangeConfig( span.newRange( 5, 15 ) ) );
+          EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 15, 20 ) ) ) << "the last channel is shared";
+          EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 1, 5 ) ) ) << "the first channel is shared";
+          EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 7, 7 ) ) ) << "lies within";
+          EXPECT_TRUE( group.addBChannelRangeConfig( span.newRange( 16, 31 ) ) ) << "adjacent";
+          EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 1, 31 ) ) ) << "lies around both";
+          EXPECT_EQ( group.getBChannelRangeConfig().size(), 2U );
+          ChannelGroupConfig other;
+          EXPECT_TRUE( other.addBChannelRangeConfig( span.newRange( 15, 20 ) ) ) << "other groups don't matter";
+      },
+      { "ERROR ChannelGroupConfig: Add B-Channel range [15..20] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
+        "ERROR ChannelGroupConfig: Add B-Channel range [1..5] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
+        "ERROR ChannelGroupConfig: Add B-Channel range [7..7] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
+        "ERROR ChannelGroupConfig: Add B-Channel range [1..31] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP } },
+    { "CallControlWritesNothing",
+      [] {
+          EXPECT_FALSE( CallControlConfigXmlSerializer().write( nullptr, CallControlConfig() ) );
+          EXPECT_FALSE( ChannelGroupConfigXmlSerializer().write( nullptr, ChannelGroupConfig() ) );
+      },
+      { "ERROR CallControlConfigXmlSerializer: Not implemented : CallControlConfigXmlSerializer::write",
+        "ERROR ChannelGroupConfigXmlSerializer: Not implemented : ChannelGroupConfigXmlSerializer::write" } },
+};
+
+/// "interface first..last" for each range, in the group's order.
+std::string describeRanges( const ChannelGroupConfig& in_group ) {
+    std::string strText;
+    for ( const auto& hRange : in_group.getBChannelRangeConfig() ) {
+        strText.append( hRange->getInterfaceConfig()->getUniqueId( true ) )
+            .append( " " + std::to_string( hRange->getFirstChannel() ) )
+            .append( ".." + std::to_string( hRange->getLastChannel() ) + ", " );
+    }
+    return strText;
+}
+
+} // namespace
+
+PSTN_LOAD_CASES( CallControlCases, readCases( "callcontrol.cases" ) );
+PSTN_CALL_CASES( CallControlCalls, CALLS );
+
+// Catches a comparison of identifiers as text ("10" before "2"), and an order by channel before interface.
+TEST( ChannelGroup, OrdersRangesByBoardThenInterfaceThenChannel ) {
+    const Span b10i1( 10 );
+    const Span b2i10( 2, 10 );
+    const Span b2i9( 2, 9 );
+    ChannelGroupConfig group;
+    EXPECT_TRUE( group.addBChannelRangeConfig( b10i1.newRange( 1, 1 ) ) );
+    EXPECT_TRUE( group.addBChannelRangeConfig( b2i10.newRange( 2, 15 ) ) );
+    EXPECT_TRUE( group.addBChannelRangeConfig( b2i9.newRange( 17, 31 ) ) );
+    EXPECT_TRUE( group.addBChannelRangeConfig( b2i9.newRange( 3, 15 ) ) );
+    EXPECT_EQ( describeRanges( group ), "b2di9 3..15, b2di9 17..31, b2di10 2..15, b10di1 1..1, " );
+}
+
+// Catches a root that demands a group, or a section beside the groups.
+TEST( CallControl, TakesAnEmptyListOfGroupsAlone ) {
+    XmlConfig config;
+    loadValid( config, TestDocument( "<pstnConfig version=\"2.3\"><callControl><channelGroups/></callControl>"
+                                     "</pstnConfig>" ) );
+    const auto hCallControl = config.getCallControlConfig();
+    ASSERT_FALSE( hCallControl.isNull() );
+    EXPECT_TRUE( hCallControl->getChannelGroupsConfig().empty() );
+    EXPECT_TRUE( hCallControl->getIsdnConfig().isNull() );
+    EXPECT_TRUE( hCallControl->getAnalogConfig().isNull() );
+}
+
+// Catches a range that goes to the wrong group, has the wrong channels or refers to the wrong signalling.
+TEST( CallControl, FillsItsGroupsFromIsdnAndAnalog ) {
+    XmlConfig config;
+    loadValid( config, TestDocument() );
+    ASSERT_FALSE( config.getCallControlConfig().isNull() );
+    const CallControlConfig& callControl = *config.getCallControlConfig();
+    std::string strGroups;
+    for ( const auto& [strId, hGroup] : callControl.getChannelGroupsConfig() )
+        strGroups.append( strId ).append( ": " ).append( describeRanges( *hGroup ) ).append( "\n" );
+    EXPECT_EQ( strGroups, "both: b1ai1 1..1, b1di1 17..31, b1ai2 1..1, b2ai1 1..1, b3di1 1..31, \n"
+                          "in: b2di1 1..23, b2di2 1..23, b2di3 1..24, \n"
+                          "out: b1di1 1..15, b1di2 1..31, \n" );
+
+    const auto hIn = callControl.getChannelGroupConfig( "in" );
+    const auto hOut = callControl.getChannelGroupConfig( "out" );
+    const auto hBoth = callControl.getChannelGroupConfig( "both" );
+    EXPECT_STREQ( hBoth->getId(), "both" );
+    EXPECT_EQ( hIn->getDirection(), PSTNChannel::IN );
+    EXPECT_EQ( hOut->getDirection(), PSTNChannel::OUT );
+    EXPECT_EQ( hOut->getOutboundHuntingScheme(), ChannelGroupConfig::LINEAR );
+    EXPECT_EQ( hBoth->getDirection(), PSTNChannel::BIDIR );
+    EXPECT_EQ( hBoth->getOutboundHuntingScheme(), ChannelGroupConfig::REVERSE_LINEAR );
+
+    const auto& isdn = *callControl.getIsdnConfig();
+    const auto& analog = *callControl.getAnalogConfig();
+    std::vector<const BChannelRangeConfig*> vecBoth;
+    for ( const auto& hRange : hBoth->getBChannelRangeConfig() )
+        vecBoth.push_back( hRange.get() );
+    ASSERT_EQ( vecBoth.size(), 5U );
+    EXPECT_EQ( vecBoth[0]->getFxoConfig().get(), analog.getFxoConfigs().at( 1 ).get() );
+    EXPECT_TRUE( vecBoth[0]->getIsdnCommonConfig().isNull() && vecBoth[0]->getFxsConfig().isNull() );
+    EXPECT_EQ( vecBoth[1]->getIsdnCommonConfig().get(), isdn.getFasConfigs().at( 1 ).get() );
+    EXPECT_TRUE( vecBoth[1]->getFxoConfig().isNull() && vecBoth[1]->getFxsConfig().isNull() );
+    EXPECT_EQ( vecBoth[3]->getFxsConfig().get(), analog.getFxsConfigs().at( 1 ).get() );
+    EXPECT_TRUE( vecBoth[3]->getFxoConfig().isNull() && vecBoth[3]->getIsdnCommonConfig().isNull() );
+    for ( const auto& hRange : hIn->getBChannelRangeConfig() )
+        EXPECT_EQ( hRange->getIsdnCommonConfig().get(), isdn.getNfasConfigs().at( 1 ).get() );
+}
+
+} // namespace Velquin::Pstn::Test

@@ -1,0 +1,179 @@
+#include "LogCapture.h"
+#include "ReaderTest.h"
+#include "callcontrol/isdn/IsdnConfigXmlSerializer.h"
+#include "callcontrol/isdn/IsdnFasConfigXmlSerializer.h"
+#include "callcontrol/isdn/IsdnNFasConfigXmlSerializer.h"
+#include "callcontrol/isdn/IsdnNfasGroupMemberConfigXmlSerializer.h"
+#include "hardware/DigitalBoardConfig.h"
+
+// ISDN call control: FAS and NFAS groups.
+
+namespace Velquin::Pstn::Test {
+
+namespace {
+
+std::string notImplemented( const std::string& in_strClass ) {
+    return "ERROR " + in_strClass + ": Not implemented : " + in_strClass + "::write";
+}
+
+/// A reader that makes objects of the wrong class, or none.
+template <class TXmlSerializer, class TConfig>
+class Making : public TXmlSerializer {
+    IsdnCommonConfig* newIsdnCommonConfig() override {
+        if constexpr ( std::is_void_v<TConfig> )
+            return nullptr;
+        else
+            return new TConfig();
+    }
+};
+
+const std::vector<CallCase> CALLS{
+    { "IsdnRefusesNull",
+      [] {
+          EXPECT_FALSE( IsdnConfig().addFasConfig( nullptr ) );
+          EXPECT_FALSE( IsdnConfig().addNfasConfig( nullptr ) );
+          EXPECT_FALSE( IsdnConfig().hasIsdnCallControlConfig( nullptr ) );
+          EXPECT_FALSE( IsdnFasConfig().addApplyToDigitalInterface( nullptr ) );
+          EXPECT_FALSE( IsdnFasConfig().isAppliedToInterface( nullptr ) );
+          TSHandle<IsdnNfasGroupMemberConfig> hMember;
+          EXPECT_FALSE( IsdnNfasConfig().addMemberInterface( hMember ) );
+          hMember = TSHandle<IsdnNfasGroupMemberConfig>( new IsdnNfasGroupMemberConfig() );
+          EXPECT_FALSE( IsdnNfasConfig().addMemberInterface( hMember ) ) << "a member without interface";
+          EXPECT_FALSE( hMember->setInterfaceMember( nullptr ) );
+      },
+      { assertion( "!pFasConfig.isNull()", "IsdnConfig" ), assertion( "!pNFasConfig.isNull()", "IsdnConfig" ),
+        assertion( "in_szUniqueId != nullptr", "IsdnConfig" ),
+        assertion( "!in_hDigitalInterface.isNull()", "IsdnFasConfig" ),
+        assertion( "in_szUniqueId != nullptr", "IsdnFasConfig" ),
+        assertion( "!in_hNfasGroupMember.isNull()", "IsdnNfasConfig" ),
+        assertion( "!in_hNfasGroupMember->getInterfaceConfig().isNull()", "IsdnNfasConfig" ),
+        assertion( "!in_hInterfaceConfig.isNull()", "IsdnNfasGroupMemberConfig" ) } },
+    { "IsdnWritesNothing",
+      [] {
+          EXPECT_FALSE( IsdnConfigXmlSerializer().write( nullptr, IsdnConfig() ) );
+          EXPECT_FALSE( IsdnCommonConfigXmlSerializer().write( nullptr, IsdnFasConfig() ) );
+          EXPECT_FALSE( IsdnFasConfigXmlSerializer().write( nullptr, IsdnFasConfig() ) );
+          EXPECT_FALSE( IsdnNFasConfigXmlSerializer().write( nullptr, IsdnNfasConfig() ) );
+          EXPECT_FALSE( IsdnNfasGroupMemberConfigXmlSerializer().write( nullptr, IsdnNfasGroupMemberConfig() ) );
+      },
+      { notImplemented( "IsdnConfigXmlSerializer" ), notImplemented( "IsdnCommonConfigXmlSerializer" ),
+        notImplemented( "IsdnFasConfigXmlSerializer" ), notImplemented( "IsdnNFasConfigXmlSerializer" ),
+        notImplemented( "IsdnNfasGroupMemberConfigXmlSerializer" ) } },
+    { "IsdnReadersOfOtherClass",
+      [] {
+          XmlConfig config;
+          TSHandle<CallControlConfig> hCallControl( new CallControlConfig() );
+          const Element root( "<fasConfig ID=\"1\" termination=\"TERMINAL\" switchVariant=\"NI2\" "
+                              "BChannelNegotiation=\"PREFERRED\"/>" );
+          xmlNode* const pElement = root.get();
+          EXPECT_FALSE( IsdnCommonConfigXmlSerializer().read( hCallControl, pElement, config ) );
+          EXPECT_FALSE( ( Making<IsdnFasConfigXmlSerializer, void>().read( hCallControl, pElement, config ) ) );
+          EXPECT_FALSE(
+              ( Making<IsdnFasConfigXmlSerializer, IsdnNfasConfig>().read( hCallControl, pElement, config ) ) );
+          EXPECT_FALSE(
+              ( Making<IsdnNFasConfigXmlSerializer, IsdnFasConfig>().read( hCallControl, pElement, config ) ) );
+          EXPECT_TRUE(
+              IsdnNfasGroupMemberConfigXmlSerializer().read( hCallControl, nullptr, pElement, config ).isNull() );
+      },
+      { assertion( "!pIsdnCommonConfig.isNull()", "IsdnCommonConfigXmlSerializer" ),
+        assertion( "!pIsdnCommonConfig.isNull()", "IsdnCommonConfigXmlSerializer" ),
+        assertion( "!pCommonConfig.isNull()", "IsdnFasConfigXmlSerializer" ),
+        assertion( "!pFasConfig.isNull()", "IsdnFasConfigXmlSerializer" ),
+        assertion( "!pNFasConfig.isNull()", "IsdnNFasConfigXmlSerializer" ),
+        assertion( "in_pNfasConfig", "IsdnNfasGroupMemberConfigXmlSerializer" ) } },
+};
+
+std::string describe( const IsdnCommonConfig& in_config ) {
+    const auto number = []( auto in_eValue ) { return std::to_string( static_cast<int>( in_eValue ) ) + " "; };
+    return number( in_config.getId() ) + number( in_config.getTermination() ) + number( in_config.getSwitchVariant() ) +
+           number( in_config.getBChannelNegociation() ) + number( in_config.getInitiateRestartProcedure() ) +
+           number( in_config.getInbandProgressTonesGeneration() ) +
+           number( in_config.getInbandProgressTonesIndicator() ) + number( in_config.getCallerNameLocation() ) +
+           number( in_config.getFacilityDelayMs() );
+}
+
+} // namespace
+
+PSTN_LOAD_CASES( IsdnCases, readCases( "isdn.cases" ) );
+PSTN_CALL_CASES( IsdnCalls, CALLS );
+
+TEST( Isdn, GroupsHaveTheValuesOfTheFile ) {
+    XmlConfig config;
+    loadValid( config, TestDocument() );
+    const IsdnConfig& isdn = *config.getCallControlConfig()->getIsdnConfig();
+    EXPECT_EQ( describe( *isdn.getFasConfigs().at( 1 ) ), "1 1 4 2 0 2 3 3 250 " );
+    EXPECT_EQ( describe( *isdn.getFasConfigs().at( 2 ) ), "2 1 4 1 1 3 2 1 0 " ) << "the defaults";
+    EXPECT_EQ( describe( *isdn.getNfasConfigs().at( 1 ) ), "1 2 5 1 1 3 2 1 0 " );
+
+    std::string strApplied;
+    for ( const auto& [uId, hFas] : isdn.getFasConfigs() ) {
+        for ( const auto& hInterface : hFas->getApplyToDigitalInterfaces() )
+            strApplied += std::to_string( uId ) + hInterface->getUniqueId( true ) + " ";
+    }
+    EXPECT_EQ( strApplied, "1b1di1 2b1di2 2b3di1 " );
+    std::string strMembers;
+    const IsdnNfasConfig& nfas = *isdn.getNfasConfigs().at( 1 );
+    for ( const auto& [strId, hMember] : nfas.getMemberInterfaces() )
+        strMembers += strId + std::to_string( hMember->getNfasInterfaceID() ) +
+                      std::to_string( static_cast<int>( hMember->getDChannelMode() ) ) + " ";
+    EXPECT_EQ( strMembers, "b2(T1 card)di1(T1-A)02 b2(T1 card)di2(T1-B)13 b2(T1 card)di3(T1-C)21 " );
+    EXPECT_TRUE( nfas.hasPrimaryDChannel() );
+    EXPECT_FALSE( IsdnNfasConfig().hasPrimaryDChannel() );
+    for ( const char* const szId : { "b1(E1 card)di2(E1-B)", "b2(T1 card)di3(T1-C)", "b3(Virtual)di1(V-A)" } )
+        EXPECT_TRUE( isdn.hasIsdnCallControlConfig( szId ) ) << szId;
+    for ( const char* const szId : { "b1di2", "b1(E1 card)di2(E1-C)", "" } )
+        EXPECT_FALSE( isdn.hasIsdnCallControlConfig( szId ) ) << szId;
+}
+
+TEST( Isdn, TakesABoardAsAllItsSpansAndNfasBeforeFas ) {
+    // The FAS group in front of the NFAS groups overlaps with them, and is told so: they have gone first.
+    TestDocument document;
+    document.edit( Edit{ "<isdn>", "<isdn><fasConfig ID=\"7\" termination=\"TERMINAL\" switchVariant=\"NI2\" "
+                                   "BChannelNegotiation=\"PREFERRED\"><applyTo><interfaceRef boardID=\"1\">"
+                                   "<BChannelRange channelGroupID=\"in\" firstChannel=\"1\" lastChannel=\"5\"/>"
+                                   "</interfaceRef></applyTo></fasConfig>" } );
+    XmlConfig config;
+    loadValid( config, document, ANY_SCHEMA );
+    const auto& fas = *config.getCallControlConfig()->getIsdnConfig()->getFasConfigs().at( 7 );
+    EXPECT_EQ( fas.getApplyToDigitalInterfaces().size(), 2U );
+    EXPECT_EQ( config.getCallControlConfig()->getChannelGroupConfig( "in" )->getBChannelRangeConfig().size(), 5U );
+
+    document.edit(
+        Edit{ "<interfaceRef boardID=\"1\"><BChannel", "<interfaceRef boardID=\"2\" interfaceID=\"1\"><BChannel" } );
+    const TemporaryFile file( document.getText() );
+    XmlConfig overlapping;
+    EXPECT_EQ( load( overlapping, file.getPath() ).vecLines.front().substr( 0, 68 ),
+               "ERROR ChannelGroupConfig: Add B-Channel range [1..5] of b2(T1 card)d" );
+}
+
+TEST( Isdn, TellsAtDebugWhatItAdds ) {
+    TestDocument document;
+    document.edit( Edit{ "BChannelNegotiation=\"PREFERRED\">\n        <applyTo>",
+                         "BChannelNegotiation=\"PREFERRED\" inbandProgressTonesIndicator=\"ALERTING\">\n<applyTo>" } );
+    const TemporaryFile file( document.getText() );
+    const Velquin::Test::LogCapture log( Logger::DEBUG_LEVEL );
+    XmlConfig config;
+    EXPECT_TRUE( config.load( file.getPath().c_str(), SCHEMA, false ) );
+    std::string strMessages;
+    for ( const auto& record : log.getRecords() ) {
+        if ( record.strLogger.find( "Isdn" ) != std::string::npos )
+            strMessages += record.strMessage + "\n";
+    }
+    EXPECT_EQ( strMessages, "m_eInbandProgressTonesIndicator = PROGRESS (DEFAULT)\n"
+                            "adding interface=b2(T1 card)di1(T1-A) to ISDN NFAS group nfasInterfaceID=0\n"
+                            "associated interface= b2(T1 card)di1(T1-A) with ISDN Nfas config 1\n"
+                            "adding interface=b2(T1 card)di2(T1-B) to ISDN NFAS group nfasInterfaceID=1\n"
+                            "associated interface= b2(T1 card)di2(T1-B) with ISDN Nfas config 1\n"
+                            "adding interface=b2(T1 card)di3(T1-C) to ISDN NFAS group nfasInterfaceID=2\n"
+                            "associated interface= b2(T1 card)di3(T1-C) with ISDN Nfas config 1\n"
+                            "adding new NFas config: 1\n"
+                            "m_eInbandProgressTonesIndicator = BOTH\n"
+                            "adding interface=b1(E1 card)di1(E1-A) to ISDN config ID=1\n"
+                            "adding new Fas config: 1\n"
+                            "m_eInbandProgressTonesIndicator = ALERTING\n"
+                            "adding interface=b1(E1 card)di2(E1-B) to ISDN config ID=2\n"
+                            "adding interface=b3(Virtual)di1(V-A) to ISDN config ID=2\n"
+                            "adding new Fas config: 2\n" );
+}
+
+} // namespace Velquin::Pstn::Test
