@@ -97,8 +97,8 @@ std::string notImplemented( const std::string& in_strClass ) {
     return assertion( "Not implemented : " + in_strClass + "::write", in_strClass );
 }
 
-const std::string NULL_INTERFACE = assertion( "!in_hAnalogInterface.isNull()", "AppliedAnalogInterfaces" );
-const std::string NULL_UNIQUE_ID = assertion( "in_szInterfaceuniqueId != NULL", "AppliedAnalogInterfaces" );
+const std::string NULL_INTERFACE = assertion( "!in_hAnalogInterface.isNull()", "AppliedAnalogCallControlConfig" );
+const std::string NULL_UNIQUE_ID = assertion( "in_szInterfaceuniqueId != NULL", "AppliedAnalogCallControlConfig" );
 
 const std::vector<CallCase> CALLS{
     { "AnalogAddNull",

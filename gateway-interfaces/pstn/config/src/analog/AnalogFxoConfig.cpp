@@ -1,7 +1,5 @@
 #include "analog/AnalogFxoConfig.h"
 
-#include <utility>
-
 #include <velquin/Finding.h>
 
 #include "Text.h"
@@ -12,30 +10,9 @@ PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfig );
 PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfig::InboundCallHandlingConfig );
 PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfig::OutboundCallHandlingConfig );
 
-namespace {
-
-constexpr const char* KIND = "Fxo";
-
-} // namespace
-
 bool AnalogFxoConfig::OutboundCallHandlingConfig::setInternationalDialingSpecialCharacterSubstitute(
     const char* in_szSubstitute ) {
     return assignText( m_strSpecialCharacterSubstitute, in_szSubstitute, getLogger() );
-}
-
-bool AnalogFxoConfig::addApplyToAnalogInterface( TSHandle<AnalogInterfaceConfig> in_hAnalogInterface ) try {
-    return m_interfaces.add( std::move( in_hAnalogInterface ), KIND, getId(), getLogger() );
-}
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
-
-bool AnalogFxoConfig::addApplyToAnalogInterfaceVector(
-    const std::vector<TSHandle<AnalogInterfaceConfig>>& in_vecAnalogInterfaces ) try {
-    return m_interfaces.addAll( in_vecAnalogInterfaces, KIND, getId(), getLogger() );
-}
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
-
-bool AnalogFxoConfig::isAppliedToInterface( const char* in_szInterfaceuniqueId ) const {
-    return m_interfaces.contains( in_szInterfaceuniqueId );
 }
 
 bool AnalogFxoConfig::setInboundCallHandlingConfig( InboundCallHandlingConfig* in_pInboundCallHandlingConfig ) try {

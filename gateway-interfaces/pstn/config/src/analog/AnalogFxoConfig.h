@@ -1,17 +1,15 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "analog/AnalogCallControlCommonConfig.h"
 #include "analog/AnalogDisconnectSupervisionConfig.h"
-#include "analog/AppliedAnalogInterfaces.h"
+#include "analog/AppliedAnalogCallControlConfig.h"
 
 namespace Velquin::Pstn {
 
 /// How calls run on lines on which the gateway plays the telephone: a central office or PBX feeds the line. A copy
 /// shares what the configuration holds. The setters of its parts take ownership; null leaves the part out.
-class VELQUIN_PSTN_CONFIG_EXPORT AnalogFxoConfig : public AnalogCallControlCommonConfig {
+class VELQUIN_PSTN_CONFIG_EXPORT AnalogFxoConfig : public AppliedAnalogCallControlConfig {
     PSTN_CONFIG_CLASS( AnalogFxoConfig );
 
 public:
@@ -153,18 +151,7 @@ public:
         std::string m_strSpecialCharacterSubstitute;
     };
 
-    /// The interfaces that the configuration applies to, in the order in which they were added. It owns them together
-    /// with their boards.
-    const std::vector<TSHandle<AnalogInterfaceConfig>>& getApplyToAnalogInterfaces() const noexcept {
-        return m_interfaces.get();
-    }
-    /// Refuses null, with an assertion. That an interface is added once only is not checked.
-    bool addApplyToAnalogInterface( TSHandle<AnalogInterfaceConfig> in_hAnalogInterface );
-    /// Adds one after the other; the first that is refused ends it, those before it stay.
-    bool addApplyToAnalogInterfaceVector( const std::vector<TSHandle<AnalogInterfaceConfig>>& in_vecAnalogInterfaces );
-    /// Whether the configuration applies to the interface of that unique identifier, in its long form. Null is an
-    /// assertion.
-    bool isAppliedToInterface( const char* in_szInterfaceuniqueId ) const;
+    AnalogFxoConfig() noexcept : AppliedAnalogCallControlConfig( "Fxo", &AnalogFxoConfig::getLogger ) {}
 
     /// Null until set.
     const TSHandle<InboundCallHandlingConfig>& getInboundCallHandlingConfigHandle() const noexcept {
@@ -191,7 +178,6 @@ public:
     }
 
 private:
-    AppliedAnalogInterfaces m_interfaces;
     TSHandle<InboundCallHandlingConfig> m_hInboundCallHandlingConfig;
     TSHandle<OutboundCallHandlingConfig> m_hOutboundCallHandlingConfig;
     TSHandle<AnalogDisconnectSupervisionConfig> m_hDisconnectSupervisionConfig;

@@ -1,7 +1,5 @@
 #include "analog/AnalogFxsConfig.h"
 
-#include <utility>
-
 #include <velquin/Finding.h>
 
 #include "Text.h"
@@ -13,29 +11,8 @@ PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfig::InboundCallHandlingConfig );
 PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfig::HotlineDialingConfig );
 PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfig::DisconnectAnswerNotificationConfig );
 
-namespace {
-
-constexpr const char* KIND = "Fxs";
-
-} // namespace
-
 bool AnalogFxsConfig::HotlineDialingConfig::setDialingNumber( const char* in_szDialingNumber ) {
     return assignText( m_strDialingNumber, in_szDialingNumber, getLogger() );
-}
-
-bool AnalogFxsConfig::addApplyToAnalogInterface( TSHandle<AnalogInterfaceConfig> in_hAnalogInterface ) try {
-    return m_interfaces.add( std::move( in_hAnalogInterface ), KIND, getId(), getLogger() );
-}
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
-
-bool AnalogFxsConfig::addApplyToAnalogInterfaceVector(
-    const std::vector<TSHandle<AnalogInterfaceConfig>>& in_vecAnalogInterfaces ) try {
-    return m_interfaces.addAll( in_vecAnalogInterfaces, KIND, getId(), getLogger() );
-}
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
-
-bool AnalogFxsConfig::isAppliedToInterface( const char* in_szInterfaceuniqueId ) const {
-    return m_interfaces.contains( in_szInterfaceuniqueId );
 }
 
 bool AnalogFxsConfig::setInboundCallHandlingConfig( InboundCallHandlingConfig* in_pInboundCallHandlingConfig ) try {

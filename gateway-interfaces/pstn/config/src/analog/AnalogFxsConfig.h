@@ -1,16 +1,14 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
-#include "analog/AnalogCallControlCommonConfig.h"
-#include "analog/AppliedAnalogInterfaces.h"
+#include "analog/AppliedAnalogCallControlConfig.h"
 
 namespace Velquin::Pstn {
 
 /// How calls run on lines on which the gateway plays the exchange: a telephone is plugged into the gateway. A copy
 /// shares what the configuration holds. The setters of its parts take ownership; null leaves the part out.
-class VELQUIN_PSTN_CONFIG_EXPORT AnalogFxsConfig : public AnalogCallControlCommonConfig {
+class VELQUIN_PSTN_CONFIG_EXPORT AnalogFxsConfig : public AppliedAnalogCallControlConfig {
     PSTN_CONFIG_CLASS( AnalogFxsConfig );
 
 public:
@@ -104,18 +102,7 @@ public:
         unsigned int m_uCurrentDisconnectDurationMs = 0;
     };
 
-    /// The interfaces that the configuration applies to, in the order in which they were added. It owns them together
-    /// with their boards.
-    const std::vector<TSHandle<AnalogInterfaceConfig>>& getApplyToAnalogInterfaces() const noexcept {
-        return m_interfaces.get();
-    }
-    /// Refuses null, with an assertion. That an interface is added once only is not checked.
-    bool addApplyToAnalogInterface( TSHandle<AnalogInterfaceConfig> in_hAnalogInterface );
-    /// Adds one after the other; the first that is refused ends it, those before it stay.
-    bool addApplyToAnalogInterfaceVector( const std::vector<TSHandle<AnalogInterfaceConfig>>& in_vecAnalogInterfaces );
-    /// Whether the configuration applies to the interface of that unique identifier, in its long form. Null is an
-    /// assertion.
-    bool isAppliedToInterface( const char* in_szInterfaceuniqueId ) const;
+    AnalogFxsConfig() noexcept : AppliedAnalogCallControlConfig( "Fxs", &AnalogFxsConfig::getLogger ) {}
 
     /// Null until set.
     const TSHandle<InboundCallHandlingConfig>& getInboundCallHandlingConfigHandle() const noexcept {
@@ -147,7 +134,6 @@ public:
     }
 
 private:
-    AppliedAnalogInterfaces m_interfaces;
     TSHandle<InboundCallHandlingConfig> m_hInboundCallHandlingConfig;
     TSHandle<HotlineDialingConfig> m_hHotlineDialingConfig;
     TSHandle<DisconnectAnswerNotificationConfig> m_hDisconnectAnswerNotificationConfig;

@@ -1,4 +1,4 @@
-#include "analog/AppliedAnalogInterfaces.h"
+#include "analog/AppliedAnalogCallControlConfig.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,10 +6,13 @@
 #include <utility>
 
 #include <velquin/Assertion.h>
+#include <velquin/Finding.h>
 
 #include "hardware/BoardConfig.h"
 
 namespace Velquin::Pstn {
+
+PSTN_CONFIG_CLASS_IMPL( AppliedAnalogCallControlConfig );
 
 namespace {
 
@@ -21,25 +24,24 @@ unsigned int getBoardId( const AnalogInterfaceConfig& in_interface ) {
 
 } // namespace
 
-bool AppliedAnalogInterfaces::add( TSHandle<AnalogInterfaceConfig> in_hAnalogInterface, const char* in_szKind,
-                                   unsigned int in_uConfigId, const Logger& in_logger ) {
+bool AppliedAnalogCallControlConfig::addApplyToAnalogInterface(
+    TSHandle<AnalogInterfaceConfig> in_hAnalogInterface ) try {
     if ( !VELQUIN_ASSERT( !in_hAnalogInterface.isNull() ) )
         return false;
-    VELQUIN_LOG_DEBUG( in_logger, "adding board= " << getBoardId( *in_hAnalogInterface )
-                                                   << ", interface= " << in_hAnalogInterface->getId() << " To Analgo "
-                                                   << in_szKind << " config ID= " << in_uConfigId );
+    VELQUIN_LOG_DEBUG( m_getLogger(), "adding board= " << getBoardId( *in_hAnalogInterface )
+                                                       << ", interface= " << in_hAnalogInterface->getId()
+                                                       << " To Analgo " << m_szKind << " config ID= " << getId() );
     m_vecInterfaces.push_back( std::move( in_hAnalogInterface ) );
     return true;
 }
+VELQUIN_CATCH_AND_RETURN( m_getLogger(), false )
 
-bool AppliedAnalogInterfaces::addAll( const Interfaces& in_vecAnalogInterfaces, const char* in_szKind,
-                                      unsigned int in_uConfigId, const Logger& in_logger ) {
-    return std::all_of( in_vecAnalogInterfaces.begin(), in_vecAnalogInterfaces.end(), [&]( const auto& in_hInterface ) {
-        return add( in_hInterface, in_szKind, in_uConfigId, in_logger );
-    } );
+bool AppliedAnalogCallControlConfig::addApplyToAnalogInterfaceVector( const Interfaces& in_vecAnalogInterfaces ) {
+    return std::all_of( in_vecAnalogInterfaces.begin(), in_vecAnalogInterfaces.end(),
+                        [this]( const auto& in_hInterface ) { return addApplyToAnalogInterface( in_hInterface ); } );
 }
 
-bool AppliedAnalogInterfaces::contains( const char* in_szInterfaceuniqueId ) const {
+bool AppliedAnalogCallControlConfig::isAppliedToInterface( const char* in_szInterfaceuniqueId ) const {
     // The assertion logs its own text, in which NULL stands.
     if ( !VELQUIN_ASSERT( in_szInterfaceuniqueId != NULL ) ) // NOLINT(modernize-use-nullptr)
         return false;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <vector>
+
+#include <velquin/TSHandle.h>
+
+#include "analog/AnalogCallControlCommonConfig.h"
+#include "hardware/AnalogInterfaceConfig.h"
+
+namespace Velquin::Pstn {
+
+/// A configuration with the analog interfaces that it applies to: what FXO and FXS configurations have in common.
+class VELQUIN_PSTN_CONFIG_EXPORT AppliedAnalogCallControlConfig : public AnalogCallControlCommonConfig {
+    PSTN_CONFIG_CLASS( AppliedAnalogCallControlConfig );
+
+public:
+    using Interfaces = std::vector<TSHandle<AnalogInterfaceConfig>>;
+
+    /// The interfaces that the configuration applies to, in the order in which they were added. It owns them together
+    /// with their boards.
+    const Interfaces& getApplyToAnalogInterfaces() const noexcept { return m_vecInterfaces; }
+    /// Refuses null, with an assertion. That an interface is added once only is not checked.
+    bool addApplyToAnalogInterface( TSHandle<AnalogInterfaceConfig> in_hAnalogInterface );
+    /// Adds one after the other; the first that is refused ends it, those before it stay.
+    bool addApplyToAnalogInterfaceVector( const Interfaces& in_vecAnalogInterfaces );
+    /// Whether the configuration applies to the interface of that unique identifier, in its long form. Null is an
+    /// assertion.
+    bool isAppliedToInterface( const char* in_szInterfaceuniqueId ) const;
+
+protected:
+    /// @param in_szKind "Fxo" or "Fxs", as a log line has it
+    /// @param in_getLogger the logger of the derived class
+    AppliedAnalogCallControlConfig( const char* in_szKind, const Logger& ( *in_getLogger )() ) noexcept
+        : m_szKind( in_szKind ), m_getLogger( in_getLogger ) {}
+
+private:
+    const char* m_szKind;
+    const Logger& ( *m_getLogger )();
+    Interfaces m_vecInterfaces;
+};
+
+} // namespace Velquin::Pstn
