@@ -79,13 +79,15 @@ unsigned int TestDocument::getLine( const std::string& in_strText ) const {
 }
 
 std::string TestDocument::expand( std::string in_strExpected, const std::string& in_strFile ) const {
-    static const std::regex s_regex( R"(\{(file|line)(?::([^}]*))?\})" );
+    static const std::regex s_regex( R"(\{(file|schema|line)(?::([^}]*))?\})" );
     std::string strResult;
     std::smatch match;
     while ( std::regex_search( in_strExpected, match, s_regex ) ) {
         strResult += match.prefix();
         if ( match[1] == "file" )
             strResult += in_strFile;
+        else if ( match[1] == "schema" )
+            strResult += SCHEMA;
         else
             strResult += std::to_string( getLine( match[2].matched ? match[2].str() : m_strLastEdit ) );
         in_strExpected = match.suffix().str();

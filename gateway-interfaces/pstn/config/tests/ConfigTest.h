@@ -29,7 +29,8 @@ public:
     /// The line on which the tag ends that holds the text, which stands exactly once. The text is looked for as it is.
     unsigned int getLine( const std::string& in_strText ) const;
 
-    /// Replaces, in a line that is expected, `{file}` by the file, `{line}` by the line of the tag of the last edit and
+    /// Replaces, in a line that is expected, `{file}` by the file, `{schema}` by that of the format, `{line}` by the
+    /// line of the tag of the last edit and
     /// `{line:text}` by that of the tag that holds the text.
     std::string expand( std::string in_strExpected, const std::string& in_strFile ) const;
 
