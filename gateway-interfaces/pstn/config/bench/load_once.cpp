@@ -1,0 +1,54 @@
+// Loads a configuration once: load_once FILE SCHEMA [--log-content|--memory]
+// To be run under callgrind with --toggle-collect=runLoad. --log-content turns the log of the file's content on, at
+// INFO. --memory prints the bytes of heap that the loaded model holds, after a first load that warms up.
+// Exit code 0: loaded; 1: not loaded; 2: wrong usage.
+
+#include <iostream>
+#include <string_view>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+#include "QuietLog.h"
+#include "loading/XmlConfig.h"
+
+using namespace Velquin::Pstn;
+
+namespace {
+
+std::size_t getHeapBytes() {
+#ifdef __GLIBC__
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+#else
+    return 0;
+#endif
+}
+
+} // namespace
+
+/// Loads and releases.
+extern "C" bool runLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent,
+                         bool in_bPrintMemory ) {
+    const std::size_t uBefore = in_bPrintMemory ? getHeapBytes() : 0;
+    XmlConfig config;
+    const bool bLoaded = config.load( in_szConfigFile, in_szSchemaFile, in_bLogContent );
+    if ( in_bPrintMemory )
+        std::cout << getHeapBytes() - uBefore << '\n';
+    return bLoaded;
+}
+
+int main( int argc, char** argv ) {
+    const std::string_view strMode = argc == 4 ? argv[3] : "";
+    if ( argc < 3 || argc > 4 || ( argc == 4 && strMode != "--log-content" && strMode != "--memory" ) ) {
+        std::cerr << "usage: load_once FILE SCHEMA [--log-content|--memory]\n";
+        return 2;
+    }
+    const bool bLogContent = strMode == "--log-content";
+    const bool bMemory = strMode == "--memory";
+    const QuietLog log( bLogContent ? log4cplus::INFO_LOG_LEVEL : log4cplus::WARN_LOG_LEVEL );
+    if ( bMemory && !runLoad( argv[1], argv[2], false, false ) )
+        return 1;
+    return runLoad( argv[1], argv[2], bLogContent, bMemory ) ? 0 : 1;
+}
