@@ -12,6 +12,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
+constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
 constexpr ReaderWording WORDING{ "] for element ", "] for element ", "Missing attribute [" };
 
 std::string getAttribute( const xmlNode* in_pNode, const char* in_szName ) {
@@ -87,11 +88,16 @@ void SchemaAdvisor::advise( xmlNode* in_pElement, const Logger& in_logger ) cons
             reader.reportInvalid( strName.c_str(), text.view(), describe( rule.vecValues ) );
         }
     }
-    for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute; pAttribute = pAttribute->next ) {
+    // A file of attributes only gets no line for each of them.
+    unsigned int uUnknown = 0;
+    for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute && uUnknown < MAX_UNKNOWN_ATTRIBUTES;
+          pAttribute = pAttribute->next ) {
         const char* const szName = fromXml( pAttribute->name );
-        AttributeText text;
-        if ( !rules.contains( szName ) && reader.findText( szName, text ) == ReadResult::READ )
-            reader.reportInvalid( szName, text.view(), "The element has no such attribute." );
+        if ( pAttribute->ns || rules.contains( szName ) )
+            continue;
+        const XmlStringPtr pValue( xmlNodeListGetString( in_pElement->doc, pAttribute->children, 1 ) );
+        reader.reportInvalid( szName, fromXml( pValue.get() ), "The element has no such attribute." );
+        ++uUnknown;
     }
 }
 
