@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <exception>
 #include <iostream>
 
@@ -44,6 +45,10 @@ int run( int in_nArguments, char** in_aszArguments ) {
 } // namespace
 
 int main( int argc, char** argv ) {
+    // Were the buffer allocated at the first line of output, after a large model was freed, malloc would tidy up all of
+    // that first.
+    static char s_aBuffer[BUFSIZ];
+    std::setvbuf( stdout, s_aBuffer, _IOFBF, sizeof( s_aBuffer ) );
     try {
         return run( argc, argv );
     } catch ( const std::exception& error ) {
