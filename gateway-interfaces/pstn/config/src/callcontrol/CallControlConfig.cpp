@@ -1,18 +1,22 @@
 #include "callcontrol/CallControlConfig.h"
 
+#include <utility>
+
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
+
+#include "AppendToMap.h"
 
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( CallControlConfig );
 
 bool CallControlConfig::addChannelGroupConfig( ChannelGroupConfig* in_pNewChannelGroupConfig ) try {
-    const TSHandle<ChannelGroupConfig> hNewChannelGroupConfig( in_pNewChannelGroupConfig );
+    TSHandle<ChannelGroupConfig> hNewChannelGroupConfig( in_pNewChannelGroupConfig );
     if ( !VELQUIN_ASSERT( in_pNewChannelGroupConfig ) )
         return false;
     VELQUIN_LOG_DEBUG( getLogger(), "adding new channel group: " << hNewChannelGroupConfig->getId() );
-    if ( m_mapChannelGroups.try_emplace( hNewChannelGroupConfig->getId(), hNewChannelGroupConfig ).second )
+    if ( appendToMap( m_mapChannelGroups, hNewChannelGroupConfig->getId(), std::move( hNewChannelGroupConfig ) ) )
         return true;
     VELQUIN_REPORT_ERROR( getLogger(), "failed to all new channel group: " << hNewChannelGroupConfig->getId() );
     return false;

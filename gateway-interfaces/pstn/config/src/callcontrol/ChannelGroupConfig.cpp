@@ -1,6 +1,7 @@
 #include "callcontrol/ChannelGroupConfig.h"
 
 #include <ostream>
+#include <utility>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
@@ -34,14 +35,17 @@ bool ChannelGroupConfig::setId( const char* in_szId ) {
 }
 
 bool ChannelGroupConfig::addBChannelRangeConfig( BChannelRangeConfig* in_pNewBChannelRangeConfig ) try {
-    const TSHandle<BChannelRangeConfig> hNewBChannelRangeConfig( in_pNewBChannelRangeConfig );
+    TSHandle<BChannelRangeConfig> hNewBChannelRangeConfig( in_pNewBChannelRangeConfig );
     if ( !VELQUIN_ASSERT( in_pNewBChannelRangeConfig ) ||
          !VELQUIN_ASSERT( !hNewBChannelRangeConfig->getInterfaceConfig().isNull() ) ||
          !VELQUIN_ASSERT( !hNewBChannelRangeConfig->getInterfaceConfig()->getBoardConfig().isNull() ) )
         return false;
     const Adding adding{ *hNewBChannelRangeConfig, getId() };
     VELQUIN_LOG_DEBUG( getLogger(), adding );
-    if ( m_setBChannelRanges.insert( hNewBChannelRangeConfig ).second )
+    // Documents mostly list the ranges of a group in ascending order: the end is tried first.
+    const std::size_t uSize = m_setBChannelRanges.size();
+    m_setBChannelRanges.insert( m_setBChannelRanges.end(), std::move( hNewBChannelRangeConfig ) );
+    if ( m_setBChannelRanges.size() > uSize )
         return true;
     VELQUIN_REPORT_ERROR( getLogger(),
                           adding << ". One more channel of this range are already contained in this group. Please edit "

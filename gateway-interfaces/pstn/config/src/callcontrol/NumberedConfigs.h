@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include <velquin/Finding.h>
 #include <velquin/TSHandle.h>
+
+#include "AppendToMap.h"
 
 namespace Velquin::Pstn {
 
@@ -12,15 +15,15 @@ namespace Velquin::Pstn {
 template <class TConfig>
 using NumberedConfigs = std::map<unsigned int, TSHandle<TConfig>>;
 
-/// Adds the configuration unless its number is taken; the handle that was passed is then the last one. May throw.
+/// Adds the configuration unless its number is taken; only then the handle is moved from. May throw.
 /// @param in_szKind "Fas", "NFas", "Fxo" or "Fxs", as the messages have it
 template <class TConfig>
-bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, const TSHandle<TConfig>& in_hConfig,
+bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, TSHandle<TConfig>&& inout_hConfig,
                         const char* in_szKind, const Logger& in_logger ) {
-    VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " config: " << in_hConfig->getId() );
-    if ( inout_mapConfigs.try_emplace( in_hConfig->getId(), in_hConfig ).second )
+    VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " config: " << inout_hConfig->getId() );
+    if ( appendToMap( inout_mapConfigs, inout_hConfig->getId(), std::move( inout_hConfig ) ) )
         return true;
-    VELQUIN_REPORT_ERROR( in_logger, "failed to add " << in_szKind << " config : " << in_hConfig->getId() );
+    VELQUIN_REPORT_ERROR( in_logger, "failed to add " << in_szKind << " config : " << inout_hConfig->getId() );
     return false;
 }
 

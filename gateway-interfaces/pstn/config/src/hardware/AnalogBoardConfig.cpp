@@ -1,12 +1,15 @@
 #include "hardware/AnalogBoardConfig.h"
 
+#include <utility>
+
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogBoardConfig );
 
 bool AnalogBoardConfig::addAnalogInterfaceConfig( AnalogInterfaceConfig* in_pNewAnalogInterfaceConfig ) try {
-    const TSHandle<AnalogInterfaceConfig> hInterface( in_pNewAnalogInterfaceConfig );
-    return VELQUIN_ASSERT( in_pNewAnalogInterfaceConfig ) && m_mapInterfaces.add( hInterface, "analog", getLogger() );
+    TSHandle<AnalogInterfaceConfig> hInterface( in_pNewAnalogInterfaceConfig );
+    return VELQUIN_ASSERT( in_pNewAnalogInterfaceConfig ) &&
+           m_mapInterfaces.add( std::move( hInterface ), "analog", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

@@ -1,8 +1,11 @@
 #include "hardware/Config.h"
 
+#include <utility>
+
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
+#include "AppendToMap.h"
 #include "hardware/InterfaceKind.h"
 
 namespace Velquin::Pstn {
@@ -12,14 +15,14 @@ PSTN_CONFIG_CLASS_IMPL( Config );
 namespace {
 
 template <class TBoard>
-bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, const TSHandle<TBoard>& in_hBoard,
+bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, TSHandle<TBoard>&& inout_hBoard,
                const char* in_szKind, const Logger& in_logger ) {
-    VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " board: " << in_hBoard->getId() << "<"
-                                                << in_hBoard->getDisplayName() << ">" );
-    if ( inout_mapBoards.try_emplace( in_hBoard->getId(), in_hBoard ).second )
+    VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
+                                                << inout_hBoard->getDisplayName() << ">" );
+    if ( appendToMap( inout_mapBoards, inout_hBoard->getId(), std::move( inout_hBoard ) ) )
         return true;
-    VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << in_hBoard->getId() << "<"
-                                                          << in_hBoard->getDisplayName() << ">" );
+    VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
+                                                          << inout_hBoard->getDisplayName() << ">" );
     return false;
 }
 
@@ -104,16 +107,16 @@ bool Config::addBoardConfig( BoardConfig* in_pNewBoardConfig ) try {
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool Config::addAnalogBoardConfig( AnalogBoardConfig* in_pNewAnalogBoardConfig ) try {
-    const TSHandle<AnalogBoardConfig> hBoardConfig( in_pNewAnalogBoardConfig );
+    TSHandle<AnalogBoardConfig> hBoardConfig( in_pNewAnalogBoardConfig );
     return VELQUIN_ASSERT( in_pNewAnalogBoardConfig ) &&
-           addBoard( m_mapAnalogBoards, hBoardConfig, AnalogKind::NAME, getLogger() );
+           addBoard( m_mapAnalogBoards, std::move( hBoardConfig ), AnalogKind::NAME, getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool Config::addDigitalBoardConfig( DigitalBoardConfig* in_pNewDigitalBoardConfig ) try {
-    const TSHandle<DigitalBoardConfig> hBoardConfig( in_pNewDigitalBoardConfig );
+    TSHandle<DigitalBoardConfig> hBoardConfig( in_pNewDigitalBoardConfig );
     return VELQUIN_ASSERT( in_pNewDigitalBoardConfig ) &&
-           addBoard( m_mapDigitalBoards, hBoardConfig, DigitalKind::NAME, getLogger() );
+           addBoard( m_mapDigitalBoards, std::move( hBoardConfig ), DigitalKind::NAME, getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

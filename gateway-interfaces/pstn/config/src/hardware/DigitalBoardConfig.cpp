@@ -1,12 +1,15 @@
 #include "hardware/DigitalBoardConfig.h"
 
+#include <utility>
+
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( DigitalBoardConfig );
 
 bool DigitalBoardConfig::addDigitalInterfaceConfig( DigitalInterfaceConfig* in_pNewDigitalInterfaceConfig ) try {
-    const TSHandle<DigitalInterfaceConfig> hInterface( in_pNewDigitalInterfaceConfig );
-    return VELQUIN_ASSERT( in_pNewDigitalInterfaceConfig ) && m_mapInterfaces.add( hInterface, "digital", getLogger() );
+    TSHandle<DigitalInterfaceConfig> hInterface( in_pNewDigitalInterfaceConfig );
+    return VELQUIN_ASSERT( in_pNewDigitalInterfaceConfig ) &&
+           m_mapInterfaces.add( std::move( hInterface ), "digital", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <algorithm>
-#include <unordered_map>
+#include <map>
 #include <vector>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 #include <velquin/TSHandle.h>
+
+#include "AppendToMap.h"
 
 namespace Velquin::Pstn {
 
@@ -15,14 +17,15 @@ namespace Velquin::Pstn {
 template <class TInterface>
 class InterfaceMap {
 public:
-    /// Adds the interface unless its identifier is taken; the handle that was passed is then the last one.
-    bool add( const TSHandle<TInterface>& in_hInterface, const char* in_szKind, const Logger& in_logger ) {
-        VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " interface: " << in_hInterface->getId() << "<"
-                                                    << in_hInterface->getDisplayName() << ">" );
-        if ( m_map.try_emplace( in_hInterface->getId(), in_hInterface ).second )
+    /// Adds the interface unless its identifier is taken; only then the handle is moved from.
+    bool add( TSHandle<TInterface>&& inout_hInterface, const char* in_szKind, const Logger& in_logger ) {
+        VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " interface: " << inout_hInterface->getId() << "<"
+                                                    << inout_hInterface->getDisplayName() << ">" );
+        if ( appendToMap( m_map, inout_hInterface->getId(), std::move( inout_hInterface ) ) )
             return true;
-        VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " interface: " << in_hInterface->getId()
-                                                              << "<" << in_hInterface->getDisplayName() << ">" );
+        VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind
+                                                              << " interface: " << inout_hInterface->getId() << "<"
+                                                              << inout_hInterface->getDisplayName() << ">" );
         return false;
     }
 
@@ -42,7 +45,9 @@ public:
         out_vecInterfaces.reserve( m_map.size() );
         for ( const auto& [uId, hInterface] : m_map )
             out_vecInterfaces.push_back( hInterface );
-        std::sort( out_vecInterfaces.begin(), out_vecInterfaces.end(), &isBefore );
+        // They stand in that order unless an interface was given another identifier since it was added.
+        if ( !std::is_sorted( out_vecInterfaces.begin(), out_vecInterfaces.end(), &isBefore ) )
+            std::sort( out_vecInterfaces.begin(), out_vecInterfaces.end(), &isBefore );
     }
 
 private:
@@ -51,7 +56,7 @@ private:
                in_hX->getId() < in_hY->getId();
     }
 
-    std::unordered_map<unsigned int, TSHandle<TInterface>> m_map;
+    std::map<unsigned int, TSHandle<TInterface>> m_map;
 };
 
 } // namespace Velquin::Pstn

@@ -1,5 +1,7 @@
 #include "callcontrol/isdn/IsdnConfig.h"
 
+#include <utility>
+
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
@@ -8,16 +10,16 @@ namespace Velquin::Pstn {
 PSTN_CONFIG_CLASS_IMPL( IsdnConfig );
 
 bool IsdnConfig::addFasConfig( IsdnFasConfig* in_pFasConfig ) try {
-    const TSHandle<IsdnFasConfig> pFasConfig( in_pFasConfig );
+    TSHandle<IsdnFasConfig> pFasConfig( in_pFasConfig );
     return VELQUIN_ASSERT( !pFasConfig.isNull() ) &&
-           addNumberedConfig( m_mapFasConfigs, pFasConfig, "Fas", getLogger() );
+           addNumberedConfig( m_mapFasConfigs, std::move( pFasConfig ), "Fas", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool IsdnConfig::addNfasConfig( IsdnNfasConfig* in_pNFasConfig ) try {
-    const TSHandle<IsdnNfasConfig> pNFasConfig( in_pNFasConfig );
+    TSHandle<IsdnNfasConfig> pNFasConfig( in_pNFasConfig );
     return VELQUIN_ASSERT( !pNFasConfig.isNull() ) &&
-           addNumberedConfig( m_mapNfasConfigs, pNFasConfig, "NFas", getLogger() );
+           addNumberedConfig( m_mapNfasConfigs, std::move( pNFasConfig ), "NFas", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
