@@ -73,7 +73,7 @@ bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
     case ReadResult::WRONG:
         return false;
     case ReadResult::ABSENT:
-        if ( !reference.takeAllInterfaces( "failed to retrieve digital interfaces of board ID=" ) )
+        if ( !reference.takeAllInterfaces( "digital" ) )
             return false;
         if ( !inout_analogConfig.addApplyToAnalogInterfaceVector( reference.getInterfaces() ) ) {
             VELQUIN_REPORT_ERROR( in_logger, "failed to add interfaces from board ID = "

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include <velquin/Assertion.h>
 
 #include "loading/XmlConfig.h"
@@ -22,11 +20,10 @@ bool resolveInterfaces( xmlNode* in_pEntry, const Config& in_config, const Logge
     if ( !reference.readBoard( in_config ) )
         return false;
     const ReadResult eResult = reference.readInterface();
-    const std::string strFailure = std::string( "failed to retrieve " ) + TKind::NAME + " interfaces of board ID=";
     if ( eResult == ReadResult::WRONG ||
-         ( eResult == ReadResult::ABSENT && !reference.takeAllInterfaces( strFailure.c_str() ) ) )
+         ( eResult == ReadResult::ABSENT && !reference.takeAllInterfaces( TKind::NAME ) ) )
         return false;
-    out_vecInterfaceConfig = reference.getInterfaces();
+    out_vecInterfaceConfig = reference.releaseInterfaces();
     return true;
 }
 

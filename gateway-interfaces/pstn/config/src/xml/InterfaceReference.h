@@ -48,21 +48,23 @@ public:
             m_reader.reportInvalid( "interfaceID", text.view(), strHint );
             return ReadResult::WRONG;
         }
-        m_vecInterfaces.assign( 1, std::move( hInterface ) );
+        m_vecInterfaces.push_back( std::move( hInterface ) );
         return ReadResult::READ;
     }
 
     /// Takes all interfaces of the board, ascending by identifier.
-    /// @param in_szFailure what is logged, with the board's identifier, when that fails
-    bool takeAllInterfaces( const char* in_szFailure ) {
+    /// @param in_szKind what the interfaces are called in the message when that fails
+    bool takeAllInterfaces( const char* in_szKind ) {
         if ( TKind::getInterfaces( *m_hBoard, m_vecInterfaces ) )
             return true;
-        VELQUIN_REPORT_ERROR( m_logger, in_szFailure << m_hBoard->getId() );
+        VELQUIN_REPORT_ERROR( m_logger,
+                              "failed to retrieve " << in_szKind << " interfaces of board ID=" << m_hBoard->getId() );
         return false;
     }
 
     const TSHandle<typename TKind::Board>& getBoard() const noexcept { return m_hBoard; }
     const typename TKind::Interfaces& getInterfaces() const noexcept { return m_vecInterfaces; }
+    typename TKind::Interfaces releaseInterfaces() noexcept { return std::move( m_vecInterfaces ); }
 
 private:
     AttributeReader m_reader;

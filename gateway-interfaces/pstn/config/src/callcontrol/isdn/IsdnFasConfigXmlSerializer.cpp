@@ -62,7 +62,7 @@ private:
                                                                                << m_fasConfig.getId() );
             return false;
         }
-        if ( !inout_reference.takeAllInterfaces( "failed to retrieve digital interfaces of board ID=" ) )
+        if ( !inout_reference.takeAllInterfaces( "digital" ) )
             return false;
         if ( m_fasConfig.addApplyToDigitalInterfaceVector( inout_reference.getInterfaces() ) )
             return true;
