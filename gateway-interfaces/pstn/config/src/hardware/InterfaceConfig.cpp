@@ -1,6 +1,10 @@
 #include "hardware/InterfaceConfig.h"
 
-#include <utility>
+#include <algorithm>
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
@@ -11,6 +15,21 @@
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( InterfaceConfig );
+
+namespace {
+
+std::string concatenate( std::initializer_list<std::string_view> in_parts ) {
+    std::size_t uSize = 0;
+    for ( const std::string_view strPart : in_parts )
+        uSize += strPart.size();
+    std::string strText( uSize, '\0' ); // no byte more: a large model keeps thousands of them
+    auto it = strText.begin();
+    for ( const std::string_view strPart : in_parts )
+        it = std::copy( strPart.begin(), strPart.end(), it );
+    return strText;
+}
+
+} // namespace
 
 bool InterfaceConfig::setDisplayName( const char* in_szDisplayName ) {
     return assignDisplayName( m_strDisplayName, in_szDisplayName, getLogger() );
@@ -27,16 +46,11 @@ VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 const char* InterfaceConfig::composeUniqueId( bool in_bShort, const char* in_szKind ) const try {
     std::string& strUniqueId = in_bShort ? m_strShortUniqueId : m_strLongUniqueId;
     if ( strUniqueId.empty() && VELQUIN_ASSERT( !getBoardConfig().isNull() ) ) {
-        std::string strComposed;
-        const auto append = [&strComposed, in_bShort]( const char* in_szPrefix, unsigned int in_uId,
-                                                       const char* in_szName ) {
-            strComposed.append( in_szPrefix ).append( std::to_string( in_uId ) );
-            if ( !in_bShort )
-                strComposed.append( "(" ).append( in_szName ).append( ")" );
-        };
-        append( "b", m_pBoardConfig->getId(), m_pBoardConfig->getDisplayName() );
-        append( in_szKind, m_uId, getDisplayName() );
-        strUniqueId = std::move( strComposed );
+        const std::string strBoardId = std::to_string( m_pBoardConfig->getId() );
+        const std::string strId = std::to_string( m_uId );
+        strUniqueId = in_bShort ? concatenate( { "b", strBoardId, in_szKind, strId } )
+                                : concatenate( { "b", strBoardId, "(", m_pBoardConfig->getDisplayName(), ")", in_szKind,
+                                                 strId, "(", m_strDisplayName, ")" } );
     }
     return strUniqueId.c_str();
 }

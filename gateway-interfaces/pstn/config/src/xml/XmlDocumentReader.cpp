@@ -61,9 +61,11 @@ void onError( void* in_pContext, xmlError* in_pError ) {
 void onStartElement( void* in_pContext, const xmlChar* in_szName, const xmlChar* in_szPrefix, const xmlChar* in_szUri,
                      int in_nNamespaces, const xmlChar** in_aszNamespaces, int in_nAttributes, int in_nDefaulted,
                      const xmlChar** in_aszAttributes ) {
+    auto* const pContext = static_cast<xmlParserCtxt*>( in_pContext );
+    // Not to look for identifiers (`xml:id`) among the attributes of every element; reading clears it at its start.
+    pContext->loadsubset |= XML_SKIP_IDS;
     xmlSAX2StartElementNs( in_pContext, in_szName, in_szPrefix, in_szUri, in_nNamespaces, in_aszNamespaces,
                            in_nAttributes, in_nDefaulted, in_aszAttributes );
-    const auto* const pContext = static_cast<const xmlParserCtxt*>( in_pContext );
     if ( pContext->node && pContext->input && pContext->input->line > 0 )
         setElementLine( pContext->node, static_cast<unsigned long long>( pContext->input->line ) );
 }
