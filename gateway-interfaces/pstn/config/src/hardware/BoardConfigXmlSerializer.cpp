@@ -2,6 +2,7 @@
 
 #include <velquin/UniqueObjPtr.h>
 
+#include "xml/ElementPosition.h"
 #include "xml/ElementReader.h"
 #include "xml/ElementWriter.h"
 
@@ -26,6 +27,7 @@ BoardConfig* BoardConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConf
     if ( !reader.requireNumber( "ID", WHOLE_DECIMAL, uId ) )
         return nullptr;
     pBoardConfig->setId( uId );
+    setElementId( in_pElement, uId );
 
     AttributeText displayName;
     if ( !reader.requireText( "displayName", displayName ) )

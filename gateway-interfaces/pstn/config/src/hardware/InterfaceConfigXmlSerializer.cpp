@@ -3,6 +3,7 @@
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/BoardConfig.h"
+#include "xml/ElementPosition.h"
 #include "xml/ElementReader.h"
 #include "xml/ElementWriter.h"
 
@@ -29,6 +30,7 @@ InterfaceConfig* InterfaceConfigXmlSerializer::read( xmlNode* const in_pElement,
     if ( !reader.requireNumber( "ID", LEADING_DECIMAL, uId ) )
         return nullptr;
     pInterfaceConfig->setId( uId );
+    setElementId( in_pElement, uId );
 
     AttributeText displayName;
     if ( !reader.requireText( "displayName", displayName ) )

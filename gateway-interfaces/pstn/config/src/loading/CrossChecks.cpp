@@ -1,8 +1,11 @@
 #include "loading/CrossChecks.h"
 
-#include <set>
-#include <string_view>
-#include <unordered_set>
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <iterator>
+#include <type_traits>
+#include <utility>
 
 #include <velquin/Assertion.h>
 
@@ -17,8 +20,6 @@ namespace Velquin::Pstn {
 
 namespace {
 
-using UniqueIds = std::unordered_set<std::string_view>;
-
 bool getInterfaces( const TSHandle<AnalogBoardConfig>& hBoard, AnalogKind::Interfaces& vecInterfaces ) {
     return ASSERT_OF_LOADER( hBoard->getAnalogInterfacesConfig( vecInterfaces ) );
 }
@@ -27,122 +28,153 @@ bool getInterfaces( const TSHandle<DigitalBoardConfig>& hBoard, DigitalKind::Int
     return ASSERT_OF_LOADER( hBoard->getDigitalInterfacesConfig( vecInterfaces ) );
 }
 
-/// Calls the function for every interface of every board of one kind, in order.
-template <class TKind, class Function>
-bool forEachInterface( const Config& in_config, Function in_function ) {
+template <class TKind>
+bool gatherInterfaces( const Config& in_config, std::vector<const typename TKind::Interface*>& out_vecInterfaces ) {
+    typename TKind::Interfaces vecInterfaces;
     for ( const auto& [uBoardId, hBoard] : TKind::getBoards( in_config ) ) {
-        typename TKind::Interfaces vecInterfaces;
+        vecInterfaces.clear();
         if ( !ASSERT_OF_LOADER( !hBoard.isNull() ) || !getInterfaces( hBoard, vecInterfaces ) )
             return false;
         for ( const auto& hInterface : vecInterfaces ) {
             if ( !ASSERT_OF_LOADER( !hInterface.isNull() ) )
                 return false;
-            in_function( *hInterface );
+            out_vecInterfaces.push_back( hInterface.get() );
         }
     }
     return true;
 }
 
-template <class TKind>
-void addFinding( const InterfaceConfig& in_interface, const char* in_szSubject, const std::string& in_strWhat,
+template <class TInterface>
+void addFinding( const TInterface& in_interface, const char* in_szSubject, const std::string& in_strWhat,
                  CrossCheckFindings& out_findings ) {
     std::string strText = in_szSubject;
     strText.append( " \"" ).append( in_interface.getUniqueId( false ) ).append( "\"" ).append( in_strWhat );
-    out_findings.push_back( { std::is_same_v<TKind, AnalogKind>, in_interface.getBoardConfig()->getId(),
+    out_findings.push_back( { std::is_same_v<TInterface, AnalogInterfaceConfig>, in_interface.getBoardConfig()->getId(),
                               in_interface.getId(), std::move( strText ) } );
 }
 
-template <class TKind>
-bool checkPhysicalConfigs( const Config& in_config, const char* in_szSubject, CrossCheckFindings& out_findings ) {
-    return forEachInterface<TKind>( in_config, [&]( const auto& in_interface ) {
-        if ( in_interface.getPhysicalConfig().isNull() )
-            addFinding<TKind>( in_interface, in_szSubject,
-                               " has not physical configuration. Please make sure to apply a physical configuration to "
-                               "this interface.",
-                               out_findings );
-    } );
-}
-
-template <class TKind>
-bool checkCallControl( const Config& in_config, const char* in_szSubject, const UniqueIds& in_setConfigured,
-                       CrossCheckFindings& out_findings ) {
-    return forEachInterface<TKind>( in_config, [&]( const auto& in_interface ) {
-        if ( !in_setConfigured.contains( in_interface.getUniqueId( false ) ) )
-            addFinding<TKind>( in_interface, in_szSubject,
-                               " has no call-control configuration. Please make sure to apply a call- control "
-                               "configuration to this interface.",
-                               out_findings );
-    } );
-}
-
-bool checkAnalogPhysicalConfigs( const Config& in_config, CrossCheckFindings& out_findings ) {
-    return checkPhysicalConfigs<AnalogKind>( in_config, "Analog interface", out_findings );
-}
-
-bool checkDigitalPhysicalConfigs( const Config& in_config, CrossCheckFindings& out_findings ) {
-    return checkPhysicalConfigs<DigitalKind>( in_config, "Digital interface", out_findings );
-}
-
-bool checkTirpipes( const Config& in_config, CrossCheckFindings& out_findings ) {
-    std::set<unsigned int> setTirpipes;
-    const auto describe = []( unsigned int in_uTirpipe ) {
-        return " has an already used tirpipe number: " + std::to_string( in_uTirpipe ) +
-               ". Please make sure every analog board and Digital interface has a unique tirpipe number.";
-    };
-    for ( const auto& [uBoardId, hBoard] : in_config.getAnalogBoardsConfig() ) {
-        if ( !ASSERT_OF_LOADER( !hBoard.isNull() ) )
-            return false;
-        const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() );
-        if ( pBoard && !setTirpipes.insert( pBoard->getTirpipe() ).second )
-            out_findings.push_back(
-                { true, uBoardId, std::nullopt,
-                  "Analog board \"" + std::to_string( uBoardId ) + "\"" + describe( pBoard->getTirpipe() ) } );
+template <class TInterface>
+void checkPhysicalConfigs( const std::vector<const TInterface*>& in_vecInterfaces, const char* in_szSubject,
+                           CrossCheckFindings& out_findings ) {
+    for ( const TInterface* const pInterface : in_vecInterfaces ) {
+        if ( pInterface->getPhysicalConfig().isNull() )
+            addFinding( *pInterface, in_szSubject,
+                        " has not physical configuration. Please make sure to apply a physical configuration to this "
+                        "interface.",
+                        out_findings );
     }
-    // A virtual span has no tirpipe number.
-    return forEachInterface<DigitalKind>( in_config, [&]( const DigitalInterfaceConfig& in_interface ) {
-        const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( &in_interface );
-        if ( pInterface && !setTirpipes.insert( pInterface->getTirpipe() ).second )
-            addFinding<DigitalKind>( in_interface, "Digital Interface", describe( pInterface->getTirpipe() ),
-                                     out_findings );
-    } );
 }
 
-// The two questions about call control gather the configured interfaces in one sweep over the groups: to ask group
-// after group for every interface would cost their product.
+void checkAnalogPhysicalConfigs( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
+    checkPhysicalConfigs( in_subject.vecAnalogInterfaces, "Analog interface", out_findings );
+}
 
-bool checkAnalogCallControl( const Config& in_config, CrossCheckFindings& out_findings ) {
-    UniqueIds setConfigured;
-    const auto gather = [&setConfigured]( const auto& in_mapConfigs ) {
+void checkDigitalPhysicalConfigs( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
+    checkPhysicalConfigs( in_subject.vecDigitalInterfaces, "Digital interface", out_findings );
+}
+
+void addTakenTirpipe( const CrossCheckSubject& in_subject, std::size_t in_uHolder, unsigned int in_uTirpipe,
+                      CrossCheckFindings& out_findings ) {
+    const std::string strWhat =
+        " has an already used tirpipe number: " + std::to_string( in_uTirpipe ) +
+        ". Please make sure every analog board and Digital interface has a unique tirpipe number.";
+    const auto& mapBoards = in_subject.config.getAnalogBoardsConfig();
+    if ( in_uHolder < mapBoards.size() ) {
+        const unsigned int uBoardId = std::next( mapBoards.begin(), static_cast<std::ptrdiff_t>( in_uHolder ) )->first;
+        out_findings.push_back(
+            { true, uBoardId, std::nullopt, "Analog board \"" + std::to_string( uBoardId ) + "\"" + strWhat } );
+    } else {
+        addFinding( *in_subject.vecDigitalInterfaces[in_uHolder - mapBoards.size()], "Digital Interface", strWhat,
+                    out_findings );
+    }
+}
+
+void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
+    // A number and its holder: the position of an analog board among those, or of a digital interface behind them all.
+    using Tirpipe = std::pair<unsigned int, std::size_t>;
+    std::vector<Tirpipe> vecTirpipes;
+    const auto& mapBoards = in_subject.config.getAnalogBoardsConfig();
+    vecTirpipes.reserve( mapBoards.size() + in_subject.vecDigitalInterfaces.size() );
+    std::size_t uHolder = 0;
+    for ( const auto& [uBoardId, hBoard] : mapBoards ) {
+        if ( const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() ) )
+            vecTirpipes.emplace_back( pBoard->getTirpipe(), uHolder );
+        ++uHolder;
+    }
+    for ( const DigitalInterfaceConfig* const pDigitalInterface : in_subject.vecDigitalInterfaces ) {
+        // A virtual span has no tirpipe number.
+        if ( const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( pDigitalInterface ) )
+            vecTirpipes.emplace_back( pInterface->getTirpipe(), uHolder );
+        ++uHolder;
+    }
+    if ( !std::is_sorted( vecTirpipes.begin(), vecTirpipes.end() ) )
+        std::sort( vecTirpipes.begin(), vecTirpipes.end() );
+
+    // At fault is who has the number of one before.
+    std::vector<std::pair<std::size_t, unsigned int>> vecTaken;
+    for ( std::size_t i = 1; i < vecTirpipes.size(); ++i ) {
+        if ( vecTirpipes[i].first == vecTirpipes[i - 1].first )
+            vecTaken.emplace_back( vecTirpipes[i].second, vecTirpipes[i].first );
+    }
+    std::sort( vecTaken.begin(), vecTaken.end() );
+    for ( const auto& [uTaken, uTirpipe] : vecTaken )
+        addTakenTirpipe( in_subject, uTaken, uTirpipe, out_findings );
+}
+
+/// @param in_vecConfigured the interfaces that have call control, gathered in one sweep over the groups: to ask group
+/// after group for every interface would cost their product
+template <class TInterface>
+void checkCallControl( const std::vector<const TInterface*>& in_vecInterfaces,
+                       std::vector<const TInterface*> in_vecConfigured, const char* in_szSubject,
+                       CrossCheckFindings& out_findings ) {
+    std::sort( in_vecConfigured.begin(), in_vecConfigured.end(), std::less<>() );
+    for ( const TInterface* const pInterface : in_vecInterfaces ) {
+        if ( !std::binary_search( in_vecConfigured.begin(), in_vecConfigured.end(), pInterface, std::less<>() ) )
+            addFinding( *pInterface, in_szSubject,
+                        " has no call-control configuration. Please make sure to apply a call- control configuration "
+                        "to this interface.",
+                        out_findings );
+    }
+}
+
+void checkAnalogCallControl( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
+    std::vector<const AnalogInterfaceConfig*> vecConfigured;
+    const auto gather = [&vecConfigured]( const auto& in_mapConfigs ) {
         for ( const auto& [uId, hConfig] : in_mapConfigs ) {
             for ( const auto& hInterface : hConfig->getApplyToAnalogInterfaces() )
-                setConfigured.insert( hInterface->getUniqueId( false ) );
+                vecConfigured.push_back( hInterface.get() );
         }
     };
-    const auto hCallControl = in_config.getCallControlConfig();
+    const auto hCallControl = in_subject.config.getCallControlConfig();
     if ( !hCallControl.isNull() && !hCallControl->getAnalogConfig().isNull() ) {
         gather( hCallControl->getAnalogConfig()->getFxoConfigs() );
         gather( hCallControl->getAnalogConfig()->getFxsConfigs() );
     }
-    return checkCallControl<AnalogKind>( in_config, "Analog interface", setConfigured, out_findings );
+    checkCallControl( in_subject.vecAnalogInterfaces, std::move( vecConfigured ), "Analog interface", out_findings );
 }
 
-bool checkDigitalCallControl( const Config& in_config, CrossCheckFindings& out_findings ) {
-    UniqueIds setConfigured;
-    const auto hCallControl = in_config.getCallControlConfig();
+void checkDigitalCallControl( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
+    std::vector<const DigitalInterfaceConfig*> vecConfigured;
+    const auto hCallControl = in_subject.config.getCallControlConfig();
     if ( !hCallControl.isNull() && !hCallControl->getIsdnConfig().isNull() ) {
         for ( const auto& [uId, hFasConfig] : hCallControl->getIsdnConfig()->getFasConfigs() ) {
             for ( const auto& hInterface : hFasConfig->getApplyToDigitalInterfaces() )
-                setConfigured.insert( hInterface->getUniqueId( false ) );
+                vecConfigured.push_back( hInterface.get() );
         }
         for ( const auto& [uId, hNfasConfig] : hCallControl->getIsdnConfig()->getNfasConfigs() ) {
             for ( const auto& [strUniqueId, hMember] : hNfasConfig->getMemberInterfaces() )
-                setConfigured.insert( strUniqueId );
+                vecConfigured.push_back( hMember->getInterfaceConfig().get() );
         }
     }
-    return checkCallControl<DigitalKind>( in_config, "Digital interface", setConfigured, out_findings );
+    checkCallControl( in_subject.vecDigitalInterfaces, std::move( vecConfigured ), "Digital interface", out_findings );
 }
 
 } // namespace
+
+bool CrossCheckSubject::gather() {
+    return gatherInterfaces<AnalogKind>( config, vecAnalogInterfaces ) &&
+           gatherInterfaces<DigitalKind>( config, vecDigitalInterfaces );
+}
 
 const std::vector<CrossCheck>& getCrossChecks() {
     static const std::vector<CrossCheck> s_vecCrossChecks{

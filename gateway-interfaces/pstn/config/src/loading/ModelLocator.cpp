@@ -1,20 +1,21 @@
 #include "loading/ModelLocator.h"
 
+#include <algorithm>
 #include <string_view>
 
-#include <velquin/XML.h>
-
 #include "xml/ChildElements.h"
+#include "xml/ElementPosition.h"
 #include "xml/LibXml2.h"
-#include "xml/Number.h"
 
 namespace Velquin::Pstn {
 
 namespace {
 
-std::optional<unsigned int> getId( xmlNode* in_pElement ) {
-    const XmlStringPtr pId( xmlGetNoNsProp( in_pElement, toXml( "ID" ) ) );
-    return parseNumber<unsigned int>( fromXml( pId.get() ), NumberPolicy::LEADING );
+template <class Elements>
+const xmlNode* findElement( const Elements& in_elements, unsigned int in_uId ) {
+    const auto isBefore = []( const auto& in_element, unsigned int in_uOther ) { return in_element.first < in_uOther; };
+    const auto it = std::lower_bound( in_elements.begin(), in_elements.end(), in_uId, isBefore );
+    return it != in_elements.end() && it->first == in_uId ? it->second : nullptr;
 }
 
 } // namespace
@@ -22,25 +23,31 @@ std::optional<unsigned int> getId( xmlNode* in_pElement ) {
 const xmlNode* ModelLocator::find( bool in_bAnalog, unsigned int in_uBoardId,
                                    std::optional<unsigned int> in_uInterfaceId ) {
     if ( !m_bGathered )
-        gather();
-    const auto it = m_mapElements.find( Key( in_bAnalog, in_uBoardId, in_uInterfaceId ) );
-    return it == m_mapElements.end() ? nullptr : it->second;
+        gatherBoards();
+    const xmlNode* const pBoard = findElement( in_bAnalog ? m_analogBoards : m_digitalBoards, in_uBoardId );
+    if ( !pBoard || !in_uInterfaceId )
+        return pBoard;
+    const auto [it, bNew] = m_mapInterfaces.try_emplace( pBoard );
+    Elements& interfaces = it->second;
+    if ( bNew ) {
+        for ( const xmlNode* const pInterface : ChildElements( pBoard ) )
+            interfaces.emplace_back( getElementId( pInterface ), pInterface );
+        std::sort( interfaces.begin(), interfaces.end() );
+    }
+    return findElement( interfaces, *in_uInterfaceId );
 }
 
-void ModelLocator::gather() {
+void ModelLocator::gatherBoards() {
     m_bGathered = true;
     const xmlNode* const pBoards = XML::findFirstElement( m_pRoot, "boards" );
     if ( !pBoards )
         return;
-    for ( xmlNode* const pBoard : ChildElements( pBoards ) ) {
+    for ( const xmlNode* const pBoard : ChildElements( pBoards ) ) {
         const bool bAnalog = std::string_view( fromXml( pBoard->name ) ) == "tirvanaAnalogBoard";
-        const std::optional<unsigned int> uBoardId = getId( pBoard );
-        if ( !uBoardId )
-            continue;
-        m_mapElements.try_emplace( Key( bAnalog, *uBoardId, std::nullopt ), pBoard );
-        for ( xmlNode* const pInterface : ChildElements( pBoard ) )
-            m_mapElements.try_emplace( Key( bAnalog, *uBoardId, getId( pInterface ) ), pInterface );
+        ( bAnalog ? m_analogBoards : m_digitalBoards ).emplace_back( getElementId( pBoard ), pBoard );
     }
+    std::sort( m_analogBoards.begin(), m_analogBoards.end() );
+    std::sort( m_digitalBoards.begin(), m_digitalBoards.end() );
 }
 
 } // namespace Velquin::Pstn

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
@@ -56,6 +57,13 @@ void appendNumberedLine( std::string& inout_strText, unsigned long long in_ullLi
     const auto uDigits = static_cast<std::size_t>( pEnd - szNumber );
     inout_strText.append( uDigits < 6 ? 6 - uDigits : 0, ' ' ).append( szNumber, uDigits );
     inout_strText.append( ": " ).append( in_strLine ).append( "\n" );
+}
+
+/// Removes the attributes of the element and its children.
+void removeAttributes( xmlNode* inout_pElement ) {
+    xmlFreePropList( std::exchange( inout_pElement->properties, nullptr ) );
+    for ( xmlNode* const pChild : ChildElements( inout_pElement ) )
+        xmlFreePropList( std::exchange( pChild->properties, nullptr ) );
 }
 
 /// Whether a schema draws in other files, which a load doesn't read.
@@ -252,7 +260,11 @@ bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode ) {
         BoardConfig* const pBoardConfig = pBoardConfigXmlSerializer->read( in_pEntry, *m_pOwner );
         if ( !pBoardConfig )
             return Entry::CONTAINS_ERRORS;
-        return m_pOwner->addBoardConfig( pBoardConfig ) ? Entry::ATTACHED : Entry::REFUSED;
+        if ( !m_pOwner->addBoardConfig( pBoardConfig ) )
+            return Entry::REFUSED;
+        // The model has what they say, and grows in the memory that they give back.
+        removeAttributes( in_pEntry );
+        return Entry::ATTACHED;
     };
     return loadSection( in_pRootNode, "boards", "Configuration of the board ", readEntry );
 }
@@ -298,17 +310,18 @@ bool XmlConfig::Impl::loadCallControlConfig( const xmlNode* in_pRootNode ) {
 
 bool XmlConfig::Impl::crossCheck( const xmlNode* in_pRootNode ) const {
     ModelLocator locator( in_pRootNode );
+    CrossCheckSubject subject( *m_pOwner );
+    if ( !subject.gather() )
+        return false;
     bool bSound = true;
     for ( const CrossCheck check : getCrossChecks() ) {
         CrossCheckFindings findings;
-        const bool bAnswered = check( *m_pOwner, findings );
+        check( subject, findings );
         for ( CrossCheckFinding& finding : findings ) {
             const xmlNode* const pElement = locator.find( finding.bAnalog, finding.uBoardId, finding.uInterfaceId );
             const ElementPlace place( pElement ? pElement : in_pRootNode );
             reportFinding( getLogger(), Logger::ERROR_LEVEL, std::move( finding.strText ), __FILE__, __LINE__ );
         }
-        if ( !bAnswered )
-            return false;
         bSound = bSound && findings.empty();
     }
     return bSound;

@@ -17,6 +17,14 @@ unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept {
     return nLine > 0 ? static_cast<unsigned long long>( nLine ) : 0;
 }
 
+void setElementId( xmlNode* in_pElement, unsigned int in_uId ) noexcept {
+    in_pElement->psvi = reinterpret_cast<void*>( static_cast<std::uintptr_t>( in_uId ) ); // validation is done with it
+}
+
+unsigned int getElementId( const xmlNode* in_pElement ) noexcept {
+    return static_cast<unsigned int>( reinterpret_cast<std::uintptr_t>( in_pElement->psvi ) );
+}
+
 std::string getElementPath( const xmlNode* in_pElement ) {
     return fromXml( XmlStringPtr( xmlGetNodePath( const_cast<xmlNode*>( in_pElement ) ) ).get() );
 }

@@ -12,6 +12,12 @@ void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexc
 /// The line on which the element's start tag ends, from 1; what libxml2 knows when nothing was remembered.
 unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept;
 
+/// Remembers the identifier of a board or an interface in its element, whose attributes don't outlive their reading.
+void setElementId( xmlNode* in_pElement, unsigned int in_uId ) noexcept;
+
+/// The identifier that was remembered.
+unsigned int getElementId( const xmlNode* in_pElement ) noexcept;
+
 /// The element's XPath; empty when memory ends. Costs more the more siblings the element has: ask when a message is
 /// written, not before.
 std::string getElementPath( const xmlNode* in_pElement );
