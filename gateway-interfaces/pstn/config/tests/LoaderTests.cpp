@@ -160,6 +160,27 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
     }
 }
 
+TEST( Loader, GivesNoAdviceFromASchemaWithoutEnd ) {
+    const std::string strBegin = "<grammar xmlns=\"http://relaxng.org/ns/structure/1.0\" xmlns:x=\"urn:x\">\n"
+                                 "<start><element name=\"a\"><ref name=\"b\"/></element></start><define name=\"b\">";
+    const std::string strAttribute = "<attribute name=\"c\"><value>1</value></attribute>";
+    std::string strNested = strAttribute;
+    for ( int n = 0; n < 60; ++n )
+        strNested = "<choice>" + strNested + "</choice>";
+    const TemporaryFile document( "<a c=\"2\"/>" );
+    // A definition that refers to itself, through an element that libxml2 passes over; choices that double the work.
+    for ( const std::string& strDefinition : { strAttribute + "<x:ref name=\"b\"/>", strNested } ) {
+        const TemporaryFile schema( strBegin + strDefinition + "</define></grammar>" );
+        XmlConfig config;
+        const LoadResult result = load( config, document.getPath(), schema.getPath() );
+        EXPECT_EQ( join( result.vecLines ),
+                   join( { "ERROR XmlConfig: Element a failed to validate attributes in file " + document.getPath() +
+                               " at line 1.",
+                           "ERROR XmlConfig: failed to validate PSTN configuration file " + document.getPath() +
+                               " against schema " + schema.getPath() } ) );
+    }
+}
+
 // ---- Lines
 
 TEST( Loader, NamesTheTrueLineInLongFiles ) {

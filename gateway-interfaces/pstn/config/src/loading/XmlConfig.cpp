@@ -205,7 +205,7 @@ XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFi
         return nullptr;
     }
     if ( xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) != 0 || errorRoute.isOutOfMemory() ) {
-        const SchemaAdvisor advisor( pSchemaDocument.get() );
+        SchemaAdvisor advisor( pSchemaDocument.get() );
         for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
             advisor.advise( pElement, getLogger() );
         VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "

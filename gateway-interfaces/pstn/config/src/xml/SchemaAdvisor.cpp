@@ -13,6 +13,9 @@ namespace Velquin::Pstn {
 namespace {
 
 constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
+// Far beyond what describes one element, and soon reached by a schema that never ends.
+constexpr unsigned int MAX_STEPS = 20'000;
+constexpr unsigned int MAX_DEPTH = 500;
 constexpr ReaderWording WORDING{ "] for element ", "] for element ", "Missing attribute [" };
 
 std::string getAttribute( const xmlNode* in_pNode, const char* in_szName ) {
@@ -65,12 +68,19 @@ SchemaAdvisor::SchemaAdvisor( const xmlDoc* in_pSchema ) : m_pGrammar( xmlDocGet
     }
 }
 
-void SchemaAdvisor::advise( xmlNode* in_pElement, const Logger& in_logger ) const {
+SchemaAdvisor::Step::Step( SchemaAdvisor& in_advisor ) : m_advisor( in_advisor ) {
+    m_advisor.m_bLost = m_advisor.m_bLost || ++m_advisor.m_uSteps > MAX_STEPS || m_advisor.m_uDepth >= MAX_DEPTH;
+    ++m_advisor.m_uDepth;
+}
+
+void SchemaAdvisor::advise( xmlNode* in_pElement, const Logger& in_logger ) {
+    m_uSteps = 0;
     Rules rules;
     const Patterns vecPatterns = findPatterns( in_pElement );
     for ( const xmlNode* const pPattern : vecPatterns )
         collectAttributes( pPattern, in_pElement, vecPatterns.size() == 1, rules );
-    if ( rules.empty() )
+    // Half the rules would accuse attributes that are right.
+    if ( rules.empty() || m_bLost )
         return;
 
     const ElementReader reader( in_pElement, in_logger, WORDING );
@@ -102,7 +112,7 @@ void SchemaAdvisor::advise( xmlNode* in_pElement, const Logger& in_logger ) cons
 }
 
 /// The patterns of the element, found from the root down.
-SchemaAdvisor::Patterns SchemaAdvisor::findPatterns( const xmlNode* in_pElement ) const {
+SchemaAdvisor::Patterns SchemaAdvisor::findPatterns( const xmlNode* in_pElement ) {
     Patterns vecParents = getDefinitions( nullptr );
     if ( in_pElement->parent && in_pElement->parent->type == XML_ELEMENT_NODE )
         vecParents = findPatterns( in_pElement->parent );
@@ -115,8 +125,9 @@ SchemaAdvisor::Patterns SchemaAdvisor::findPatterns( const xmlNode* in_pElement 
 
 /// The `element` patterns of that name directly in the content of a pattern.
 void SchemaAdvisor::collectElements( const xmlNode* in_pPattern, std::string_view in_strName,
-                                     std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns ) const {
-    if ( !inout_setSeen.insert( in_pPattern ).second )
+                                     std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns ) {
+    const Step step( *this );
+    if ( m_bLost || !inout_setSeen.insert( in_pPattern ).second )
         return;
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
         if ( isPattern( pChild, "element" ) ) {
@@ -133,14 +144,17 @@ void SchemaAdvisor::collectElements( const xmlNode* in_pPattern, std::string_vie
 
 /// The attributes directly in the content of a pattern.
 void SchemaAdvisor::collectAttributes( const xmlNode* in_pPattern, const xmlNode* in_pElement, bool in_bRequired,
-                                       Rules& out_rules ) const {
+                                       Rules& out_rules ) {
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
         collectFrom( pChild, in_pElement, in_bRequired, out_rules );
 }
 
 /// The attributes that a pattern contributes to the element in whose content it stands.
 void SchemaAdvisor::collectFrom( const xmlNode* in_pPattern, const xmlNode* in_pElement, bool in_bRequired,
-                                 Rules& out_rules ) const {
+                                 Rules& out_rules ) {
+    const Step step( *this );
+    if ( m_bLost )
+        return;
     if ( isPattern( in_pPattern, "attribute" ) ) {
         Rule& rule = out_rules[getAttribute( in_pPattern, "name" )];
         rule.bRequired = rule.bRequired || in_bRequired;
@@ -159,7 +173,7 @@ void SchemaAdvisor::collectFrom( const xmlNode* in_pPattern, const xmlNode* in_p
 
 /// Of alternatives, the keyword that one attribute has mostly tells which is meant: what that one requires is required.
 void SchemaAdvisor::collectChoice( const xmlNode* in_pChoice, const xmlNode* in_pElement, bool in_bRequired,
-                                   Rules& out_rules ) const {
+                                   Rules& out_rules ) {
     Patterns vecMeant;
     for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) ) {
         Rules rules;
@@ -181,7 +195,10 @@ void SchemaAdvisor::collectChoice( const xmlNode* in_pChoice, const xmlNode* in_
 }
 
 /// The values that an attribute takes.
-void SchemaAdvisor::collectValues( const xmlNode* in_pPattern, Rule& out_rule ) const {
+void SchemaAdvisor::collectValues( const xmlNode* in_pPattern, Rule& out_rule ) {
+    const Step step( *this );
+    if ( m_bLost )
+        return;
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
         if ( isPattern( pChild, "value" ) ) {
             const XmlStringPtr pValue( xmlNodeGetContent( pChild ) );

@@ -1,0 +1,79 @@
+#include "LoadCheck.h"
+
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "ErrorCount.h"
+#include "FuzzTarget.h"
+#include "QuietLog.h"
+#include "TemporaryFile.h"
+#include "hardware/InterfaceKind.h"
+#include "loading/XmlConfig.h"
+
+namespace Velquin::Pstn::Fuzz {
+
+namespace {
+
+std::string write( const XmlConfig& in_config ) {
+    const ErrorCount errors;
+    std::ostringstream stream;
+    stream << in_config;
+    require( stream.good() == ( errors.get() == 0 ), "what can't be written is told" );
+    return stream.str();
+}
+
+template <class TKind>
+void readBoards( const XmlConfig& in_config ) {
+    for ( const auto& [uBoardId, hBoard] : TKind::getBoards( in_config ) ) {
+        require( hBoard->getId() == uBoardId, "a board stands under its identifier" );
+        typename TKind::Interfaces vecInterfaces;
+        require( TKind::getInterfaces( *hBoard, vecInterfaces ), "a board hands out its interfaces" );
+        for ( const auto& hInterface : vecInterfaces ) {
+            require( hInterface->getBoardConfig().get() == hBoard.get(), "an interface knows its board" );
+            const std::string strShort = hInterface->getUniqueId( true );
+            require( strShort.starts_with( "b" + std::to_string( uBoardId ) ), "an identifier begins with the board" );
+            require( strShort.size() <= std::string( hInterface->getUniqueId( false ) ).size(),
+                     "the long identifier is the longer one" );
+        }
+    }
+}
+
+void readCallControl( const XmlConfig& in_config ) {
+    const TSHandle<CallControlConfig> hCallControl = in_config.getCallControlConfig();
+    require( !hCallControl.isNull(), "what was loaded has call control" );
+    for ( const auto& [strId, hGroup] : hCallControl->getChannelGroupsConfig() )
+        require( !hGroup.isNull() && strId == hGroup->getId(), "a channel group stands under its identifier" );
+}
+
+} // namespace
+
+void checkLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bTalkative ) {
+    static const QuietLog s_log( in_bTalkative ? log4cplus::TRACE_LOG_LEVEL : log4cplus::WARN_LOG_LEVEL );
+    XmlConfig config;
+    {
+        const ErrorCount errors;
+        const bool bLoaded = config.load( in_szConfigFile, in_szSchemaFile, in_bTalkative );
+        require( bLoaded == ( errors.get() == 0 ), "a load fails when, and only when, it reports an error" );
+        if ( !bLoaded )
+            return;
+        readBoards<AnalogKind>( config );
+        readBoards<DigitalKind>( config );
+        readCallControl( config );
+        std::set<std::string> setToneSets;
+        require( config.getToneSets( setToneSets ), "the tone sets can be listed" );
+        require( errors.get() == 0, "a loaded model is read without an error" );
+    }
+    const std::string strWritten = write( config );
+    if ( strWritten.empty() )
+        return; // a virtual board, of which no text is written
+    static const TemporaryFile s_written( "written.xml" );
+    s_written.write( strWritten );
+    // What is written has no call control, so that this load ends in failure, with the boards in place.
+    XmlConfig again;
+    require( !again.load( s_written.getPath(), PSTN_FUZZ_ANY_SCHEMA, false ), "boards alone are no configuration" );
+    require( write( again ) == strWritten, "boards are written as they are read back" );
+}
+
+} // namespace Velquin::Pstn::Fuzz
