@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
@@ -196,7 +197,11 @@ XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFi
         VELQUIN_REPORT_ERROR( getLogger(), "failed to parse XML file " << in_szConfigFile );
         return nullptr;
     }
-    if ( xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) != 0 || errorRoute.isOutOfMemory() ) {
+    // Of a document that has a URL, libxml2 walks over all preceding siblings for every error.
+    XmlStringPtr pUrl( const_cast<xmlChar*>( std::exchange( pDocument->URL, nullptr ) ) );
+    const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) == 0;
+    pDocument->URL = pUrl.release();
+    if ( !bValid || errorRoute.isOutOfMemory() ) {
         const SchemaAdvisor advisor( pSchemaDocument.get() );
         for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
             advisor.advise( pElement, getLogger() );
