@@ -2,6 +2,7 @@
 
 #include <map>
 #include <optional>
+#include <string>
 #include <tuple>
 
 #include <libxml/tree.h>
@@ -14,8 +15,13 @@ class ModelLocator {
 public:
     explicit ModelLocator( const xmlNode* in_pRoot ) noexcept : m_pRoot( in_pRoot ) {}
 
+    struct Place {
+        const xmlNode* pElement = nullptr;
+        std::string strPath;
+    };
+
     /// The element of the board or, when its identifier is given, of the interface; null when there is none.
-    const xmlNode* find( bool in_bAnalog, unsigned int in_uBoardId, std::optional<unsigned int> in_uInterfaceId );
+    const Place& find( bool in_bAnalog, unsigned int in_uBoardId, std::optional<unsigned int> in_uInterfaceId );
 
 private:
     using Key = std::tuple<bool, unsigned int, std::optional<unsigned int>>;
@@ -24,7 +30,7 @@ private:
 
     const xmlNode* m_pRoot;
     bool m_bGathered = false;
-    std::map<Key, const xmlNode*> m_mapElements;
+    std::map<Key, Place> m_mapElements;
 };
 
 } // namespace Velquin::Pstn

@@ -308,8 +308,8 @@ bool XmlConfig::Impl::crossCheck( const xmlNode* in_pRootNode ) const {
         CrossCheckFindings findings;
         const bool bAnswered = check( *m_pOwner, findings );
         for ( CrossCheckFinding& finding : findings ) {
-            const xmlNode* const pElement = locator.find( finding.bAnalog, finding.uBoardId, finding.uInterfaceId );
-            const ElementPlace place( pElement ? pElement : in_pRootNode );
+            const auto& [pElement, strPath] = locator.find( finding.bAnalog, finding.uBoardId, finding.uInterfaceId );
+            const ElementPlace place( pElement ? pElement : in_pRootNode, strPath );
             reportFinding( getLogger(), Logger::ERROR_LEVEL, std::move( finding.strText ), __FILE__, __LINE__ );
         }
         if ( !bAnswered )
