@@ -193,9 +193,11 @@ TEST( HostileFiles, ThatAreNoRegularFilesAreNotOpened ) {
         { strFolder + "none", "No such file or directory" } };
     if ( geteuid() != 0 ) // who may read everything
         vecPaths.emplace_back( strFolder + "secret", "Permission denied" );
-    for ( const auto& [strPath, szWhy] : vecPaths ) {
+    for ( const auto& path : vecPaths ) {
+        const std::string& strPath = path.first;
         XmlConfig config;
-        const std::string strCause = std::string( "ERROR XmlConfig: Can't read, " ) + szWhy + " in file " + strPath + ".";
+        const std::string strCause =
+            std::string( "ERROR XmlConfig: Can't read, " ) + path.second + " in file " + strPath + ".";
         EXPECT_EQ( join( load( config, strPath, SCHEMA ).vecLines ),
                    join( { strCause, "ERROR XmlConfig: failed to parse XML file " + strPath } ) );
         EXPECT_EQ( join( load( config, DATA_FOLDER + std::string( "/complete.xml" ), strPath ).vecLines ),
