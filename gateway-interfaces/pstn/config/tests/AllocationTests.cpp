@@ -255,6 +255,7 @@ TEST( AllocationFailures, OfTheLibraryEndALoadWell ) {
             }
             return bLoaded;
         };
+        captureLines( [&] { loadFile(); } ); // makes the loggers; without memory for one, its first line is lost
         // An analog trunk whose disconnect supervision can't be read does without, as after a wrong value there; of
         // such a value, the only line may be the one that there is no memory for.
         const bool bWithWrongValue = document.strName.starts_with( "SupervisionDisconnect" );

@@ -70,8 +70,12 @@ std::string generate( const HostileCase& in_case ) {
                 const std::string strText = expand( match[2] );
                 const unsigned long uTimes = std::stoul( match[1] );
                 for ( unsigned long u = 0; u < uTimes; ++u ) {
-                    for ( const char c : strText )
-                        strAll += c == '#' ? std::to_string( u ) : std::string( 1, c );
+                    for ( const char c : strText ) {
+                        if ( c == '#' )
+                            strAll += std::to_string( u );
+                        else
+                            strAll += c;
+                    }
                 }
             }
         }
