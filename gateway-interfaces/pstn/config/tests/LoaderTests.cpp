@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <fstream>
 
 #include <libxml/parser.h>
@@ -54,81 +53,7 @@ TEST( Loader, FindsSectionsWhateverTheirOrder ) {
     EXPECT_FALSE( config.getProviderConfig( "tirvana" ).isNull() );
 }
 
-// ---- Files that can't be loaded
-
-namespace {
-
-struct FileCase {
-    std::string strName;
-    std::string strContent;
-    std::vector<std::string> vecLines; ///< before the line of the loader
-};
-
-const std::vector<FileCase> FILE_CASES{
-    { "Empty", "", { "Document is empty in file {file} at line 1." } },
-    { "Truncated",
-      "<pstnConfig>\n<boards>\n<board",
-      { "Couldn't find end of Start Tag board line 3 in file {file} at line 3.",
-        "Premature end of data in tag boards line 2 in file {file} at line 3." } },
-    { "NoUtf8",
-      "<pstnConfig\nversion=\"\xe9\"/>",
-      { "Input is not proper UTF-8, indicate encoding ! Bytes: 0xE9 0x22 0x2F 0x3E in file {file} at line 2." } },
-    { "EncodingUnknown",
-      "<?xml version=\"1.0\" encoding=\"NONE-1\"?>\n<a/>",
-      { "Unsupported encoding NONE-1 in file {file} at line 1." } },
-    { "NoXml", "display name", { "Start tag expected, '<' not found in file {file} at line 1." } },
-    { "EntityInternal",
-      "<!DOCTYPE a [\n<!ENTITY b \"c\">]>\n<a>&b;</a>",
-      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 2." } },
-    { "EntityExternal",
-      "<!DOCTYPE a [<!ENTITY b SYSTEM \"file:///etc/hostname\">]>\n<a>&b;</a>",
-      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 1." } },
-    { "EntityUnparsed",
-      "<!DOCTYPE a [<!NOTATION n SYSTEM \"n\"><!ENTITY b SYSTEM \"b\" NDATA n>]>\n<a/>",
-      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 1." } },
-    // The two bombs would keep libxml2 busy for hours.
-    { "EntityBombOfParameterEntities",
-      "<!DOCTYPE a [<!ENTITY % p0 \"x\"><!ENTITY % p1 \"%p0;%p0;\">%p1;]><a/>",
-      { "Entity declarations are not allowed, entity \"p0\" declared in file {file} at line 1." } },
-    { "EntityBombInAttribute",
-      "<!DOCTYPE a [<!ENTITY b \"" + std::string( 10000, 'x' ) + "\">]><a c=\"&b;&b;&b;\"/>",
-      { "Entity declarations are not allowed, entity \"b\" declared in file {file} at line 1." } },
-};
-
-} // namespace
-
-TEST( Loader, RefusesFilesThatAreNoDocument ) {
-    for ( const FileCase& one : FILE_CASES ) {
-        SCOPED_TRACE( one.strName );
-        const TemporaryFile file( one.strContent );
-        std::vector<std::string> vecExpected;
-        for ( const std::string& strLine : one.vecLines )
-            vecExpected.push_back( "ERROR XmlConfig: " + TestDocument( "" ).expand( strLine, file.getPath() ) );
-        vecExpected.push_back( "ERROR XmlConfig: failed to parse XML file " + file.getPath() );
-        XmlConfig config;
-        testing::internal::CaptureStderr();
-        const LoadResult result = load( config, file.getPath(), SCHEMA );
-        EXPECT_EQ( testing::internal::GetCapturedStderr(), "" );
-        EXPECT_FALSE( result.bValid );
-        EXPECT_EQ( join( result.vecLines ), join( vecExpected ) );
-    }
-}
-
-TEST( Loader, RefusesWhatIsNoRegularFile ) {
-    const std::string strFolder = std::filesystem::temp_directory_path().string();
-    for ( const auto& paths : { std::pair<std::string, std::string>( strFolder, "it is not a regular file" ),
-                                { strFolder + "/no such file", "No such file or directory" } } ) {
-        const std::string& strPath = paths.first;
-        XmlConfig config;
-        const std::string strCause = "ERROR XmlConfig: Can't read, " + paths.second + " in file " + strPath + ".";
-        EXPECT_EQ( join( load( config, strPath, SCHEMA ).vecLines ),
-                   join( { strCause, "ERROR XmlConfig: failed to parse XML file " + strPath } ) );
-        EXPECT_EQ( join( load( config, DATA_FOLDER + std::string( "/complete.xml" ), strPath ).vecLines ),
-                   join( { strCause, "ERROR XmlConfig: failed to load the schema file : " + strPath } ) );
-        EXPECT_EQ( join( captureLines( [&] { config.load( strPath.c_str(), SCHEMA, true ); } ) ),
-                   join( { "ERROR XmlConfig: failed to open PSTN configuration file: " + strPath } ) );
-    }
-}
+// ---- Schemas that can't be used
 
 TEST( Loader, RefusesSchemasThatAreNone ) {
     struct SchemaCase {

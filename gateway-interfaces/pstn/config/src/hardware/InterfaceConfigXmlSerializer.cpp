@@ -40,8 +40,8 @@ InterfaceConfig* InterfaceConfigXmlSerializer::read( xmlNode* const in_pElement,
         return nullptr;
     }
     // The identifiers are composed at their first use; the model may be shared between threads by then.
-    pInterfaceConfig->getUniqueId( true );
-    pInterfaceConfig->getUniqueId( false );
+    if ( *pInterfaceConfig->getUniqueId( true ) == '\0' || *pInterfaceConfig->getUniqueId( false ) == '\0' )
+        return nullptr; // memory ended, which is told
     return pInterfaceConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

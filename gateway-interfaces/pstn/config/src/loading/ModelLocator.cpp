@@ -9,32 +9,53 @@
 
 namespace Velquin::Pstn {
 
-namespace {
-
-template <class Elements>
-const xmlNode* findElement( const Elements& in_elements, unsigned int in_uId ) {
-    const auto isBefore = []( const auto& in_element, unsigned int in_uOther ) { return in_element.first < in_uOther; };
-    const auto it = std::lower_bound( in_elements.begin(), in_elements.end(), in_uId, isBefore );
-    return it != in_elements.end() && it->first == in_uId ? it->second : nullptr;
-}
-
-} // namespace
-
-const xmlNode* ModelLocator::find( bool in_bAnalog, unsigned int in_uBoardId,
-                                   std::optional<unsigned int> in_uInterfaceId ) {
+ModelLocator::Place ModelLocator::find( bool in_bAnalog, unsigned int in_uBoardId,
+                                        std::optional<unsigned int> in_uInterfaceId ) {
     if ( !m_bGathered )
         gatherBoards();
-    const xmlNode* const pBoard = findElement( in_bAnalog ? m_analogBoards : m_digitalBoards, in_uBoardId );
-    if ( !pBoard || !in_uInterfaceId )
-        return pBoard;
-    const auto [it, bNew] = m_mapInterfaces.try_emplace( pBoard );
-    Elements& interfaces = it->second;
-    if ( bNew ) {
-        for ( const xmlNode* const pInterface : ChildElements( pBoard ) )
-            interfaces.emplace_back( getElementId( pInterface ), pInterface );
-        std::sort( interfaces.begin(), interfaces.end() );
+    const Element* const pBoard = find( in_bAnalog ? m_analogBoards : m_digitalBoards, in_uBoardId );
+    if ( !pBoard )
+        return {};
+    const std::string strBoardPath = composePath( m_strPathOfBoards, *pBoard );
+    if ( !in_uInterfaceId )
+        return { pBoard->pElement, strBoardPath };
+    const auto [it, bNew] = m_mapInterfaces.try_emplace( pBoard->pElement );
+    if ( bNew )
+        it->second = gather( pBoard->pElement );
+    const Element* const pInterface = find( it->second, *in_uInterfaceId );
+    return pInterface ? Place{ pInterface->pElement, composePath( strBoardPath, *pInterface ) } : Place{};
+}
+
+ModelLocator::Elements ModelLocator::gather( const xmlNode* in_pParent ) {
+    // libxml2 would count the siblings again for each path.
+    std::map<std::string_view, unsigned long> mapCounts;
+    Elements elements;
+    for ( const xmlNode* const pElement : ChildElements( in_pParent ) )
+        elements.push_back( { getElementId( pElement ), pElement, ++mapCounts[fromXml( pElement->name )] } );
+    for ( Element& element : elements ) {
+        if ( mapCounts[fromXml( element.pElement->name )] == 1 )
+            element.ulPosition = 0;
     }
-    return findElement( interfaces, *in_uInterfaceId );
+    std::sort( elements.begin(), elements.end(),
+               []( const Element& in_x, const Element& in_y ) { return in_x.uId < in_y.uId; } );
+    return elements;
+}
+
+const ModelLocator::Element* ModelLocator::find( const Elements& in_elements, unsigned int in_uId ) {
+    const auto isBefore = []( const Element& in_element, unsigned int in_uOther ) {
+        return in_element.uId < in_uOther;
+    };
+    const auto it = std::lower_bound( in_elements.begin(), in_elements.end(), in_uId, isBefore );
+    return it != in_elements.end() && it->uId == in_uId ? &*it : nullptr;
+}
+
+std::string ModelLocator::composePath( const std::string& in_strParent, const Element& in_element ) {
+    if ( in_element.pElement->ns )
+        return getElementPath( in_element.pElement );
+    std::string strPath = in_strParent + "/" + fromXml( in_element.pElement->name );
+    if ( in_element.ulPosition != 0 )
+        strPath.append( "[" ).append( std::to_string( in_element.ulPosition ) ).append( "]" );
+    return strPath;
 }
 
 void ModelLocator::gatherBoards() {
@@ -42,12 +63,11 @@ void ModelLocator::gatherBoards() {
     const xmlNode* const pBoards = XML::findFirstElement( m_pRoot, "boards" );
     if ( !pBoards )
         return;
-    for ( const xmlNode* const pBoard : ChildElements( pBoards ) ) {
-        const bool bAnalog = std::string_view( fromXml( pBoard->name ) ) == "tirvanaAnalogBoard";
-        ( bAnalog ? m_analogBoards : m_digitalBoards ).emplace_back( getElementId( pBoard ), pBoard );
+    m_strPathOfBoards = getElementPath( pBoards );
+    for ( const Element& board : gather( pBoards ) ) {
+        const bool bAnalog = std::string_view( fromXml( board.pElement->name ) ) == "tirvanaAnalogBoard";
+        ( bAnalog ? m_analogBoards : m_digitalBoards ).push_back( board );
     }
-    std::sort( m_analogBoards.begin(), m_analogBoards.end() );
-    std::sort( m_digitalBoards.begin(), m_digitalBoards.end() );
 }
 
 } // namespace Velquin::Pstn

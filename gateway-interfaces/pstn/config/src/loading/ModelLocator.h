@@ -2,7 +2,7 @@
 
 #include <map>
 #include <optional>
-#include <utility>
+#include <string>
 #include <vector>
 
 #include <libxml/tree.h>
@@ -13,18 +13,33 @@ namespace Velquin::Pstn {
 /// board: only a model that is at fault is asked about.
 class ModelLocator {
 public:
+    struct Place {
+        const xmlNode* pElement = nullptr; ///< null when there is none
+        std::string strPath;               ///< the element's XPath
+    };
+
     explicit ModelLocator( const xmlNode* in_pRoot ) noexcept : m_pRoot( in_pRoot ) {}
 
-    /// The element of the board or, when its identifier is given, of the interface; null when there is none.
-    const xmlNode* find( bool in_bAnalog, unsigned int in_uBoardId, std::optional<unsigned int> in_uInterfaceId );
+    /// The place of the board or, when its identifier is given, of the interface.
+    Place find( bool in_bAnalog, unsigned int in_uBoardId, std::optional<unsigned int> in_uInterfaceId );
 
 private:
-    using Elements = std::vector<std::pair<unsigned int, const xmlNode*>>; ///< ascending by identifier
+    struct Element {
+        unsigned int uId;
+        const xmlNode* pElement;
+        unsigned long ulPosition; ///< among the siblings of its name, from 1; 0 when it has none
+    };
+    using Elements = std::vector<Element>; ///< ascending by identifier
+
+    static Elements gather( const xmlNode* in_pParent );
+    static const Element* find( const Elements& in_elements, unsigned int in_uId );
+    static std::string composePath( const std::string& in_strParent, const Element& in_element );
 
     void gatherBoards();
 
     const xmlNode* m_pRoot;
     bool m_bGathered = false;
+    std::string m_strPathOfBoards;
     Elements m_analogBoards;
     Elements m_digitalBoards;
     std::map<const xmlNode*, Elements> m_mapInterfaces; ///< of the boards that were asked about

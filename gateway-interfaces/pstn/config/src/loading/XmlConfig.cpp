@@ -204,7 +204,11 @@ XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFi
         VELQUIN_REPORT_ERROR( getLogger(), "failed to parse XML file " << in_szConfigFile );
         return nullptr;
     }
-    if ( xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) != 0 || errorRoute.isOutOfMemory() ) {
+    // Of a document that has a URL, libxml2 walks over all preceding siblings for every error.
+    XmlStringPtr pUrl( const_cast<xmlChar*>( std::exchange( pDocument->URL, nullptr ) ) );
+    const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) == 0;
+    pDocument->URL = pUrl.release();
+    if ( !bValid || errorRoute.isOutOfMemory() ) {
         SchemaAdvisor advisor( pSchemaDocument.get() );
         for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
             advisor.advise( pElement, getLogger() );
@@ -318,8 +322,8 @@ bool XmlConfig::Impl::crossCheck( const xmlNode* in_pRootNode ) const {
         CrossCheckFindings findings;
         check( subject, findings );
         for ( CrossCheckFinding& finding : findings ) {
-            const xmlNode* const pElement = locator.find( finding.bAnalog, finding.uBoardId, finding.uInterfaceId );
-            const ElementPlace place( pElement ? pElement : in_pRootNode );
+            const auto [pElement, strPath] = locator.find( finding.bAnalog, finding.uBoardId, finding.uInterfaceId );
+            const ElementPlace place( pElement ? pElement : in_pRootNode, strPath );
             reportFinding( getLogger(), Logger::ERROR_LEVEL, std::move( finding.strText ), __FILE__, __LINE__ );
         }
         bSound = bSound && findings.empty();

@@ -147,6 +147,8 @@ void AttributeReader::assertKeyword( const char* in_szAttribute, std::string_vie
 }
 
 void ElementPlace::locate( Finding& inout_finding ) const {
+    if ( inout_finding.strElementPath.empty() )
+        inout_finding.strElementPath = m_strPath;
     locateElement( m_pElement, inout_finding );
 }
 

@@ -207,12 +207,15 @@ private:
 /// The element whose reading the model's operations take part in: the place of what they refuse.
 class ElementPlace : private FindingPlace {
 public:
-    explicit ElementPlace( const xmlNode* in_pElement ) noexcept : m_pElement( in_pElement ) {}
+    /// @param in_strPath the element's path where it is known; a text that outlives the object
+    explicit ElementPlace( const xmlNode* in_pElement, std::string_view in_strPath = {} ) noexcept
+        : m_pElement( in_pElement ), m_strPath( in_strPath ) {}
 
 private:
     void locate( Finding& inout_finding ) const override;
 
     const xmlNode* m_pElement;
+    std::string_view m_strPath;
 };
 
 /// Stands between libxml2 and a reader for as long as the reader works on its element: reads attributes and children,

@@ -16,6 +16,8 @@ namespace Velquin::Pstn {
 
 namespace {
 
+constexpr unsigned int MAX_ERRORS = 100;
+
 /// libxml2's messages end with a line break, and some go over several lines.
 std::string toOneLine( const char* in_szMessage ) {
     std::string strLine = in_szMessage ? in_szMessage : "unknown error of libxml2";
@@ -76,7 +78,10 @@ void reportInFile( const Logger& in_logger, Finding in_finding ) {
     reportFinding( in_logger, std::move( in_finding ), __FILE__, __LINE__ );
 }
 
-void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError& in_error, const char* in_szFile ) {
+void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError& in_error, const char* in_szFile,
+                         unsigned int& inout_uErrors ) {
+    if ( inout_uErrors > MAX_ERRORS )
+        return;
     Finding finding;
     finding.strFile = in_error.file && in_error.file[0] != '\0' ? in_error.file : in_szFile;
     finding.ullLine = in_error.line > 0 ? static_cast<unsigned long long>( in_error.line ) : 0;
@@ -87,7 +92,10 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
         if ( const char* const szFile = getElementFile( pNode ); *szFile != '\0' )
             finding.strFile = szFile;
     }
-    reportMessage( in_logger, in_nLevel, in_error.message, std::move( finding ) );
+    const bool bLast = ++inout_uErrors > MAX_ERRORS;
+    reportMessage( in_logger, bLast ? Logger::ERROR_LEVEL : in_nLevel,
+                   bLast ? "Too many errors, this one and the rest are not listed" : in_error.message,
+                   std::move( finding ) );
 }
 
 LibXml2ErrorRoute::LibXml2ErrorRoute( const Logger& in_logger, std::string in_strFile )
@@ -110,9 +118,10 @@ void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, xmlError* in_pError 
     auto& route = *static_cast<LibXml2ErrorRoute*>( in_pRoute );
     route.m_bOutOfMemory = route.m_bOutOfMemory || in_pError->code == XML_ERR_NO_MEMORY;
     try {
-        reportLibXml2Error( route.m_logger, Logger::ERROR_LEVEL, *in_pError, route.m_strFile.c_str() );
+        reportLibXml2Error( route.m_logger, Logger::ERROR_LEVEL, *in_pError, route.m_strFile.c_str(), route.m_uErrors );
         auto& vecElements = route.m_vecWrongAttributes;
-        xmlNode* const pElement = isAboutAttributes( *in_pError ) ? getElement( *in_pError ) : nullptr;
+        const bool bAdvise = route.m_uErrors <= MAX_ERRORS && isAboutAttributes( *in_pError );
+        xmlNode* const pElement = bAdvise ? getElement( *in_pError ) : nullptr;
         if ( pElement && std::find( vecElements.begin(), vecElements.end(), pElement ) == vecElements.end() )
             vecElements.push_back( pElement );
     } catch ( ... ) {

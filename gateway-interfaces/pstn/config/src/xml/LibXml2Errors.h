@@ -14,9 +14,11 @@ namespace Velquin::Pstn {
 /// Reports a finding about a file as a whole or a line of it: its message, with file and line in the log line too.
 void reportInFile( const Logger& in_logger, Finding in_finding );
 
-/// Reports what libxml2 found: its message, with file and line in the log line too.
+/// Reports what libxml2 found: its message, with file and line in the log line too. Of a flood, the first hundred.
 /// @param in_szFile the file that is meant when the error names none
-void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError& in_error, const char* in_szFile );
+/// @param inout_uErrors how many there were before, 0 at first
+void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError& in_error, const char* in_szFile,
+                         unsigned int& inout_uErrors );
 
 /// Routes to a logger, at ERROR, what libxml2 reports on this thread, for as long as the object lives; then puts the
 /// program's own handlers back. It also serves as the context of libxml2's structured callbacks.
@@ -31,7 +33,7 @@ public:
     /// Whether memory ended: libxml2's own verdict means nothing then.
     bool isOutOfMemory() const noexcept { return m_bOutOfMemory; }
 
-    /// The elements whose attributes validation refused, each once.
+    /// The elements whose attributes validation refused, each once, as far as they were reported.
     const std::vector<xmlNode*>& getElementsWithWrongAttributes() const noexcept { return m_vecWrongAttributes; }
 
     /// A structured error callback of libxml2, whose context is a LibXml2ErrorRoute.
@@ -40,6 +42,7 @@ public:
 private:
     const Logger& m_logger;
     std::string m_strFile;
+    unsigned int m_uErrors = 0;
     bool m_bOutOfMemory = false;
     std::vector<xmlNode*> m_vecWrongAttributes;
     xmlStructuredErrorFunc m_pOuterStructuredError;

@@ -16,12 +16,22 @@ namespace Velquin::Pstn {
 
 namespace {
 
+// libxml2 compares each of these with all others that it has seen, before any callback hears of the first.
+constexpr int MAX_ATTRIBUTES = 1000; // of an element
+constexpr int MAX_NAMESPACES = 100;  // in scope
+constexpr int MAX_NAMES = 100000;    // different ones in a file
+constexpr std::streamsize MAX_DTD_BYTES = 16384;
+
 /// What the callbacks of one parser context share. The context holds it in `_private`.
 struct ParseState {
     const Logger& logger;
     const char* szPath;
-    std::ifstream stream;
+    const xmlParserCtxt* pContext = nullptr;
+    std::ifstream stream{};
+    std::streamsize nDtdBytes = 0;
+    unsigned int uErrors = 0;
     bool bRefused = false; // and told
+    bool bEnded = false;   // by us: what libxml2 says of the rest is about nothing in the file
 
     static ParseState& of( void* in_pContext ) {
         return *static_cast<ParseState*>( static_cast<xmlParserCtxt*>( in_pContext )->_private );
@@ -39,28 +49,62 @@ void reportFile( const ParseState& in_state, Finding::Kind in_eKind, int in_nLin
 
 /// Runs a callback's body; libxml2's C code above it must not be unwound.
 template <class Body>
-void guardCallback( void* in_pContext, Body in_body ) noexcept {
-    ParseState& state = ParseState::of( in_pContext );
+void guardCallback( ParseState& inout_state, Body in_body ) noexcept {
     try {
-        in_body( state );
+        in_body( inout_state );
     } catch ( ... ) {
-        state.bRefused = true;
-        reportCurrentException( state.logger, "readXmlDocument", __FILE__, __LINE__ );
+        inout_state.bRefused = inout_state.bEnded = true;
+        reportCurrentException( inout_state.logger, "readXmlDocument", __FILE__, __LINE__ );
     }
 }
 
 void onError( void* in_pContext, xmlError* in_pError ) {
-    guardCallback( in_pContext, [in_pError]( ParseState& in_state ) {
-        // When memory ends, libxml2 hands out what it has so far and doesn't call it ill-formed.
-        in_state.bRefused = in_state.bRefused || in_pError->level == XML_ERR_FATAL;
+    guardCallback( ParseState::of( in_pContext ), [in_pError]( ParseState& in_state ) {
+        if ( in_state.bEnded )
+            return;
+        // Without a name for its prefix, or when memory ends, libxml2 hands out what it has and calls it well-formed.
+        in_state.bRefused = in_state.bRefused || in_pError->level >= XML_ERR_ERROR;
         const int nLevel = in_pError->level == XML_ERR_WARNING ? Logger::WARNING_LEVEL : Logger::ERROR_LEVEL;
-        reportLibXml2Error( in_state.logger, nLevel, *in_pError, in_state.szPath );
+        reportLibXml2Error( in_state.logger, nLevel, *in_pError, in_state.szPath, in_state.uErrors );
     } );
+}
+
+/// Reports why the file is refused, once. The caller sees to it that parsing ends.
+void refuse( ParseState& inout_state, std::string in_strWhy ) {
+    if ( !inout_state.bEnded )
+        reportFile( inout_state, Finding::Kind::OTHER,
+                    inout_state.pContext->input ? inout_state.pContext->input->line : 0, std::move( in_strWhy ) );
+    inout_state.bRefused = inout_state.bEnded = true;
+}
+
+/// What the file has too much of; null when of nothing.
+/// @param in_nAttributes of the present start tag, as far as they are known
+const char* findExcess( const ParseState& in_state, int in_nAttributes ) {
+    if ( in_nAttributes > MAX_ATTRIBUTES )
+        return "An element has more than 1000 attributes";
+    if ( in_state.pContext->nsNr > 2 * MAX_NAMESPACES ) // prefix and URI
+        return "More than 100 namespaces are declared";
+    if ( xmlDictSize( in_state.pContext->dict ) > MAX_NAMES )
+        return "The file has more than 100000 different names";
+    if ( in_state.nDtdBytes > MAX_DTD_BYTES )
+        return "The document type declaration is longer than 16384 bytes";
+    return nullptr;
+}
+
+template <class Why>
+void refuseAndStop( void* in_pContext, Why in_why ) {
+    guardCallback( ParseState::of( in_pContext ),
+                   [in_why]( ParseState& inout_state ) { refuse( inout_state, in_why() ); } );
+    xmlStopParser( static_cast<xmlParserCtxt*>( in_pContext ) );
 }
 
 void onStartElement( void* in_pContext, const xmlChar* in_szName, const xmlChar* in_szPrefix, const xmlChar* in_szUri,
                      int in_nNamespaces, const xmlChar** in_aszNamespaces, int in_nAttributes, int in_nDefaulted,
                      const xmlChar** in_aszAttributes ) {
+    if ( const char* const szExcess = findExcess( ParseState::of( in_pContext ), in_nAttributes ) ) {
+        refuseAndStop( in_pContext, [szExcess] { return szExcess; } );
+        return;
+    }
     auto* const pContext = static_cast<xmlParserCtxt*>( in_pContext );
     // Not to look for identifiers (`xml:id`) among the attributes of every element; reading clears it at its start.
     pContext->loadsubset |= XML_SKIP_IDS;
@@ -71,16 +115,9 @@ void onStartElement( void* in_pContext, const xmlChar* in_szName, const xmlChar*
 }
 
 void refuseEntity( void* in_pContext, const xmlChar* in_szName ) {
-    auto* const pContext = static_cast<xmlParserCtxt*>( in_pContext );
-    guardCallback( in_pContext, [pContext, in_szName]( ParseState& inout_state ) {
-        if ( inout_state.bRefused )
-            return;
-        inout_state.bRefused = true;
-        reportFile( inout_state, Finding::Kind::OTHER, pContext->input ? pContext->input->line : 0,
-                    std::string( "Entity declarations are not allowed, entity \"" ) + fromXml( in_szName ) +
-                        "\" declared" );
+    refuseAndStop( in_pContext, [in_szName] {
+        return std::string( "Entity declarations are not allowed, entity \"" ) + fromXml( in_szName ) + "\" declared";
     } );
-    xmlStopParser( pContext );
 }
 
 void onEntityDeclaration( void* in_pContext, const xmlChar* in_szName, int, const xmlChar*, const xmlChar*, xmlChar* ) {
@@ -92,9 +129,30 @@ void onUnparsedEntityDeclaration( void* in_pContext, const xmlChar* in_szName, c
     refuseEntity( in_pContext, in_szName );
 }
 
+void onAttributeDeclaration( void* in_pContext, const xmlChar* in_szElement, const xmlChar* in_szName, int in_nType,
+                             int in_nDefault, const xmlChar* in_szDefault, xmlEnumeration* in_pValues ) {
+    if ( !in_szDefault ) {
+        xmlSAX2AttributeDecl( in_pContext, in_szElement, in_szName, in_nType, in_nDefault, in_szDefault, in_pValues );
+        return;
+    }
+    xmlFreeEnumeration( in_pValues );
+    refuseAndStop( in_pContext, [in_szName] {
+        return std::string( "Default values of attributes are not allowed, attribute \"" ) + fromXml( in_szName ) +
+               "\" has one";
+    } );
+}
+
 int readChunk( void* in_pState, char* out_pBuffer, int in_nSize ) {
     auto& state = *static_cast<ParseState*>( in_pState );
+    // libxml2 asks for a few thousand bytes at a time, amid a start tag too. It makes room for attributes by doubling.
+    const int nAttributes = state.pContext->maxatts / 5 / 2;
+    if ( const char* const szExcess = findExcess( state, nAttributes ) )
+        guardCallback( state, [szExcess]( ParseState& inout_state ) { refuse( inout_state, szExcess ); } );
+    if ( state.bEnded )
+        return 0;
     state.stream.read( out_pBuffer, in_nSize );
+    if ( state.pContext->inSubset != 0 )
+        state.nDtdBytes += state.stream.gcount();
     if ( state.stream.bad() ) {
         state.bRefused = true;
         return -1;
@@ -105,7 +163,7 @@ int readChunk( void* in_pState, char* out_pBuffer, int in_nSize ) {
 } // namespace
 
 XmlDocPtr readXmlDocument( const char* in_szPath, const Logger& in_logger ) {
-    ParseState state{ in_logger, in_szPath, {} };
+    ParseState state{ in_logger, in_szPath };
     if ( const std::string strWhy = openInputFile( in_szPath, state.stream ); !strWhy.empty() ) {
         reportFile( state, Finding::Kind::UNREADABLE_FILE, 0, "Can't read, " + strWhy );
         return nullptr;
@@ -114,15 +172,20 @@ XmlDocPtr readXmlDocument( const char* in_szPath, const Logger& in_logger ) {
     if ( !pContext )
         throw std::bad_alloc();
     pContext->_private = &state;
+    state.pContext = pContext.get();
     pContext->sax->serror = &onError;
     pContext->sax->startElementNs = &onStartElement;
     pContext->sax->entityDecl = &onEntityDeclaration;
     pContext->sax->unparsedEntityDecl = &onUnparsedEntityDeclaration;
+    pContext->sax->attributeDecl = &onAttributeDeclaration;
 
     XmlDocPtr pDocument( xmlCtxtReadIO( pContext.get(), &readChunk, nullptr, &state, in_szPath, nullptr,
                                         XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_NOBLANKS ) );
     if ( state.stream.bad() )
         reportFile( state, Finding::Kind::UNREADABLE_FILE, 0, "Can't read to the end" );
+    // libxml2 takes a NUL character for the file's end.
+    if ( const xmlParserInput* const pRest = pContext->input; pRest && pRest->cur < pRest->end && *pRest->cur == 0 )
+        refuse( state, "NUL character" );
     if ( !pDocument || state.bRefused )
         return nullptr;
     // libxml2 keeps a URI, escaped; messages name the file as the program named it.

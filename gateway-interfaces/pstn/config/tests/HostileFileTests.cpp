@@ -1,0 +1,216 @@
+#include <algorithm>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include "ConfigTest.h"
+
+// Files made to harm: each is refused with clear lines, or loads, in a time and a memory that its own size bounds.
+
+#if defined( __has_feature )
+#if __has_feature( address_sanitizer ) || __has_feature( thread_sanitizer )
+#define COSTS_ARE_THE_SANITIZERS
+#endif
+#endif
+#if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ )
+#define COSTS_ARE_THE_SANITIZERS
+#endif
+
+namespace Velquin::Pstn::Test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct HostileCase {
+    std::string strName;
+    std::size_t uMemory = 0;
+    std::string strEncoding;
+    std::string strTemplate;
+    std::vector<std::string> vecLines;
+};
+
+std::vector<HostileCase> readHostileCases() {
+    std::ifstream stream( std::string( DATA_FOLDER ) + "/cases/hostile.files" );
+    std::vector<HostileCase> vecCases;
+    for ( std::string strLine; std::getline( stream, strLine ); ) {
+        const std::string strText = strLine.size() > 2 ? strLine.substr( 2 ) : "";
+        if ( strLine.starts_with( "case " ) ) {
+            HostileCase& one = vecCases.emplace_back();
+            std::istringstream( strLine.substr( 5 ) ) >> one.strName >> one.uMemory >> one.strEncoding;
+        } else if ( strLine.starts_with( '<' ) ) {
+            std::string& strTemplate = vecCases.back().strTemplate;
+            strTemplate += ( strTemplate.empty() ? "" : "\n" ) + strText;
+        } else if ( strLine.starts_with( '>' ) ) {
+            vecCases.back().vecLines.push_back( strText );
+        }
+    }
+    return vecCases;
+}
+
+std::string generate( const HostileCase& in_case ) {
+    static const std::regex s_regex( R"(\{(\d+)\*([^{}]*)\}|\{end\}|\\x([0-9a-f]{2}))" );
+    const std::function<std::string( const std::string& )> expand = [&]( const std::string& in_strTemplate ) {
+        std::string strAll;
+        std::string strRest = in_strTemplate;
+        for ( std::smatch match; std::regex_search( strRest, match, s_regex ); strRest = match.suffix().str() ) {
+            strAll += match.prefix();
+            if ( match[3].matched ) {
+                strAll += static_cast<char>( std::stoi( match[3], nullptr, 16 ) );
+            } else if ( !match[1].matched ) {
+                strAll += "<callControl><channelGroups/></callControl></pstnConfig>";
+            } else {
+                const std::string strText = expand( match[2] );
+                const unsigned long uTimes = std::stoul( match[1] );
+                for ( unsigned long u = 0; u < uTimes; ++u ) {
+                    for ( const char c : strText ) {
+                        if ( c == '#' )
+                            strAll += std::to_string( u );
+                        else
+                            strAll += c;
+                    }
+                }
+            }
+        }
+        return strAll + strRest;
+    };
+    const std::string strText = expand( in_case.strTemplate );
+    if ( in_case.strEncoding.empty() )
+        return strText;
+    const bool bBigEndian = in_case.strEncoding == "utf16be";
+    std::string strWide = bBigEndian ? "\xfe\xff" : "\xff\xfe";
+    for ( const char c : strText )
+        strWide.append( bBigEndian ? std::string{ '\0', c } : std::string{ c, '\0' } );
+    return strWide;
+}
+
+/// What an operation takes of processor and memory.
+class Cost {
+public:
+    Cost() { std::ofstream( "/proc/self/clear_refs" ) << 5; } // the peak begins anew
+    double getSeconds() const { return static_cast<double>( std::clock() - m_begin ) / CLOCKS_PER_SEC; }
+    std::size_t getPeakBytes() const { return getBytes( "VmHWM:" ) - std::min( m_uBefore, getBytes( "VmHWM:" ) ); }
+
+private:
+    static std::size_t getBytes( const std::string& in_strWhat ) {
+        std::ifstream status( "/proc/self/status" );
+        for ( std::string strWord; status >> strWord; ) {
+            std::size_t uKilobytes = 0;
+            if ( strWord == in_strWhat && status >> uKilobytes )
+                return uKilobytes * 1024;
+        }
+        return 0;
+    }
+
+    std::clock_t m_begin = std::clock();
+    std::size_t m_uBefore = getBytes( "VmRSS:" );
+};
+
+void expectBounded( [[maybe_unused]] const Cost& in_cost, [[maybe_unused]] std::size_t in_uBytes,
+                    [[maybe_unused]] std::size_t in_uMemory ) {
+#ifndef COSTS_ARE_THE_SANITIZERS
+    EXPECT_LT( in_cost.getSeconds(), 1 + 0.5e-6 * static_cast<double>( in_uBytes ) );
+    EXPECT_LT( in_cost.getPeakBytes(), 4000000 + in_uMemory * in_uBytes );
+#endif
+}
+
+} // namespace
+
+TEST( HostileFiles, EndInClearLinesAndBoundedCost ) {
+    for ( const HostileCase& one : readHostileCases() ) {
+        SCOPED_TRACE( one.strName );
+        const TemporaryFile file( generate( one ) );
+        const std::size_t uBytes = fs::file_size( file.getPath() );
+        testing::internal::CaptureStderr();
+        const Cost cost;
+        LoadResult result;
+        {
+            XmlConfig config;
+            result = load( config, file.getPath(), SCHEMA );
+        }
+        expectBounded( cost, uBytes, one.uMemory );
+        EXPECT_EQ( result.bValid, one.vecLines.empty() );
+        EXPECT_EQ( result.vecLines.empty(), one.vecLines.empty() );
+        for ( std::size_t u = 0; u < one.vecLines.size() && u < result.vecLines.size(); ++u ) {
+            const std::string strExpected = TestDocument( "" ).expand( one.vecLines[u], file.getPath() );
+            EXPECT_EQ( result.vecLines[u].substr( 0, strExpected.size() ), strExpected );
+        }
+        if ( one.strName != "FloodOfFaultsToCrossCheck" ) { // there each interface has its line
+            EXPECT_LT( result.vecLines.size(), 500U );
+        }
+
+        const Cost costAsSchema;
+        XmlConfig config;
+        result = load( config, std::string( DATA_FOLDER ) + "/complete.xml", file.getPath() );
+        expectBounded( costAsSchema, uBytes, 2 * one.uMemory ); // libxml2 compiles a copy
+        EXPECT_FALSE( result.bValid );
+        EXPECT_FALSE( result.vecLines.empty() );
+        EXPECT_EQ( testing::internal::GetCapturedStderr(), "" );
+    }
+}
+
+TEST( HostileFiles, TruncatedAnywhereAreRefusedWithALine ) {
+    std::ostringstream text;
+    text << std::ifstream( std::string( EXAMPLES_FOLDER ) + "/e1-trunks.xml" ).rdbuf();
+    const TemporaryFile file( text.str() );
+    for ( std::size_t uEnd = text.str().rfind( '>' ), u = uEnd + 2; u-- > 0; ) {
+        fs::resize_file( file.getPath(), u );
+        XmlConfig config;
+        const LoadResult result = load( config, file.getPath() );
+        ASSERT_EQ( result.bValid, u > uEnd ) << u;
+        const std::string strPlace = " in file " + file.getPath() + " at line ";
+        ASSERT_TRUE( result.bValid || result.vecLines.at( 0 ).find( strPlace ) != std::string::npos ) << u;
+    }
+}
+
+TEST( HostileFiles, ThatAreNoRegularFilesAreNotOpened ) {
+    const TemporaryFile folder( "" ); // its name, for a folder that is removed with all that is in it
+    const std::string strFolder = folder.getPath() + ".d/";
+    fs::create_directory( strFolder );
+    EXPECT_EQ( mkfifo( ( strFolder + "fifo" ).c_str(), 0600 ), 0 );
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    ( strFolder + "socket" ).copy( address.sun_path, sizeof( address.sun_path ) - 1 );
+    const int nSocket = socket( AF_UNIX, SOCK_STREAM, 0 );
+    EXPECT_EQ( bind( nSocket, reinterpret_cast<const sockaddr*>( &address ), sizeof( address ) ), 0 );
+    fs::create_symlink( "/dev/zero", strFolder + "link" );
+    fs::create_symlink( "circle", strFolder + "circle" );
+    std::ofstream( strFolder + "secret" ) << "<a/>";
+    fs::permissions( strFolder + "secret", fs::perms::none );
+
+    const char* const szNoFile = "it is not a regular file";
+    std::vector<std::pair<std::string, const char*>> vecPaths{
+        { strFolder, szNoFile },
+        { strFolder + "fifo", szNoFile },
+        { strFolder + "socket", szNoFile },
+        { strFolder + "link", szNoFile },
+        { "/dev/zero", szNoFile },
+        { "/dev/full", szNoFile },
+        { strFolder + "circle", "Too many levels of symbolic links" },
+        { strFolder + "none", "No such file or directory" } };
+    if ( geteuid() != 0 ) // who may read everything
+        vecPaths.emplace_back( strFolder + "secret", "Permission denied" );
+    for ( const auto& path : vecPaths ) {
+        const std::string& strPath = path.first;
+        XmlConfig config;
+        const std::string strCause =
+            std::string( "ERROR XmlConfig: Can't read, " ) + path.second + " in file " + strPath + ".";
+        EXPECT_EQ( join( load( config, strPath, SCHEMA ).vecLines ),
+                   join( { strCause, "ERROR XmlConfig: failed to parse XML file " + strPath } ) );
+        EXPECT_EQ( join( load( config, DATA_FOLDER + std::string( "/complete.xml" ), strPath ).vecLines ),
+                   join( { strCause, "ERROR XmlConfig: failed to load the schema file : " + strPath } ) );
+        EXPECT_EQ( join( captureLines( [&] { config.load( strPath.c_str(), SCHEMA, true ); } ) ),
+                   join( { "ERROR XmlConfig: failed to open PSTN configuration file: " + strPath } ) );
+    }
+    close( nSocket );
+    fs::remove_all( strFolder );
+}
+
+} // namespace Velquin::Pstn::Test
