@@ -66,12 +66,12 @@ SchemaAdvisor::SchemaAdvisor( const xmlDoc* in_pSchema ) : m_pGrammar( xmlDocGet
 }
 
 void SchemaAdvisor::advise( xmlNode* in_pElement, const Logger& in_logger ) const {
-    Rules rules;
     const Patterns vecPatterns = findPatterns( in_pElement );
+    if ( vecPatterns.empty() )
+        return;
+    Rules rules;
     for ( const xmlNode* const pPattern : vecPatterns )
         collectAttributes( pPattern, in_pElement, vecPatterns.size() == 1, rules );
-    if ( rules.empty() )
-        return;
 
     const ElementReader reader( in_pElement, in_logger, WORDING );
     for ( const auto& [strName, rule] : rules ) {
