@@ -106,10 +106,12 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( AnalogCallControlConfig().addFXOConfig( nullptr ) );
           EXPECT_FALSE( AnalogCallControlConfig().addFXSConfig( nullptr ) );
           EXPECT_FALSE( AnalogDisconnectSupervisionConfig().addDisconnectDetector( nullptr ) );
+          EXPECT_FALSE( AnalogDisconnectDetectorConfig().parseSequence( nullptr ) );
       },
       { assertion( "!pFxoConfig.isNull()", "AnalogCallControlConfig" ),
         assertion( "!pFxsConfig.isNull()", "AnalogCallControlConfig" ),
-        assertion( "!pDetectorConfig.isNull()", "AnalogDisconnectSupervisionConfig" ) } },
+        assertion( "!pDetectorConfig.isNull()", "AnalogDisconnectSupervisionConfig" ),
+        assertion( "in_szSequence != nullptr", "AnalogDisconnectDetectorConfig" ) } },
     { "AnalogOfOtherClass",
       [] {
           expectNotRead( Making<AnalogFxoConfigXmlSerializer, AnalogFxsConfig>() );

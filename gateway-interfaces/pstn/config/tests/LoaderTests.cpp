@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include <gmock/gmock.h>
 #include <libxml/parser.h>
 #include <libxml/relaxng.h>
 
@@ -145,6 +146,9 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
             SchemaCase{ strGrammar + "<start><element name=\"a\"/></start></grammar>",
                         "xmlRelaxNGParseElement: element has no content in file {file} at line 2.",
                         "Failed to parse RelaxNG schema file " },
+            SchemaCase{ strGrammar + "<start><externalRef href=\"x.rng\"/></start></grammar>",
+                        "The schema must stand in one file: element externalRef declared in file {file} at line 2.",
+                        "Failed to parse RelaxNG schema file " },
             SchemaCase{ strGrammar + "<include href=\"http://127.0.0.1/x.rng\"/></grammar>",
                         "The schema must stand in one file: element include declared in file {file} at line 2.",
                         "Failed to parse RelaxNG schema file " } } ) {
@@ -158,6 +162,24 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
                    join( { "ERROR XmlConfig: " + TestDocument( "" ).expand( one.strCause, schema.getPath() ),
                            "ERROR XmlConfig: " + one.strVerdict + schema.getPath() } ) );
     }
+}
+
+TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
+    const TemporaryFile schema( R"(<grammar xmlns="http://relaxng.org/ns/structure/1.0"
+        datatypeLibrary="http://www.w3.org/2001/XMLSchema-datatypes"><start><element name="a"><choice>
+        <group><attribute name="kind"><value>fax</value></attribute><attribute name="page"><text/></attribute></group>
+        <group><attribute name="kind"><value>call</value></attribute>
+        <attribute name="number"><data type="unsignedLong"><param name="maxInclusive">9</param></data></attribute>
+        </group></choice></element></start></grammar>)" );
+    const auto getAdvice = [&]( const char* in_szDocument ) {
+        XmlConfig config;
+        const auto vecLines = load( config, TemporaryFile( in_szDocument ).getPath(), schema.getPath() ).vecLines;
+        return vecLines.at( vecLines.size() - 2 ); // before the verdict
+    };
+    // What the other kind requires isn't missing.
+    EXPECT_THAT( getAdvice( "<a kind='call'/>" ), testing::HasSubstr( "Missing attribute [/a/number]" ) );
+    EXPECT_THAT( getAdvice( "<a kind='call' number='x'/>" ), testing::HasSubstr( "/a/number=x]" ) );
+    EXPECT_THAT( getAdvice( "<a kind='fox'/>" ), testing::HasSubstr( "Valid values are fax and call." ) );
 }
 
 // ---- Lines
