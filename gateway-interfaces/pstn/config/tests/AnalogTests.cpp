@@ -86,6 +86,8 @@ void expectNullRefused() {
     EXPECT_FALSE( config.addApplyToAnalogInterfaceVector( { nullptr, nullptr } ) );
     EXPECT_TRUE( config.getApplyToAnalogInterfaces().empty() );
     EXPECT_FALSE( config.isAppliedToInterface( nullptr ) );
+    EXPECT_TRUE( config.setToneSetName( "EUROPE" ) );
+    EXPECT_STREQ( config.getToneSetName(), "EUROPE" );
 }
 
 /// Assertions of that text in that file.

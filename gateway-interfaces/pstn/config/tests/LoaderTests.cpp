@@ -167,7 +167,7 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
 TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
     const TemporaryFile schema( R"(<grammar xmlns="http://relaxng.org/ns/structure/1.0"
         datatypeLibrary="http://www.w3.org/2001/XMLSchema-datatypes"><start><element name="a"><choice>
-        <group><attribute name="kind"><value>fax</value></attribute><attribute name="page"><text/></attribute></group>
+        <group><attribute name="kind"><value>fax</value></attribute><attribute name="page"/></group>
         <group><attribute name="kind"><value>call</value></attribute>
         <attribute name="number"><data type="unsignedLong"><param name="maxInclusive">9</param></data></attribute>
         </group></choice></element></start></grammar>)" );
@@ -196,6 +196,8 @@ TEST( Loader, NamesTheTrueLineInLongFiles ) {
     };
     for ( const LineCase& one : {
               LineCase{ ANY_SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // a reader
+              LineCase{
+                  ANY_SCHEMA, { pad, { "File=\"YES\"", "File=\"yes\"" } }, "File=\"yes\"" }, // a keyword's assertion
               LineCase{ SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // validation
               LineCase{ SCHEMA,
                         { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\" tirpipe=\"2\"" } },
@@ -266,6 +268,14 @@ TEST( Loader, LogsItsStepsAndTheContent ) {
                            "\nRelaxNG schema file: " + strSchema,
                        "Validating Relax-NG file (" + strSchema + ")...", "Creating RelaxNG parser context...",
                        "Compiling RelaxNG schema file " + strSchema + "..." } ) );
+}
+
+TEST( Loader, LogsNoContentBelowItsLevel ) {
+    const Velquin::Test::LogCapture log( Logger::WARNING_LEVEL );
+    XmlConfig config;
+    EXPECT_TRUE( config.load( ( std::string( DATA_FOLDER ) + "/complete.xml" ).c_str(), SCHEMA, true ) );
+    EXPECT_FALSE( config.load( nullptr, SCHEMA, false ) || config.load( SCHEMA, nullptr, false ) );
+    EXPECT_EQ( log.getRecords().size(), 2U ) << "assertions about the file and the schema";
 }
 
 TEST( Loader, LeavesTheProgramsLibxml2Alone ) {
