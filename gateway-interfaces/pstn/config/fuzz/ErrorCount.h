@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include <velquin/Finding.h>
 
 namespace Velquin::Pstn::Fuzz {
@@ -8,12 +10,18 @@ namespace Velquin::Pstn::Fuzz {
 class ErrorCount {
 public:
     unsigned int get() const noexcept { return m_uErrors; }
+    /// Without those about the disconnect supervision of a line, which is then used without any: the load goes on.
+    unsigned int getThoseThatEndALoad() const noexcept { return m_uErrors - m_uAboutSupervision; }
 
 private:
     unsigned int m_uErrors = 0;
+    unsigned int m_uAboutSupervision = 0;
     FindingWatch m_watch{ [this]( const Finding& in_finding ) {
-        if ( in_finding.nLevel >= Logger::ERROR_LEVEL )
-            ++m_uErrors;
+        if ( in_finding.nLevel < Logger::ERROR_LEVEL )
+            return;
+        ++m_uErrors;
+        if ( in_finding.strLogger.find( ".AnalogDisconnect" ) != std::string::npos )
+            ++m_uAboutSupervision;
     } };
 };
 

@@ -86,6 +86,8 @@ void expectNullRefused() {
     EXPECT_FALSE( config.addApplyToAnalogInterfaceVector( { nullptr, nullptr } ) );
     EXPECT_TRUE( config.getApplyToAnalogInterfaces().empty() );
     EXPECT_FALSE( config.isAppliedToInterface( nullptr ) );
+    EXPECT_TRUE( config.setToneSetName( "EUROPE" ) );
+    EXPECT_STREQ( config.getToneSetName(), "EUROPE" );
 }
 
 /// Assertions of that text in that file.
@@ -106,10 +108,12 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( AnalogCallControlConfig().addFXOConfig( nullptr ) );
           EXPECT_FALSE( AnalogCallControlConfig().addFXSConfig( nullptr ) );
           EXPECT_FALSE( AnalogDisconnectSupervisionConfig().addDisconnectDetector( nullptr ) );
+          EXPECT_FALSE( AnalogDisconnectDetectorConfig().parseSequence( nullptr ) );
       },
       { assertion( "!pFxoConfig.isNull()", "AnalogCallControlConfig" ),
         assertion( "!pFxsConfig.isNull()", "AnalogCallControlConfig" ),
-        assertion( "!pDetectorConfig.isNull()", "AnalogDisconnectSupervisionConfig" ) } },
+        assertion( "!pDetectorConfig.isNull()", "AnalogDisconnectSupervisionConfig" ),
+        assertion( "in_szSequence != nullptr", "AnalogDisconnectDetectorConfig" ) } },
     { "AnalogOfOtherClass",
       [] {
           expectNotRead( Making<AnalogFxoConfigXmlSerializer, AnalogFxsConfig>() );

@@ -10,6 +10,7 @@
 #include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
 #include "hardware/TirvanaDigitalVirtualInterfaceConfig.h"
 #include "hardware/TirvanaProviderConfig.h"
+#include "hardware/TirvanaThreadGroupConfigXmlSerializer.h"
 
 // Providers, boards, interfaces: what their readers and containers refuse, and what they keep.
 
@@ -220,6 +221,10 @@ TEST( Hardware, InterfacesComeOutInOrderWithTheirNames ) {
     std::set<std::string> setToneSets{ "OTHER" };
     EXPECT_TRUE( config.getToneSets( setToneSets ) );
     EXPECT_EQ( setToneSets, ( std::set<std::string>{ "AMERICA", "ANALOG", "EUROPE", "OTHER" } ) );
+    XmlConfig unapplied; // a load that ends in front of the physical configurations leaves the boards
+    const TemporaryFile file( TestDocument().edit( Edit{ " toneSetName=\"EUROPE\"", "" } ).getText() );
+    EXPECT_FALSE( load( unapplied, file.getPath() ).bValid );
+    EXPECT_TRUE( unapplied.getToneSets( setToneSets ) );
 
     AnalogBoardConfig board;
     for ( const unsigned int uId : { 3U, 1U, 2U } )
@@ -291,6 +296,16 @@ TEST( Hardware, TellsItsStepsAtDebug ) {
                        "getting digital board: 4", "getting digital interface: 6", "getting all digital interfaces",
                        "no Tirvana digital interface to configure for board 4", "getting all analog interfaces",
                        "no Tirvana analog interface to configure for board 3" } ) );
+}
+
+// A program may have parsed a document in its own way.
+TEST( Readers, ExpandTheEntitiesOfAnAttribute ) {
+    const Element element( "<!DOCTYPE t [<!ENTITY n 'MAL'>]><t count='1' priority='NOR&n;'/>" );
+    XmlConfig config;
+    const TSHandle<TirvanaThreadGroupConfig> hThreads(
+        TirvanaThreadGroupConfigXmlSerializer().read( element.get(), config ) );
+    ASSERT_FALSE( hThreads.isNull() );
+    EXPECT_EQ( hThreads->getThreadsPriority().getCode(), Priority::NORMAL );
 }
 
 } // namespace Velquin::Pstn::Test

@@ -37,6 +37,7 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( IsdnFasConfig().isAppliedToInterface( nullptr ) );
           TSHandle<IsdnNfasGroupMemberConfig> hMember;
           EXPECT_FALSE( IsdnNfasConfig().addMemberInterface( hMember ) );
+          EXPECT_FALSE( IsdnNfasConfig().isAppliedToInterface( nullptr ) );
           hMember = TSHandle<IsdnNfasGroupMemberConfig>( new IsdnNfasGroupMemberConfig() );
           EXPECT_FALSE( IsdnNfasConfig().addMemberInterface( hMember ) ) << "a member without interface";
           EXPECT_FALSE( hMember->setInterfaceMember( nullptr ) );
@@ -46,6 +47,7 @@ const std::vector<CallCase> CALLS{
         assertion( "!in_hDigitalInterface.isNull()", "IsdnFasConfig" ),
         assertion( "in_szUniqueId != nullptr", "IsdnFasConfig" ),
         assertion( "!in_hNfasGroupMember.isNull()", "IsdnNfasConfig" ),
+        assertion( "in_szUniqueId != nullptr", "IsdnNfasConfig" ),
         assertion( "!in_hNfasGroupMember->getInterfaceConfig().isNull()", "IsdnNfasConfig" ),
         assertion( "!in_hInterfaceConfig.isNull()", "IsdnNfasGroupMemberConfig" ) } },
     { "IsdnWritesNothing",

@@ -1,5 +1,6 @@
 #include <fstream>
 
+#include <gmock/gmock.h>
 #include <libxml/parser.h>
 #include <libxml/relaxng.h>
 
@@ -70,6 +71,9 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
             SchemaCase{ strGrammar + "<start><element name=\"a\"/></start></grammar>",
                         "xmlRelaxNGParseElement: element has no content in file {file} at line 2.",
                         "Failed to parse RelaxNG schema file " },
+            SchemaCase{ strGrammar + "<start><externalRef href=\"x.rng\"/></start></grammar>",
+                        "The schema must stand in one file: element externalRef declared in file {file} at line 2.",
+                        "Failed to parse RelaxNG schema file " },
             SchemaCase{ strGrammar + "<include href=\"http://127.0.0.1/x.rng\"/></grammar>",
                         "The schema must stand in one file: element include declared in file {file} at line 2.",
                         "Failed to parse RelaxNG schema file " } } ) {
@@ -106,6 +110,24 @@ TEST( Loader, GivesNoAdviceFromASchemaWithoutEnd ) {
     }
 }
 
+TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
+    const TemporaryFile schema( R"(<grammar xmlns="http://relaxng.org/ns/structure/1.0"
+        datatypeLibrary="http://www.w3.org/2001/XMLSchema-datatypes"><start><element name="a"><choice>
+        <group><attribute name="kind"><value>fax</value></attribute><attribute name="page"/></group>
+        <group><attribute name="kind"><value>call</value></attribute>
+        <attribute name="number"><data type="unsignedLong"><param name="maxInclusive">9</param></data></attribute>
+        </group></choice></element></start></grammar>)" );
+    const auto getAdvice = [&]( const char* in_szDocument ) {
+        XmlConfig config;
+        const auto vecLines = load( config, TemporaryFile( in_szDocument ).getPath(), schema.getPath() ).vecLines;
+        return vecLines.at( vecLines.size() - 2 ); // before the verdict
+    };
+    // What the other kind requires isn't missing.
+    EXPECT_THAT( getAdvice( "<a kind='call'/>" ), testing::HasSubstr( "Missing attribute [/a/number]" ) );
+    EXPECT_THAT( getAdvice( "<a kind='call' number='x'/>" ), testing::HasSubstr( "/a/number=x]" ) );
+    EXPECT_THAT( getAdvice( "<a kind='fox'/>" ), testing::HasSubstr( "Valid values are fax and call." ) );
+}
+
 // ---- Lines
 
 TEST( Loader, NamesTheTrueLineInLongFiles ) {
@@ -120,6 +142,8 @@ TEST( Loader, NamesTheTrueLineInLongFiles ) {
     };
     for ( const LineCase& one : {
               LineCase{ ANY_SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // a reader
+              LineCase{
+                  ANY_SCHEMA, { pad, { "File=\"YES\"", "File=\"yes\"" } }, "File=\"yes\"" }, // a keyword's assertion
               LineCase{ SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // validation
               LineCase{ SCHEMA,
                         { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\" tirpipe=\"2\"" } },
@@ -190,6 +214,14 @@ TEST( Loader, LogsItsStepsAndTheContent ) {
                            "\nRelaxNG schema file: " + strSchema,
                        "Validating Relax-NG file (" + strSchema + ")...", "Creating RelaxNG parser context...",
                        "Compiling RelaxNG schema file " + strSchema + "..." } ) );
+}
+
+TEST( Loader, LogsNoContentBelowItsLevel ) {
+    const Velquin::Test::LogCapture log( Logger::WARNING_LEVEL );
+    XmlConfig config;
+    EXPECT_TRUE( config.load( ( std::string( DATA_FOLDER ) + "/complete.xml" ).c_str(), SCHEMA, true ) );
+    EXPECT_FALSE( config.load( nullptr, SCHEMA, false ) || config.load( SCHEMA, nullptr, false ) );
+    EXPECT_EQ( log.getRecords().size(), 2U ) << "assertions about the file and the schema";
 }
 
 TEST( Loader, LeavesTheProgramsLibxml2Alone ) {

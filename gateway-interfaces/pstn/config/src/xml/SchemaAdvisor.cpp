@@ -75,12 +75,14 @@ SchemaAdvisor::Step::Step( SchemaAdvisor& in_advisor ) : m_advisor( in_advisor )
 
 void SchemaAdvisor::advise( xmlNode* in_pElement, const Logger& in_logger ) {
     m_uSteps = 0;
-    Rules rules;
     const Patterns vecPatterns = findPatterns( in_pElement );
+    if ( vecPatterns.empty() )
+        return;
+    Rules rules;
     for ( const xmlNode* const pPattern : vecPatterns )
         collectAttributes( pPattern, in_pElement, vecPatterns.size() == 1, rules );
     // Half the rules would accuse attributes that are right.
-    if ( rules.empty() || m_bLost )
+    if ( m_bLost )
         return;
 
     const ElementReader reader( in_pElement, in_logger, WORDING );
