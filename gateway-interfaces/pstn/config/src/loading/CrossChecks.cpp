@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <functional>
-#include <iterator>
+#include <set>
 #include <type_traits>
 #include <utility>
 
@@ -73,52 +73,38 @@ void checkDigitalPhysicalConfigs( const CrossCheckSubject& in_subject, CrossChec
     checkPhysicalConfigs( in_subject.vecDigitalInterfaces, "Digital interface", out_findings );
 }
 
-void addTakenTirpipe( const CrossCheckSubject& in_subject, std::size_t in_uHolder, unsigned int in_uTirpipe,
-                      CrossCheckFindings& out_findings ) {
-    const std::string strWhat =
-        " has an already used tirpipe number: " + std::to_string( in_uTirpipe ) +
-        ". Please make sure every analog board and Digital interface has a unique tirpipe number.";
-    const auto& mapBoards = in_subject.config.getAnalogBoardsConfig();
-    if ( in_uHolder < mapBoards.size() ) {
-        const unsigned int uBoardId = std::next( mapBoards.begin(), static_cast<std::ptrdiff_t>( in_uHolder ) )->first;
-        out_findings.push_back(
-            { true, uBoardId, std::nullopt, "Analog board \"" + std::to_string( uBoardId ) + "\"" + strWhat } );
-    } else {
-        addFinding( *in_subject.vecDigitalInterfaces[in_uHolder - mapBoards.size()], "Digital Interface", strWhat,
-                    out_findings );
+/// The tirpipe numbers that are taken. They mostly come in ascending order, so that the end is tried first.
+class TakenTirpipes {
+public:
+    bool add( unsigned int in_uTirpipe ) {
+        const std::size_t uSize = m_setTirpipes.size();
+        m_setTirpipes.insert( m_setTirpipes.end(), in_uTirpipe );
+        return m_setTirpipes.size() > uSize;
     }
-}
+
+private:
+    std::set<unsigned int> m_setTirpipes;
+};
 
 void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
-    // A number and its holder: the position of an analog board among those, or of a digital interface behind them all.
-    using Tirpipe = std::pair<unsigned int, std::size_t>;
-    std::vector<Tirpipe> vecTirpipes;
-    const auto& mapBoards = in_subject.config.getAnalogBoardsConfig();
-    vecTirpipes.reserve( mapBoards.size() + in_subject.vecDigitalInterfaces.size() );
-    std::size_t uHolder = 0;
-    for ( const auto& [uBoardId, hBoard] : mapBoards ) {
-        if ( const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() ) )
-            vecTirpipes.emplace_back( pBoard->getTirpipe(), uHolder );
-        ++uHolder;
+    TakenTirpipes taken;
+    const auto describe = []( unsigned int in_uTirpipe ) {
+        return " has an already used tirpipe number: " + std::to_string( in_uTirpipe ) +
+               ". Please make sure every analog board and Digital interface has a unique tirpipe number.";
+    };
+    for ( const auto& [uBoardId, hBoard] : in_subject.config.getAnalogBoardsConfig() ) {
+        const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() );
+        if ( pBoard && !taken.add( pBoard->getTirpipe() ) )
+            out_findings.push_back(
+                { true, uBoardId, std::nullopt,
+                  "Analog board \"" + std::to_string( uBoardId ) + "\"" + describe( pBoard->getTirpipe() ) } );
     }
     for ( const DigitalInterfaceConfig* const pDigitalInterface : in_subject.vecDigitalInterfaces ) {
         // A virtual span has no tirpipe number.
-        if ( const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( pDigitalInterface ) )
-            vecTirpipes.emplace_back( pInterface->getTirpipe(), uHolder );
-        ++uHolder;
+        const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( pDigitalInterface );
+        if ( pInterface && !taken.add( pInterface->getTirpipe() ) )
+            addFinding( *pDigitalInterface, "Digital Interface", describe( pInterface->getTirpipe() ), out_findings );
     }
-    if ( !std::is_sorted( vecTirpipes.begin(), vecTirpipes.end() ) )
-        std::sort( vecTirpipes.begin(), vecTirpipes.end() );
-
-    // At fault is who has the number of one before.
-    std::vector<std::pair<std::size_t, unsigned int>> vecTaken;
-    for ( std::size_t i = 1; i < vecTirpipes.size(); ++i ) {
-        if ( vecTirpipes[i].first == vecTirpipes[i - 1].first )
-            vecTaken.emplace_back( vecTirpipes[i].second, vecTirpipes[i].first );
-    }
-    std::sort( vecTaken.begin(), vecTaken.end() );
-    for ( const auto& [uTaken, uTirpipe] : vecTaken )
-        addTakenTirpipe( in_subject, uTaken, uTirpipe, out_findings );
 }
 
 /// @param in_vecConfigured the interfaces that have call control, gathered in one sweep over the groups: to ask group
