@@ -1,7 +1,5 @@
 #include "analog/AnalogCallControlConfig.h"
 
-#include <utility>
-
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
@@ -12,14 +10,14 @@ PSTN_CONFIG_CLASS_IMPL( AnalogCallControlConfig );
 bool AnalogCallControlConfig::addFXOConfig( AnalogFxoConfig* in_pNewFxoConfig ) try {
     TSHandle<AnalogFxoConfig> pFxoConfig( in_pNewFxoConfig );
     return VELQUIN_ASSERT( !pFxoConfig.isNull() ) &&
-           addNumberedConfig( m_mapFxoConfigs, std::move( pFxoConfig ), "Fxo", getLogger() );
+           addNumberedConfig( m_mapFxoConfigs, pFxoConfig, "Fxo", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool AnalogCallControlConfig::addFXSConfig( AnalogFxsConfig* in_pNewFxsConfig ) try {
     TSHandle<AnalogFxsConfig> pFxsConfig( in_pNewFxsConfig );
     return VELQUIN_ASSERT( !pFxsConfig.isNull() ) &&
-           addNumberedConfig( m_mapFxsConfigs, std::move( pFxsConfig ), "Fxs", getLogger() );
+           addNumberedConfig( m_mapFxsConfigs, pFxsConfig, "Fxs", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <map>
-#include <utility>
 
 #include <velquin/Finding.h>
 #include <velquin/TSHandle.h>
@@ -18,10 +17,10 @@ using NumberedConfigs = std::map<unsigned int, TSHandle<TConfig>>;
 /// Adds the configuration unless its number is taken; only then the handle is moved from. May throw.
 /// @param in_szKind "Fas", "NFas", "Fxo" or "Fxs", as the messages have it
 template <class TConfig>
-bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, TSHandle<TConfig>&& inout_hConfig,
+bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, TSHandle<TConfig>& inout_hConfig,
                         const char* in_szKind, const Logger& in_logger ) {
     VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " config: " << inout_hConfig->getId() );
-    if ( appendToMap( inout_mapConfigs, inout_hConfig->getId(), std::move( inout_hConfig ) ) )
+    if ( appendToMap( inout_mapConfigs, inout_hConfig->getId(), inout_hConfig ) )
         return true;
     VELQUIN_REPORT_ERROR( in_logger, "failed to add " << in_szKind << " config : " << inout_hConfig->getId() );
     return false;

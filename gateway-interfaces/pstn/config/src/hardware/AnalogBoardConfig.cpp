@@ -1,15 +1,12 @@
 #include "hardware/AnalogBoardConfig.h"
 
-#include <utility>
-
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogBoardConfig );
 
 bool AnalogBoardConfig::addAnalogInterfaceConfig( AnalogInterfaceConfig* in_pNewAnalogInterfaceConfig ) try {
     TSHandle<AnalogInterfaceConfig> hInterface( in_pNewAnalogInterfaceConfig );
-    return VELQUIN_ASSERT( in_pNewAnalogInterfaceConfig ) &&
-           m_mapInterfaces.add( std::move( hInterface ), "analog", getLogger() );
+    return VELQUIN_ASSERT( in_pNewAnalogInterfaceConfig ) && m_mapInterfaces.add( hInterface, "analog", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

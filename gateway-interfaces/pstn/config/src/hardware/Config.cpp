@@ -1,7 +1,5 @@
 #include "hardware/Config.h"
 
-#include <utility>
-
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
@@ -15,11 +13,11 @@ PSTN_CONFIG_CLASS_IMPL( Config );
 namespace {
 
 template <class TBoard>
-bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, TSHandle<TBoard>&& inout_hBoard,
+bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, TSHandle<TBoard>& inout_hBoard,
                const char* in_szKind, const Logger& in_logger ) {
     VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
                                                 << inout_hBoard->getDisplayName() << ">" );
-    if ( appendToMap( inout_mapBoards, inout_hBoard->getId(), std::move( inout_hBoard ) ) )
+    if ( appendToMap( inout_mapBoards, inout_hBoard->getId(), inout_hBoard ) )
         return true;
     VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
                                                           << inout_hBoard->getDisplayName() << ">" );
@@ -109,14 +107,14 @@ VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 bool Config::addAnalogBoardConfig( AnalogBoardConfig* in_pNewAnalogBoardConfig ) try {
     TSHandle<AnalogBoardConfig> hBoardConfig( in_pNewAnalogBoardConfig );
     return VELQUIN_ASSERT( in_pNewAnalogBoardConfig ) &&
-           addBoard( m_mapAnalogBoards, std::move( hBoardConfig ), AnalogKind::NAME, getLogger() );
+           addBoard( m_mapAnalogBoards, hBoardConfig, AnalogKind::NAME, getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool Config::addDigitalBoardConfig( DigitalBoardConfig* in_pNewDigitalBoardConfig ) try {
     TSHandle<DigitalBoardConfig> hBoardConfig( in_pNewDigitalBoardConfig );
     return VELQUIN_ASSERT( in_pNewDigitalBoardConfig ) &&
-           addBoard( m_mapDigitalBoards, std::move( hBoardConfig ), DigitalKind::NAME, getLogger() );
+           addBoard( m_mapDigitalBoards, hBoardConfig, DigitalKind::NAME, getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

@@ -1,15 +1,12 @@
 #include "hardware/DigitalBoardConfig.h"
 
-#include <utility>
-
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( DigitalBoardConfig );
 
 bool DigitalBoardConfig::addDigitalInterfaceConfig( DigitalInterfaceConfig* in_pNewDigitalInterfaceConfig ) try {
     TSHandle<DigitalInterfaceConfig> hInterface( in_pNewDigitalInterfaceConfig );
-    return VELQUIN_ASSERT( in_pNewDigitalInterfaceConfig ) &&
-           m_mapInterfaces.add( std::move( hInterface ), "digital", getLogger() );
+    return VELQUIN_ASSERT( in_pNewDigitalInterfaceConfig ) && m_mapInterfaces.add( hInterface, "digital", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

@@ -18,10 +18,10 @@ template <class TInterface>
 class InterfaceMap {
 public:
     /// Adds the interface unless its identifier is taken; only then the handle is moved from.
-    bool add( TSHandle<TInterface>&& inout_hInterface, const char* in_szKind, const Logger& in_logger ) {
+    bool add( TSHandle<TInterface>& inout_hInterface, const char* in_szKind, const Logger& in_logger ) {
         VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " interface: " << inout_hInterface->getId() << "<"
                                                     << inout_hInterface->getDisplayName() << ">" );
-        if ( appendToMap( m_map, inout_hInterface->getId(), std::move( inout_hInterface ) ) )
+        if ( appendToMap( m_map, inout_hInterface->getId(), inout_hInterface ) )
             return true;
         VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind
                                                               << " interface: " << inout_hInterface->getId() << "<"

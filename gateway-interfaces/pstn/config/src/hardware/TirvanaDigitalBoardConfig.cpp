@@ -9,7 +9,7 @@ TSHandle<TirvanaDigitalInterfaceConfig> TirvanaDigitalBoardConfig::getPrimaryClo
     if ( !getDigitalInterfacesConfig( vecInterfaces ) )
         return {};
     for ( const auto& hInterface : vecInterfaces ) {
-        const auto hTirvanaInterface = dynamicHandleCast<TirvanaDigitalInterfaceConfig>( hInterface );
+        auto hTirvanaInterface = dynamicHandleCast<TirvanaDigitalInterfaceConfig>( hInterface );
         if ( !hTirvanaInterface.isNull() && hTirvanaInterface->isPrimaryClockReference() )
             return hTirvanaInterface;
     }

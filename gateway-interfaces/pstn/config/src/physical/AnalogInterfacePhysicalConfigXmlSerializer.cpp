@@ -10,7 +10,7 @@ PSTN_CONFIG_CLASS_IMPL( AnalogInterfacePhysicalConfigXmlSerializer );
 
 TSHandle<InterfacePhysicalConfig> AnalogInterfacePhysicalConfigXmlSerializer::read( xmlNode* const in_pElement,
                                                                                     XmlConfig& in_xmlConfig ) try {
-    const auto hInterfacePhysicalConfig = InterfacePhysicalConfigXmlSerializer::read( in_pElement, in_xmlConfig );
+    auto hInterfacePhysicalConfig = InterfacePhysicalConfigXmlSerializer::read( in_pElement, in_xmlConfig );
     if ( hInterfacePhysicalConfig.isNull() )
         return {};
     const auto hAnalogInterfacePhysicalConfig =

@@ -89,7 +89,7 @@ bool readDChannel( xmlNode* in_pSpan, XmlConfig& in_xmlConfig, DigitalInterfaceP
 
 TSHandle<InterfacePhysicalConfig> DigitalInterfacePhysicalConfigXmlSerializer::read( xmlNode* const in_pElement,
                                                                                      XmlConfig& in_xmlConfig ) try {
-    const auto hInterfacePhysicalConfig = InterfacePhysicalConfigXmlSerializer::read( in_pElement, in_xmlConfig );
+    auto hInterfacePhysicalConfig = InterfacePhysicalConfigXmlSerializer::read( in_pElement, in_xmlConfig );
     if ( hInterfacePhysicalConfig.isNull() )
         return {};
     const auto hDigitalInterfacePhysicalConfig =

@@ -19,7 +19,7 @@ constexpr ReaderWording AUDIO_CHILD_WORDING{ " for interface physial config ", "
 TSHandle<InterfacePhysicalConfig> InterfacePhysicalConfigXmlSerializer::read( xmlNode* const in_pElement,
                                                                               XmlConfig& in_xmlConfig ) try {
     const ElementReader reader( in_pElement, getLogger(), PHYSICAL_WORDING );
-    const TSHandle<InterfacePhysicalConfig> hInterfacePhysicalConfig( newInterfacePhysicalConfig() );
+    TSHandle<InterfacePhysicalConfig> hInterfacePhysicalConfig( newInterfacePhysicalConfig() );
     if ( !VELQUIN_ASSERT( !hInterfacePhysicalConfig.isNull() ) )
         return {};
 

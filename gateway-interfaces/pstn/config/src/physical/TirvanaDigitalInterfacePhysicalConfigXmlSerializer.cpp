@@ -13,8 +13,7 @@ PSTN_CONFIG_CLASS_IMPL( TirvanaDigitalInterfacePhysicalConfigXmlSerializer );
 
 TSHandle<InterfacePhysicalConfig>
 TirvanaDigitalInterfacePhysicalConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
-    const auto hInterfacePhysicalConfig =
-        DigitalInterfacePhysicalConfigXmlSerializer::read( in_pElement, in_xmlConfig );
+    auto hInterfacePhysicalConfig = DigitalInterfacePhysicalConfigXmlSerializer::read( in_pElement, in_xmlConfig );
     if ( hInterfacePhysicalConfig.isNull() )
         return {};
     const auto hTirvanaDigitalInterfacePhysicalConfig =

@@ -1,7 +1,5 @@
 #include "callcontrol/isdn/IsdnConfig.h"
 
-#include <utility>
-
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
@@ -12,14 +10,14 @@ PSTN_CONFIG_CLASS_IMPL( IsdnConfig );
 bool IsdnConfig::addFasConfig( IsdnFasConfig* in_pFasConfig ) try {
     TSHandle<IsdnFasConfig> pFasConfig( in_pFasConfig );
     return VELQUIN_ASSERT( !pFasConfig.isNull() ) &&
-           addNumberedConfig( m_mapFasConfigs, std::move( pFasConfig ), "Fas", getLogger() );
+           addNumberedConfig( m_mapFasConfigs, pFasConfig, "Fas", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool IsdnConfig::addNfasConfig( IsdnNfasConfig* in_pNFasConfig ) try {
     TSHandle<IsdnNfasConfig> pNFasConfig( in_pNFasConfig );
     return VELQUIN_ASSERT( !pNFasConfig.isNull() ) &&
-           addNumberedConfig( m_mapNfasConfigs, std::move( pNFasConfig ), "NFas", getLogger() );
+           addNumberedConfig( m_mapNfasConfigs, pNFasConfig, "NFas", getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 

@@ -62,7 +62,7 @@ IsdnNfasGroupMemberConfigXmlSerializer::read( TSHandle<CallControlConfig>& in_hC
     if ( !VELQUIN_ASSERT( in_pNfasConfig ) )
         return {};
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    const TSHandle<IsdnNfasGroupMemberConfig> hGroupMember( new IsdnNfasGroupMemberConfig() );
+    TSHandle<IsdnNfasGroupMemberConfig> hGroupMember( new IsdnNfasGroupMemberConfig() );
 
     unsigned long long ullNfasInterfaceID = 0;
     if ( !reader.requireNumber( "nfasInterfaceID", NFAS_INTERFACE_ID, ullNfasInterfaceID ) )
