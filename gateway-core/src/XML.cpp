@@ -3,7 +3,9 @@
 #include <mutex>
 
 #include <libxml/parser.h>
+#include <libxml/relaxng.h>
 #include <libxml/tree.h>
+#include <libxml/xmlschemastypes.h>
 
 #include <velquin/Assertion.h>
 
@@ -29,6 +31,9 @@ void initializeLibrary() {
     const std::lock_guard lock( s_mutex );
     // Costs a compare when it was done, and does it again when the program has cleaned libxml2 up in between.
     xmlInitParser();
+    // libxml2 would fill these tables at the first schema, in whatever thread that is, without a lock.
+    xmlSchemaInitTypes();
+    xmlRelaxNGInitTypes();
     ++s_uOpenCount;
 }
 

@@ -61,6 +61,7 @@ TEST( Tool, PrintsFindingsAndTheWorstExitCode ) {
     const ToolResult missing = runTool( "check /no/such/file.xml " + strFile + strAnySchema );
     EXPECT_EQ( missing.nExitCode, 2 );
     EXPECT_NE( missing.strOutput.find( "/no/such/file.xml: not checked (2 errors)\n" ), std::string::npos );
+    EXPECT_EQ( runTool( "check --log-content /no/such/file.xml" ).nExitCode, 2 );
     EXPECT_EQ( runTool( "check --schema /no/such/schema.rng " + COMPLETE ).nExitCode, 2 );
 }
 

@@ -1,5 +1,6 @@
 #include "analog/AnalogFxoConfigXmlSerializer.h"
 
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -256,7 +257,7 @@ bool AnalogFxoConfigXmlSerializer::write( xmlNode* const, const AnalogCallContro
 }
 
 AnalogCallControlCommonConfig* AnalogFxoConfigXmlSerializer::newAnalogCallControlCommonConfig() {
-    return new AnalogFxoConfig();
+    return new ( std::nothrow ) AnalogFxoConfig();
 }
 
 bool AnalogFxoConfigXmlSerializer::InterfaceRefXmlSerializer::read( const LimitedObjPtr<AnalogFxoConfig>& in_pFxoConfig,

@@ -1,5 +1,6 @@
 #include "analog/AnalogFxsConfigXmlSerializer.h"
 
+#include <new>
 #include <utility>
 
 #include <velquin/UniqueObjPtr.h>
@@ -159,7 +160,7 @@ bool AnalogFxsConfigXmlSerializer::write( xmlNode* const, const AnalogCallContro
 }
 
 AnalogCallControlCommonConfig* AnalogFxsConfigXmlSerializer::newAnalogCallControlCommonConfig() {
-    return new AnalogFxsConfig();
+    return new ( std::nothrow ) AnalogFxsConfig();
 }
 
 bool AnalogFxsConfigXmlSerializer::InterfaceRefXmlSerializer::read( const LimitedObjPtr<AnalogFxsConfig>& in_pFxsConfig,

@@ -1,5 +1,7 @@
 #include "hardware/TirvanaAnalogBoardConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/BoardInterfaces.h"
@@ -65,7 +67,7 @@ bool TirvanaAnalogBoardConfigXmlSerializer::write( xmlNode* const in_pParent, co
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 BoardConfig* TirvanaAnalogBoardConfigXmlSerializer::newBoardConfig() {
-    return new TirvanaAnalogBoardConfig();
+    return new ( std::nothrow ) TirvanaAnalogBoardConfig();
 }
 
 } // namespace Velquin::Pstn

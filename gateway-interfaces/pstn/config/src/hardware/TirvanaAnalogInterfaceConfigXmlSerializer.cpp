@@ -1,5 +1,7 @@
 #include "hardware/TirvanaAnalogInterfaceConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 #include <velquin/LimitedObjPtr.h>
@@ -52,7 +54,7 @@ bool TirvanaAnalogInterfaceConfigXmlSerializer::write( xmlNode* const in_pBoardE
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 InterfaceConfig* TirvanaAnalogInterfaceConfigXmlSerializer::newInterfaceConfig() {
-    return new TirvanaAnalogInterfaceConfig();
+    return new ( std::nothrow ) TirvanaAnalogInterfaceConfig();
 }
 
 } // namespace Velquin::Pstn

@@ -1,5 +1,7 @@
 #include "hardware/TirvanaDigitalBoardConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/BoardInterfaces.h"
@@ -80,7 +82,7 @@ bool TirvanaDigitalBoardConfigXmlSerializer::write( xmlNode* const in_pParent, c
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 BoardConfig* TirvanaDigitalBoardConfigXmlSerializer::newBoardConfig() {
-    return new TirvanaDigitalBoardConfig();
+    return new ( std::nothrow ) TirvanaDigitalBoardConfig();
 }
 
 } // namespace Velquin::Pstn

@@ -1,5 +1,7 @@
 #include "hardware/TirvanaDigitalInterfaceConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 #include <velquin/LimitedObjPtr.h>
@@ -52,7 +54,7 @@ bool TirvanaDigitalInterfaceConfigXmlSerializer::write( xmlNode* const in_pBoard
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 InterfaceConfig* TirvanaDigitalInterfaceConfigXmlSerializer::newInterfaceConfig() {
-    return new TirvanaDigitalInterfaceConfig();
+    return new ( std::nothrow ) TirvanaDigitalInterfaceConfig();
 }
 
 } // namespace Velquin::Pstn

@@ -1,5 +1,7 @@
 #include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/TirvanaDigitalVirtualBoardConfig.h"
@@ -39,7 +41,7 @@ bool TirvanaDigitalVirtualBoardConfigXmlSerializer::write( xmlNode* const, const
 }
 
 BoardConfig* TirvanaDigitalVirtualBoardConfigXmlSerializer::newBoardConfig() {
-    return new TirvanaDigitalVirtualBoardConfig();
+    return new ( std::nothrow ) TirvanaDigitalVirtualBoardConfig();
 }
 
 } // namespace Velquin::Pstn

@@ -1,5 +1,7 @@
 #include "hardware/TirvanaDigitalVirtualInterfaceConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/TirvanaDigitalVirtualInterfaceConfig.h"
@@ -43,7 +45,7 @@ bool TirvanaDigitalVirtualInterfaceConfigXmlSerializer::write( xmlNode* const, c
 }
 
 InterfaceConfig* TirvanaDigitalVirtualInterfaceConfigXmlSerializer::newInterfaceConfig() {
-    return new TirvanaDigitalVirtualInterfaceConfig();
+    return new ( std::nothrow ) TirvanaDigitalVirtualInterfaceConfig();
 }
 
 } // namespace Velquin::Pstn

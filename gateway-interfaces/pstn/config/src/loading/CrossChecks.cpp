@@ -36,7 +36,8 @@ bool gatherInterfaces( const Config& in_config, std::vector<const typename TKind
         if ( !ASSERT_OF_LOADER( !hBoard.isNull() ) || !getInterfaces( hBoard, vecInterfaces ) )
             return false;
         for ( const auto& hInterface : vecInterfaces ) {
-            if ( !ASSERT_OF_LOADER( !hInterface.isNull() ) )
+            if ( !ASSERT_OF_LOADER( !hInterface.isNull() ) ||
+                 !ASSERT_OF_LOADER( !hInterface->getBoardConfig().isNull() ) )
                 return false;
             out_vecInterfaces.push_back( hInterface.get() );
         }

@@ -121,8 +121,9 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
     const XML::LibraryScope library;
     const FilePlace place( in_szConfigFile );
     const LibXml2ErrorRoute errorRoute( getLogger(), in_szConfigFile );
-    const auto forgetOwner = [this]( XmlConfig* ) { m_pOwner = nullptr; };
-    const std::unique_ptr<XmlConfig, decltype( forgetOwner )> pOwner( m_pOwner = &in_owner, forgetOwner );
+    // A watch of the findings may load another file through a copy of this configuration.
+    const auto restoreOwner = [this, pOuter = m_pOwner]( XmlConfig* ) { m_pOwner = pOuter; };
+    const std::unique_ptr<XmlConfig, decltype( restoreOwner )> pOwner( m_pOwner = &in_owner, restoreOwner );
 
     if ( in_bLogContent && !logContent( in_szConfigFile ) )
         return false;
@@ -138,8 +139,11 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
 
 bool XmlConfig::Impl::logContent( const char* in_szConfigFile ) {
     std::ifstream stream;
-    if ( !openInputFile( in_szConfigFile, stream ).empty() ) {
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to open PSTN configuration file: " << in_szConfigFile );
+    if ( !openInputFile( in_szConfigFile, stream, std::ios::in ).empty() ) {
+        Finding finding;
+        finding.eKind = Finding::Kind::UNREADABLE_FILE;
+        finding.strText = std::string( "failed to open PSTN configuration file: " ) + in_szConfigFile;
+        reportFinding( getLogger(), std::move( finding ), __FILE__, __LINE__ );
         return false;
     }
     if ( !getLogger().isEnabledFor( Logger::INFO_LEVEL ) )

@@ -1,5 +1,7 @@
 #include "physical/DChannelConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/GlobalConfig.h>
 #include <velquin/UniqueObjPtr.h>
 
@@ -55,7 +57,7 @@ bool DChannelConfigXmlSerializer::write( xmlNode* const, const DChannelConfig& )
 }
 
 DChannelConfig* DChannelConfigXmlSerializer::newDChannelConfig() {
-    return new DChannelConfig();
+    return new ( std::nothrow ) DChannelConfig();
 }
 
 } // namespace Velquin::Pstn

@@ -1,5 +1,7 @@
 #include "physical/TirvanaAnalogInterfacePhysicalConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/Assertion.h>
 #include <velquin/LimitedObjPtr.h>
 
@@ -76,7 +78,7 @@ bool TirvanaAnalogInterfacePhysicalConfigXmlSerializer::write( xmlNode* const, c
 }
 
 InterfacePhysicalConfig* TirvanaAnalogInterfacePhysicalConfigXmlSerializer::newInterfacePhysicalConfig() {
-    return new TirvanaAnalogInterfacePhysicalConfig();
+    return new ( std::nothrow ) TirvanaAnalogInterfacePhysicalConfig();
 }
 
 AudioConfigXmlSerializer* TirvanaAnalogInterfacePhysicalConfigXmlSerializer::newAudioConfigXmlSerializer() {

@@ -1,5 +1,7 @@
 #include "physical/TirvanaDigitalInterfacePhysicalConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
@@ -29,7 +31,7 @@ bool TirvanaDigitalInterfacePhysicalConfigXmlSerializer::write( xmlNode* const, 
 }
 
 InterfacePhysicalConfig* TirvanaDigitalInterfacePhysicalConfigXmlSerializer::newInterfacePhysicalConfig() {
-    return new TirvanaDigitalInterfacePhysicalConfig();
+    return new ( std::nothrow ) TirvanaDigitalInterfacePhysicalConfig();
 }
 
 AudioConfigXmlSerializer* TirvanaDigitalInterfacePhysicalConfigXmlSerializer::newAudioConfigXmlSerializer() {

@@ -1,5 +1,7 @@
 #include "callcontrol/isdn/IsdnFasConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/Assertion.h>
 #include <velquin/UniqueObjPtr.h>
 
@@ -124,7 +126,7 @@ bool IsdnFasConfigXmlSerializer::write( xmlNode* const, const IsdnCommonConfig& 
 }
 
 IsdnCommonConfig* IsdnFasConfigXmlSerializer::newIsdnCommonConfig() {
-    return new IsdnFasConfig();
+    return new ( std::nothrow ) IsdnFasConfig();
 }
 
 } // namespace Velquin::Pstn

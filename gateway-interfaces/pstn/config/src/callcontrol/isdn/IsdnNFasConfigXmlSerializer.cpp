@@ -1,5 +1,7 @@
 #include "callcontrol/isdn/IsdnNFasConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/Assertion.h>
 #include <velquin/UniqueObjPtr.h>
 
@@ -48,7 +50,7 @@ bool IsdnNFasConfigXmlSerializer::write( xmlNode* const, const IsdnCommonConfig&
 }
 
 IsdnCommonConfig* IsdnNFasConfigXmlSerializer::newIsdnCommonConfig() {
-    return new IsdnNfasConfig();
+    return new ( std::nothrow ) IsdnNfasConfig();
 }
 
 } // namespace Velquin::Pstn

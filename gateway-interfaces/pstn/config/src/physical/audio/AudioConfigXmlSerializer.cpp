@@ -1,5 +1,7 @@
 #include "physical/audio/AudioConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 
 #include "loading/XmlConfig.h"
@@ -99,7 +101,7 @@ bool AudioConfigXmlSerializer::write( xmlNode* const, const AudioConfig& ) {
 }
 
 AudioConfig* AudioConfigXmlSerializer::newAudioConfig() {
-    return new AudioConfig();
+    return new ( std::nothrow ) AudioConfig();
 }
 
 } // namespace Velquin::Pstn

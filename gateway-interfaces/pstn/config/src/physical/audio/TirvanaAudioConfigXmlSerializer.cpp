@@ -1,5 +1,7 @@
 #include "physical/audio/TirvanaAudioConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 
 #include "physical/audio/AudioWording.h"
@@ -32,7 +34,7 @@ bool TirvanaAudioConfigXmlSerializer::write( xmlNode* const, const AudioConfig& 
 }
 
 AudioConfig* TirvanaAudioConfigXmlSerializer::newAudioConfig() {
-    return new TirvanaAudioConfig();
+    return new ( std::nothrow ) TirvanaAudioConfig();
 }
 
 } // namespace Velquin::Pstn
