@@ -3,7 +3,7 @@
 
 #include "ConfigTest.h"
 
-// A loaded model that many threads read at once; the thread sanitizer watches.
+// A loaded model that many threads read at once, and loads at the same time; the thread sanitizer watches.
 
 namespace Velquin::Pstn::Test {
 
@@ -46,6 +46,20 @@ TEST( Threads, ReadAModelWhoseConfigurationIsLetGo ) {
         thread.join();
     // Five of the six spans have a D-channel.
     EXPECT_EQ( uDChannels, 8UL * 200 * 5 );
+}
+
+TEST( Threads, LoadConfigurationsOfTheirOwn ) {
+    const TemporaryFile file( TestDocument().getText() );
+    std::atomic<unsigned int> uLoaded{ 0 };
+    std::vector<std::thread> vecThreads;
+    for ( int n = 0; n < 8; ++n )
+        vecThreads.emplace_back( [&] {
+            XmlConfig config;
+            uLoaded += config.load( file.getPath().c_str(), SCHEMA, false ) ? 1U : 0U;
+        } );
+    for ( std::thread& thread : vecThreads )
+        thread.join();
+    EXPECT_EQ( uLoaded, 8U );
 }
 
 } // namespace Velquin::Pstn::Test

@@ -18,7 +18,7 @@ namespace Velquin::Pstn {
 /// `std::ostream << config` writes the boards as an XML document.
 ///
 /// One thread at a time uses an XmlConfig and its copies: they share a part whose count is not thread-safe. The model
-/// itself may be read by many threads once it is loaded.
+/// itself may be read by many threads once it is loaded. Threads may load configurations of their own at the same time.
 class VELQUIN_PSTN_CONFIG_EXPORT XmlConfig : public Config, public XMLSTLDocOutputStreamableImpl {
     PSTN_CONFIG_CLASS( XmlConfig );
 
