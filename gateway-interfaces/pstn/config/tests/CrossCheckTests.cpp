@@ -3,6 +3,8 @@
 #include <velquin/Finding.h>
 
 #include "ConfigTest.h"
+#include "hardware/TirvanaDigitalBoardConfig.h"
+#include "hardware/TirvanaDigitalInterfaceConfig.h"
 
 // The checks over the whole model.
 
@@ -27,6 +29,31 @@ TEST( CrossChecks, NameTheElementConcerned ) {
     };
     EXPECT_EQ( join( vecPlaces ), join( { place( "\"Phones\"", "tirvanaAnalogBoard[2]" ),
                                           place( "T1-B", "tirvanaDigitalBoard[2]/interface[2]" ) } ) );
+}
+
+TEST( CrossChecks, TakeABoardThatStandsInNoFile ) {
+    for ( const bool bComplete : { true, false } ) {
+        auto* const pBoard = new TirvanaDigitalBoardConfig();
+        pBoard->setId( 77 );
+        auto* const pInterface = new TirvanaDigitalInterfaceConfig();
+        if ( bComplete )
+            pInterface->setBoardConfig( pBoard );
+        XmlConfig config;
+        ASSERT_TRUE( pBoard->addDigitalInterfaceConfig( pInterface ) && config.addDigitalBoardConfig( pBoard ) );
+        const TemporaryFile file( TestDocument().getText() );
+        const std::vector<std::string> vecExpected{
+            "ERROR XmlConfig: Digital interface \"b77()di0()\" has not physical configuration. Please make sure to "
+            "apply "
+            "a physical configuration to this interface.",
+            "ERROR XmlConfig: Digital Interface \"b77()di0()\" has an already used tirpipe number: 0. Please make sure "
+            "every analog board and Digital interface has a unique tirpipe number.",
+            "ERROR XmlConfig: Digital interface \"b77()di0()\" has no call-control configuration. Please make sure to "
+            "apply a call- control configuration to this interface." };
+        const std::vector<std::string> vecAssertion{ "ERROR marovane.core.Assertion: Assertion failed: "
+                                                     "!hInterface->getBoardConfig().isNull(), file XmlConfig, line N" };
+        EXPECT_EQ( join( load( config, file.getPath(), SCHEMA ).vecLines ),
+                   join( bComplete ? vecExpected : vecAssertion ) );
+    }
 }
 
 namespace {

@@ -213,6 +213,10 @@ TEST( Hardware, InterfacesComeOutInOrderWithTheirNames ) {
                vecSpans[1].get() );
     EXPECT_FALSE( as<TirvanaDigitalInterfaceConfig>( vecSpans[0] ).isPrimaryClockReference() );
     EXPECT_TRUE( TirvanaDigitalBoardConfig().getPrimaryClockReferenceInterfaceConfig().isNull() );
+    vecSpans[0]->setId( 9 ); // the order follows
+    vecSpans.clear();
+    ASSERT_TRUE( hBoard->getDigitalInterfacesConfig( vecSpans ) );
+    EXPECT_EQ( getIds( vecSpans ), "2 3 9 " );
     EXPECT_TRUE( config.getDigitalInterfaceConfig( 1, 2 )->hasDChannel() );
     const auto hVirtualSpan = config.getDigitalInterfaceConfig( 3, 1 );
     EXPECT_NE( dynamic_cast<const TirvanaDigitalVirtualInterfaceConfig*>( hVirtualSpan.get() ), nullptr );

@@ -58,6 +58,11 @@ TEST( Tool, PrintsFindingsAndTheWorstExitCode ) {
                    ":17: error: Configuration of the board tirvanaDigitalBoard contains one ore more errors. " +
                    "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n" + strFile + ": invalid (2 errors)\n" );
 
+    const TemporaryFile lacking( "<pstnConfig>\n<boards><tirvanaDigitalBoard/></boards></pstnConfig>" );
+    EXPECT_NE( runTool( "check " + lacking.getPath() + strAnySchema )
+                   .strOutput.find( ":2: error: missing attribute \"ID\" [/pstnConfig/boards/tirvanaDigitalBoard]\n" ),
+               std::string::npos );
+
     const ToolResult missing = runTool( "check /no/such/file.xml " + strFile + strAnySchema );
     EXPECT_EQ( missing.nExitCode, 2 );
     EXPECT_NE( missing.strOutput.find( "/no/such/file.xml: not checked (2 errors)\n" ), std::string::npos );
