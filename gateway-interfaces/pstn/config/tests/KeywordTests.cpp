@@ -1,7 +1,6 @@
 #include <cctype>
 #include <cmath>
 #include <locale>
-#include <random>
 #include <sstream>
 
 #include <velquin/StringVector.h>
@@ -334,6 +333,7 @@ void expectAllLikeStream( const std::string& in_strText ) {
 
 } // namespace
 
+// fuzz/number.cpp asks the same of texts at random.
 TEST( Numbers, AreTakenAsAStreamTakesThem ) {
     const std::string strZeros( 400, '0' );
     StringVector vecTexts;
@@ -352,18 +352,6 @@ TEST( Numbers, AreTakenAsAStreamTakesThem ) {
           { "1" + strZeros, "-1" + strZeros, strZeros + "1", "0." + strZeros + "1", "1" + strZeros + "e-10",
             "1" + strZeros + "e-400", "0." + strZeros + "1e401", "0." + strZeros + "1e10", "." + strZeros + "e5" } )
         expectAllLikeStream( strText );
-}
-
-TEST( Numbers, AreTakenAsAStreamTakesThemAtRandom ) {
-    std::mt19937 random( 20 );
-    const auto pick = [&random]( std::size_t in_uCount ) { return static_cast<std::size_t>( random() ) % in_uCount; };
-    const std::string_view strAlphabet = "00112233456789012345678901234567899--++..eE  x,\tf";
-    for ( int n = 0; n < 5000; ++n ) {
-        std::string strText;
-        for ( std::size_t uLeft = pick( n % 5 == 0 ? 26 : 9 ); uLeft > 0; --uLeft )
-            strText += strAlphabet[pick( n % 5 == 0 ? 34 : strAlphabet.size() )];
-        expectAllLikeStream( strText );
-    }
 }
 
 } // namespace Velquin::Pstn::Test
