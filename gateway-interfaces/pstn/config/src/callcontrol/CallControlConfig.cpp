@@ -3,7 +3,7 @@
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
-#include "AppendToMap.h"
+#include "AppendUnique.h"
 
 namespace Velquin::Pstn {
 
@@ -14,7 +14,7 @@ bool CallControlConfig::addChannelGroupConfig( ChannelGroupConfig* in_pNewChanne
     if ( !VELQUIN_ASSERT( in_pNewChannelGroupConfig ) )
         return false;
     VELQUIN_LOG_DEBUG( getLogger(), "adding new channel group: " << hNewChannelGroupConfig->getId() );
-    if ( appendToMap( m_mapChannelGroups, hNewChannelGroupConfig->getId(), hNewChannelGroupConfig ) )
+    if ( appendUnique( m_mapChannelGroups, hNewChannelGroupConfig->getId(), hNewChannelGroupConfig ) )
         return true;
     VELQUIN_REPORT_ERROR( getLogger(), "failed to all new channel group: " << hNewChannelGroupConfig->getId() );
     return false;

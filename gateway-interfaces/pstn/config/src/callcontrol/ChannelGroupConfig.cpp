@@ -1,11 +1,11 @@
 #include "callcontrol/ChannelGroupConfig.h"
 
 #include <ostream>
-#include <utility>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
+#include "AppendUnique.h"
 #include "Text.h"
 #include "hardware/InterfaceConfig.h"
 
@@ -42,10 +42,7 @@ bool ChannelGroupConfig::addBChannelRangeConfig( BChannelRangeConfig* in_pNewBCh
         return false;
     const Adding adding{ *hNewBChannelRangeConfig, getId() };
     VELQUIN_LOG_DEBUG( getLogger(), adding );
-    // Documents mostly list the ranges of a group in ascending order: the end is tried first.
-    const std::size_t uSize = m_setBChannelRanges.size();
-    m_setBChannelRanges.insert( m_setBChannelRanges.end(), std::move( hNewBChannelRangeConfig ) );
-    if ( m_setBChannelRanges.size() > uSize )
+    if ( appendUnique( m_setBChannelRanges, hNewBChannelRangeConfig ) )
         return true;
     VELQUIN_REPORT_ERROR( getLogger(),
                           adding << ". One more channel of this range are already contained in this group. Please edit "

@@ -6,7 +6,7 @@
 #include <velquin/Finding.h>
 #include <velquin/TSHandle.h>
 
-#include "AppendToMap.h"
+#include "AppendUnique.h"
 
 namespace Velquin::Pstn {
 
@@ -20,7 +20,7 @@ template <class TConfig>
 bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, TSHandle<TConfig>& inout_hConfig,
                         const char* in_szKind, const Logger& in_logger ) {
     VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " config: " << inout_hConfig->getId() );
-    if ( appendToMap( inout_mapConfigs, inout_hConfig->getId(), inout_hConfig ) )
+    if ( appendUnique( inout_mapConfigs, inout_hConfig->getId(), inout_hConfig ) )
         return true;
     VELQUIN_REPORT_ERROR( in_logger, "failed to add " << in_szKind << " config : " << inout_hConfig->getId() );
     return false;

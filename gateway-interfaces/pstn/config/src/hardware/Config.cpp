@@ -3,7 +3,7 @@
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
-#include "AppendToMap.h"
+#include "AppendUnique.h"
 #include "hardware/InterfaceKind.h"
 
 namespace Velquin::Pstn {
@@ -17,7 +17,7 @@ bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, TSHand
                const char* in_szKind, const Logger& in_logger ) {
     VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
                                                 << inout_hBoard->getDisplayName() << ">" );
-    if ( appendToMap( inout_mapBoards, inout_hBoard->getId(), inout_hBoard ) )
+    if ( appendUnique( inout_mapBoards, inout_hBoard->getId(), inout_hBoard ) )
         return true;
     VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
                                                           << inout_hBoard->getDisplayName() << ">" );

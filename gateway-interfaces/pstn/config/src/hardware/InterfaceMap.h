@@ -8,7 +8,7 @@
 #include <velquin/Finding.h>
 #include <velquin/TSHandle.h>
 
-#include "AppendToMap.h"
+#include "AppendUnique.h"
 
 namespace Velquin::Pstn {
 
@@ -21,7 +21,7 @@ public:
     bool add( TSHandle<TInterface>& inout_hInterface, const char* in_szKind, const Logger& in_logger ) {
         VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " interface: " << inout_hInterface->getId() << "<"
                                                     << inout_hInterface->getDisplayName() << ">" );
-        if ( appendToMap( m_map, inout_hInterface->getId(), inout_hInterface ) )
+        if ( appendUnique( m_map, inout_hInterface->getId(), inout_hInterface ) )
             return true;
         VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind
                                                               << " interface: " << inout_hInterface->getId() << "<"

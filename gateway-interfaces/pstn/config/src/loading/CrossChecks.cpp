@@ -1,7 +1,6 @@
 #include "loading/CrossChecks.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <functional>
 #include <set>
 #include <type_traits>
@@ -9,6 +8,7 @@
 
 #include <velquin/Assertion.h>
 
+#include "AppendUnique.h"
 #include "hardware/InterfaceKind.h"
 #include "hardware/TirvanaAnalogBoardConfig.h"
 
@@ -74,28 +74,16 @@ void checkDigitalPhysicalConfigs( const CrossCheckSubject& in_subject, CrossChec
     checkPhysicalConfigs( in_subject.vecDigitalInterfaces, "Digital interface", out_findings );
 }
 
-/// The tirpipe numbers that are taken. They mostly come in ascending order, so that the end is tried first.
-class TakenTirpipes {
-public:
-    bool add( unsigned int in_uTirpipe ) {
-        const std::size_t uSize = m_setTirpipes.size();
-        m_setTirpipes.insert( m_setTirpipes.end(), in_uTirpipe );
-        return m_setTirpipes.size() > uSize;
-    }
-
-private:
-    std::set<unsigned int> m_setTirpipes;
-};
-
 void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
-    TakenTirpipes taken;
+    std::set<unsigned int> setTaken;
+    const auto take = [&setTaken]( unsigned int in_uTirpipe ) { return appendUnique( setTaken, in_uTirpipe ); };
     const auto describe = []( unsigned int in_uTirpipe ) {
         return " has an already used tirpipe number: " + std::to_string( in_uTirpipe ) +
                ". Please make sure every analog board and Digital interface has a unique tirpipe number.";
     };
     for ( const auto& [uBoardId, hBoard] : in_subject.config.getAnalogBoardsConfig() ) {
         const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() );
-        if ( pBoard && !taken.add( pBoard->getTirpipe() ) )
+        if ( pBoard && !take( pBoard->getTirpipe() ) )
             out_findings.push_back(
                 { true, uBoardId, std::nullopt,
                   "Analog board \"" + std::to_string( uBoardId ) + "\"" + describe( pBoard->getTirpipe() ) } );
@@ -103,7 +91,7 @@ void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out
     for ( const DigitalInterfaceConfig* const pDigitalInterface : in_subject.vecDigitalInterfaces ) {
         // A virtual span has no tirpipe number.
         const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( pDigitalInterface );
-        if ( pInterface && !taken.add( pInterface->getTirpipe() ) )
+        if ( pInterface && !take( pInterface->getTirpipe() ) )
             addFinding( *pDigitalInterface, "Digital Interface", describe( pInterface->getTirpipe() ), out_findings );
     }
 }

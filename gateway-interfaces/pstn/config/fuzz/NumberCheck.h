@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cmath>
+#include <locale>
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include "xml/Number.h"
+
+namespace Velquin::Pstn {
+
+/// What the parser of numbers does otherwise than a stream, or takes as a whole number though it is more than digits;
+/// null when it does neither.
+template <class T>
+const char* findNumberFault( const std::string& in_strText ) {
+    std::istringstream stream( in_strText );
+    stream.imbue( std::locale::classic() );
+    T expected = 0;
+    const bool bTaken = !( stream >> expected ).fail();
+    const std::optional<T> leading = parseNumber<T>( in_strText, NumberPolicy::LEADING );
+    if ( leading.has_value() != bTaken )
+        return "a number is taken when a stream takes it";
+    const auto isNegative = []( T in_number ) { return std::signbit( static_cast<double>( in_number ) ); };
+    if ( bTaken && ( *leading != expected || isNegative( *leading ) != isNegative( expected ) ) )
+        return "the number is that of a stream";
+    const bool bDigits = in_strText.find_first_not_of( "0123456789" ) == std::string::npos;
+    if ( parseNumber<T>( in_strText, NumberPolicy::WHOLE ) != ( bDigits ? leading : std::nullopt ) )
+        return "a whole number is digits only";
+    return nullptr;
+}
+
+/// The same for all kinds of numbers that the readers take.
+inline const char* findNumberFault( const std::string& in_strText ) {
+    for ( const char* const szFault : { findNumberFault<int>( in_strText ), findNumberFault<unsigned int>( in_strText ),
+                                        findNumberFault<unsigned long long>( in_strText ),
+                                        findNumberFault<double>( in_strText ) } ) {
+        if ( szFault )
+            return szFault;
+    }
+    return nullptr;
+}
+
+} // namespace Velquin::Pstn
