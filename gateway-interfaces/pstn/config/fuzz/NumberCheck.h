@@ -32,9 +32,9 @@ const char* findNumberFault( const std::string& in_strText ) {
 
 /// The same for all kinds of numbers that the readers take.
 inline const char* findNumberFault( const std::string& in_strText ) {
-    for ( const char* const szFault : { findNumberFault<int>( in_strText ), findNumberFault<unsigned int>( in_strText ),
-                                        findNumberFault<unsigned long long>( in_strText ),
-                                        findNumberFault<double>( in_strText ) } ) {
+    for ( const char* const szFault :
+          { findNumberFault<int>( in_strText ), findNumberFault<unsigned int>( in_strText ),
+            findNumberFault<unsigned long long>( in_strText ), findNumberFault<double>( in_strText ) } ) {
         if ( szFault )
             return szFault;
     }
