@@ -30,6 +30,7 @@
 #include "loading/XmlConfig.h"
 #include "physical/InterfacePhysicalConfigXmlSerializer.h"
 #include "xml/LibXml2.h"
+#include "xml/XmlDocumentReader.h"
 
 using namespace Velquin;
 using namespace Velquin::Pstn;
@@ -40,8 +41,6 @@ constexpr unsigned int SIZES[] = { 128, 1024, 4096, 16384, 65536 };
 constexpr unsigned int LIST_SIZES[] = { 1000, 4000, 16000, 64000 };
 constexpr const char* SHAPES[] = { "trunks", "carrier", "mixed" };
 constexpr const char* SCHEMA = PSTN_BENCH_SCHEMA;
-/// How the library reads a document.
-constexpr int PARSE_OPTIONS_OF_LOAD = XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_NOBLANKS;
 
 using Clock = std::chrono::steady_clock;
 
@@ -156,8 +155,9 @@ void measureFloor( benchmark::State& inout_state, const Documents::Document& in_
     }
 }
 
-XmlDocPtr parse( const Documents::Document& in_document ) {
-    return XmlDocPtr( xmlReadFile( in_document.strPath.c_str(), nullptr, PARSE_OPTIONS_OF_LOAD ) );
+DocumentTreePtr parse( const Documents::Document& in_document ) {
+    static const Logger logger( "load_benchmark" );
+    return readXmlDocument( in_document.strPath.c_str(), logger );
 }
 
 void measureParse( benchmark::State& inout_state, const Documents::Document& in_document ) {
@@ -176,11 +176,11 @@ void measureSchema( benchmark::State& inout_state ) {
 }
 
 void measureValidation( benchmark::State& inout_state, const Documents::Document& in_document ) {
-    const XmlDocPtr pDocument = parse( in_document );
+    const DocumentTreePtr pTree = parse( in_document );
     const XmlRelaxNGPtr pSchema = compileSchema();
     for ( [[maybe_unused]] auto _ : inout_state ) {
         const XmlRelaxNGValidCtxtPtr pContext( xmlRelaxNGNewValidCtxt( pSchema.get() ) );
-        if ( xmlRelaxNGValidateDoc( pContext.get(), pDocument.get() ) != 0 )
+        if ( xmlRelaxNGValidateDoc( pContext.get(), pTree->getDocument() ) != 0 )
             inout_state.SkipWithError( "not valid" );
     }
 }
@@ -188,10 +188,10 @@ void measureValidation( benchmark::State& inout_state, const Documents::Document
 /// The sections of a document, read one by one by the serializers that a load uses. A section needs those before it.
 enum class Section { PROVIDERS, BOARDS, PHYSICAL_CONFIGS, CALL_CONTROL };
 
-bool readSection( Section in_eSection, const XmlDocPtr& in_pDocument, XmlConfig& inout_config ) {
+bool readSection( Section in_eSection, const DocumentTree& in_tree, XmlConfig& inout_config ) {
     constexpr const char* NAMES[] = { "providers", "boards", "physicalInterfaceConfigs", "callControl" };
     const XmlSerializerObjectFactory& factory = inout_config.getXmlSerializerObjectFactory();
-    xmlNode* pSection = xmlFirstElementChild( xmlDocGetRootElement( in_pDocument.get() ) );
+    xmlNode* pSection = xmlFirstElementChild( xmlDocGetRootElement( in_tree.getDocument() ) );
     while ( pSection && std::string_view( fromXml( pSection->name ) ) != NAMES[static_cast<int>( in_eSection )] )
         pSection = xmlNextElementSibling( pSection );
     if ( !pSection )
@@ -222,14 +222,14 @@ bool readSection( Section in_eSection, const XmlDocPtr& in_pDocument, XmlConfig&
 
 template <Section eMeasured>
 void measureSection( benchmark::State& inout_state, const Documents::Document& in_document ) {
-    const XmlDocPtr pDocument = parse( in_document );
+    const DocumentTreePtr pTree = parse( in_document );
     for ( [[maybe_unused]] auto _ : inout_state ) {
         XmlConfig config;
         bool bRead = true;
         for ( int nSection = 0; nSection < static_cast<int>( eMeasured ); ++nSection )
-            bRead = bRead && readSection( static_cast<Section>( nSection ), pDocument, config );
+            bRead = bRead && readSection( static_cast<Section>( nSection ), *pTree, config );
         const auto start = Clock::now();
-        bRead = bRead && readSection( eMeasured, pDocument, config );
+        bRead = bRead && readSection( eMeasured, *pTree, config );
         inout_state.SetIterationTime( getSecondsSince( start ) );
         if ( !bRead )
             inout_state.SkipWithError( "not read" );

@@ -59,13 +59,6 @@ void appendNumberedLine( std::string& inout_strText, unsigned long long in_ullLi
     inout_strText.append( ": " ).append( in_strLine ).append( "\n" );
 }
 
-/// Removes the attributes of the element and its children.
-void removeAttributes( xmlNode* inout_pElement ) {
-    xmlFreePropList( std::exchange( inout_pElement->properties, nullptr ) );
-    for ( xmlNode* const pChild : ChildElements( inout_pElement ) )
-        xmlFreePropList( std::exchange( pChild->properties, nullptr ) );
-}
-
 /// Whether a schema draws in other files, which a load doesn't read.
 bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
     for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
@@ -99,13 +92,13 @@ private:
 
     static bool logContent( const char* in_szConfigFile );
     /// Compiles the schema, and hands out its document for those who ask what it says.
-    static XmlRelaxNGPtr compileSchema( const char* in_szSchemaFile, XmlDocPtr& out_pSchemaDocument );
-    static XmlDocPtr loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile );
+    static XmlRelaxNGPtr compileSchema( const char* in_szSchemaFile, DocumentTreePtr& out_pSchemaTree );
+    static DocumentTreePtr loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile );
     template <class ReadEntry>
     static bool loadSection( const xmlNode* in_pRootNode, const char* in_szSection, const char* in_szSubject,
                              ReadEntry in_readEntry );
     bool loadProvidersConfig( const xmlNode* in_pRootNode );
-    bool loadBoardsConfig( const xmlNode* in_pRootNode );
+    bool loadBoardsConfig( const xmlNode* in_pRootNode, DocumentTree& inout_tree );
     bool loadInterfacePhysicalsConfig( const xmlNode* in_pRootNode );
     bool loadCallControlConfig( const xmlNode* in_pRootNode );
     bool crossCheck( const xmlNode* in_pRootNode ) const;
@@ -127,13 +120,13 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
 
     if ( in_bLogContent && !logContent( in_szConfigFile ) )
         return false;
-    const XmlDocPtr pDocument = loadAndValidateXmlDocument( in_szConfigFile, in_szSchemaFile );
-    if ( !pDocument )
+    const DocumentTreePtr pTree = loadAndValidateXmlDocument( in_szConfigFile, in_szSchemaFile );
+    if ( !pTree )
         return false;
-    const xmlNode* const pRootNode = xmlDocGetRootElement( pDocument.get() );
+    const xmlNode* const pRootNode = xmlDocGetRootElement( pTree->getDocument() );
     if ( !VELQUIN_ASSERT( pRootNode ) )
         return false;
-    return loadProvidersConfig( pRootNode ) && loadBoardsConfig( pRootNode ) &&
+    return loadProvidersConfig( pRootNode ) && loadBoardsConfig( pRootNode, *pTree ) &&
            loadInterfacePhysicalsConfig( pRootNode ) && loadCallControlConfig( pRootNode ) && crossCheck( pRootNode );
 }
 
@@ -162,14 +155,15 @@ bool XmlConfig::Impl::logContent( const char* in_szConfigFile ) {
     return true;
 }
 
-XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, XmlDocPtr& out_pSchemaDocument ) {
+XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, DocumentTreePtr& out_pSchemaTree ) {
     VELQUIN_LOG_DEBUG( getLogger(), "Validating Relax-NG file (" << in_szSchemaFile << ")..." );
     VELQUIN_LOG_DEBUG( getLogger(), "Creating RelaxNG parser context..." );
     LibXml2ErrorRoute errorRoute( getLogger(), in_szSchemaFile );
-    out_pSchemaDocument = readXmlDocument( in_szSchemaFile, getLogger() );
+    out_pSchemaTree = readXmlDocument( in_szSchemaFile, getLogger() );
+    xmlDoc* const pDocument = out_pSchemaTree ? out_pSchemaTree->getDocument() : nullptr;
     // The context works on a copy of the document.
     const XmlRelaxNGParserCtxtPtr pParserContext(
-        out_pSchemaDocument ? xmlRelaxNGNewDocParserCtxt( out_pSchemaDocument.get() ) : nullptr );
+        pDocument ? xmlRelaxNGNewDocParserCtxt( pDocument ) : nullptr );
     if ( !pParserContext ) {
         VELQUIN_REPORT_ERROR( getLogger(), "failed to load the schema file : " << in_szSchemaFile );
         return nullptr;
@@ -177,7 +171,7 @@ XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, XmlDo
     xmlRelaxNGSetParserStructuredErrors( pParserContext.get(), &LibXml2ErrorRoute::onStructuredError, &errorRoute );
     VELQUIN_LOG_DEBUG( getLogger(), "Compiling RelaxNG schema file " << in_szSchemaFile << "..." );
     XmlRelaxNGPtr pSchema;
-    if ( !refersToOtherFiles( reinterpret_cast<const xmlNode*>( out_pSchemaDocument.get() ), getLogger() ) )
+    if ( !refersToOtherFiles( reinterpret_cast<const xmlNode*>( pDocument ), getLogger() ) )
         pSchema.reset( xmlRelaxNGParse( pParserContext.get() ) );
     if ( errorRoute.isOutOfMemory() )
         pSchema.reset();
@@ -186,12 +180,12 @@ XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, XmlDo
     return pSchema;
 }
 
-XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile ) {
+DocumentTreePtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile ) {
     VELQUIN_TRACE_SCOPE( getLogger(), "Config::loadAndValidateXmlDocument" );
     VELQUIN_LOG_DEBUG( getLogger(), "loading PSTN configuration \nPSTN Configuration XML file: "
                                         << in_szConfigFile << "\nRelaxNG schema file: " << in_szSchemaFile );
-    XmlDocPtr pSchemaDocument;
-    const XmlRelaxNGPtr pSchema = compileSchema( in_szSchemaFile, pSchemaDocument );
+    DocumentTreePtr pSchemaTree;
+    const XmlRelaxNGPtr pSchema = compileSchema( in_szSchemaFile, pSchemaTree );
     if ( !pSchema )
         return nullptr;
     const XmlRelaxNGValidCtxtPtr pValidationContext( xmlRelaxNGNewValidCtxt( pSchema.get() ) );
@@ -203,24 +197,25 @@ XmlDocPtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFi
     LibXml2ErrorRoute errorRoute( getLogger(), in_szConfigFile );
     xmlRelaxNGSetValidStructuredErrors( pValidationContext.get(), &LibXml2ErrorRoute::onStructuredError, &errorRoute );
 
-    XmlDocPtr pDocument = readXmlDocument( in_szConfigFile, getLogger() );
-    if ( !pDocument ) {
+    DocumentTreePtr pTree = readXmlDocument( in_szConfigFile, getLogger() );
+    if ( !pTree ) {
         VELQUIN_REPORT_ERROR( getLogger(), "failed to parse XML file " << in_szConfigFile );
         return nullptr;
     }
+    xmlDoc* const pDocument = pTree->getDocument();
     // Of a document that has a URL, libxml2 walks over all preceding siblings for every error.
     XmlStringPtr pUrl( const_cast<xmlChar*>( std::exchange( pDocument->URL, nullptr ) ) );
-    const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument.get() ) == 0;
+    const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument ) == 0;
     pDocument->URL = pUrl.release();
     if ( !bValid || errorRoute.isOutOfMemory() ) {
-        SchemaAdvisor advisor( pSchemaDocument.get() );
+        SchemaAdvisor advisor( pSchemaTree->getDocument() );
         for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
             advisor.advise( pElement, getLogger() );
         VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "
                                                << in_szConfigFile << " against schema " << in_szSchemaFile );
         return nullptr;
     }
-    return pDocument;
+    return pTree;
 }
 
 /// Reads the entries of one section, in document order; a section that is absent or empty is valid.
@@ -258,9 +253,9 @@ bool XmlConfig::Impl::loadProvidersConfig( const xmlNode* in_pRootNode ) {
     return loadSection( in_pRootNode, "providers", "Configuration of the provider ", readEntry );
 }
 
-bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode ) {
+bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode, DocumentTree& inout_tree ) {
     VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::Impl::loadBoardsConfig" );
-    const auto readEntry = [this]( xmlNode* in_pEntry, const char* in_szName ) {
+    const auto readEntry = [this, &inout_tree]( xmlNode* in_pEntry, const char* in_szName ) {
         const TSHandle<BoardConfigXmlSerializer> pBoardConfigXmlSerializer(
             m_pFactory->newBoardConfigXmlSerializer( in_szName ) );
         if ( !VELQUIN_ASSERT( !pBoardConfigXmlSerializer.isNull() ) )
@@ -271,7 +266,7 @@ bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode ) {
         if ( !m_pOwner->addBoardConfig( pBoardConfig ) )
             return Entry::REFUSED;
         // The model has what they say, and grows in the memory that they give back.
-        removeAttributes( in_pEntry );
+        inout_tree.removeAttributes( in_pEntry );
         return Entry::ATTACHED;
     };
     return loadSection( in_pRootNode, "boards", "Configuration of the board ", readEntry );

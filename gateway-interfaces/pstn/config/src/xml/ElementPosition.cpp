@@ -1,5 +1,6 @@
 #include "xml/ElementPosition.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "xml/LibXml2.h"
@@ -8,6 +9,8 @@ namespace Velquin::Pstn {
 
 void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept {
     in_pElement->_private = reinterpret_cast<void*>( static_cast<std::uintptr_t>( in_ullLine ) );
+    // For copies of the document, which libxml2's compiler of schemas works on.
+    in_pElement->line = static_cast<unsigned short>( std::min( in_ullLine, 65535ULL ) );
 }
 
 unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept {

@@ -10,6 +10,7 @@
 
 #include "xml/ElementPosition.h"
 #include "xml/InputFile.h"
+#include "xml/LibXml2.h"
 #include "xml/LibXml2Errors.h"
 
 namespace Velquin::Pstn {
@@ -26,6 +27,7 @@ constexpr std::streamsize MAX_DTD_BYTES = 16384;
 struct ParseState {
     const Logger& logger;
     const char* szPath;
+    DocumentTree& tree;
     const xmlParserCtxt* pContext = nullptr;
     std::ifstream stream{};
     std::streamsize nDtdBytes = 0;
@@ -106,12 +108,12 @@ void onStartElement( void* in_pContext, const xmlChar* in_szName, const xmlChar*
         return;
     }
     auto* const pContext = static_cast<xmlParserCtxt*>( in_pContext );
-    // Not to look for identifiers (`xml:id`) among the attributes of every element; reading clears it at its start.
-    pContext->loadsubset |= XML_SKIP_IDS;
-    xmlSAX2StartElementNs( in_pContext, in_szName, in_szPrefix, in_szUri, in_nNamespaces, in_aszNamespaces,
-                           in_nAttributes, in_nDefaulted, in_aszAttributes );
-    if ( pContext->node && pContext->input && pContext->input->line > 0 )
-        setElementLine( pContext->node, static_cast<unsigned long long>( pContext->input->line ) );
+    guardCallback( ParseState::of( pContext ), [&]( ParseState& inout_state ) {
+        inout_state.tree.startElement( pContext, in_szName, in_szPrefix, in_szUri, in_nNamespaces, in_aszNamespaces,
+                                       in_nAttributes - in_nDefaulted, in_aszAttributes );
+    } );
+    if ( ParseState::of( pContext ).bEnded )
+        xmlStopParser( pContext );
 }
 
 void refuseEntity( void* in_pContext, const xmlChar* in_szName ) {
@@ -160,10 +162,29 @@ int readChunk( void* in_pState, char* out_pBuffer, int in_nSize ) {
     return static_cast<int>( state.stream.gcount() );
 }
 
+/// Makes the state's stream what the context parses.
+void setInput( xmlParserCtxt& inout_context, ParseState& inout_state ) {
+    xmlParserInputBuffer* const pBuffer =
+        xmlParserInputBufferCreateIO( &readChunk, nullptr, &inout_state, XML_CHAR_ENCODING_NONE );
+    if ( !pBuffer )
+        throw std::bad_alloc();
+    xmlParserInput* const pInput = xmlNewIOInputStream( &inout_context, pBuffer, XML_CHAR_ENCODING_NONE );
+    if ( !pInput ) {
+        xmlFreeParserInputBuffer( pBuffer );
+        throw std::bad_alloc();
+    }
+    if ( inputPush( &inout_context, pInput ) < 0 ) // and freed it
+        throw std::bad_alloc();
+    pInput->filename = reinterpret_cast<char*>( xmlStrdup( toXml( inout_state.szPath ) ) );
+    if ( !pInput->filename )
+        throw std::bad_alloc();
+}
+
 } // namespace
 
-XmlDocPtr readXmlDocument( const char* in_szPath, const Logger& in_logger ) {
-    ParseState state{ in_logger, in_szPath };
+DocumentTreePtr readXmlDocument( const char* in_szPath, const Logger& in_logger ) {
+    auto pTree = std::make_unique<DocumentTree>();
+    ParseState state{ in_logger, in_szPath, *pTree };
     if ( const std::string strWhy = openInputFile( in_szPath, state.stream ); !strWhy.empty() ) {
         reportFile( state, Finding::Kind::UNREADABLE_FILE, 0, "Can't read, " + strWhy );
         return nullptr;
@@ -178,15 +199,18 @@ XmlDocPtr readXmlDocument( const char* in_szPath, const Logger& in_logger ) {
     pContext->sax->entityDecl = &onEntityDeclaration;
     pContext->sax->unparsedEntityDecl = &onUnparsedEntityDeclaration;
     pContext->sax->attributeDecl = &onAttributeDeclaration;
+    xmlCtxtUseOptions( pContext.get(), XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_NOBLANKS );
+    setInput( *pContext, state );
 
-    XmlDocPtr pDocument( xmlCtxtReadIO( pContext.get(), &readChunk, nullptr, &state, in_szPath, nullptr,
-                                        XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_NOBLANKS ) );
+    const bool bWellFormed = xmlParseDocument( pContext.get() ) == 0;
+    pTree->takeFrom( pContext.get() );
     if ( state.stream.bad() )
         reportFile( state, Finding::Kind::UNREADABLE_FILE, 0, "Can't read to the end" );
     // libxml2 takes a NUL character for the file's end.
     if ( const xmlParserInput* const pRest = pContext->input; pRest && pRest->cur < pRest->end && *pRest->cur == 0 )
         refuse( state, "NUL character" );
-    if ( !pDocument || state.bRefused )
+    xmlDoc* const pDocument = pTree->getDocument();
+    if ( !bWellFormed || !pDocument || state.bRefused )
         return nullptr;
     // libxml2 keeps a URI, escaped; messages name the file as the program named it.
     XmlStringPtr pUrl( xmlStrdup( toXml( in_szPath ) ) );
@@ -194,7 +218,7 @@ XmlDocPtr readXmlDocument( const char* in_szPath, const Logger& in_logger ) {
         throw std::bad_alloc();
     xmlFree( const_cast<xmlChar*>( pDocument->URL ) );
     pDocument->URL = pUrl.release();
-    return pDocument;
+    return pTree;
 }
 
 } // namespace Velquin::Pstn

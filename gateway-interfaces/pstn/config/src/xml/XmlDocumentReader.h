@@ -2,7 +2,7 @@
 
 #include <velquin/Logger.h>
 
-#include "xml/LibXml2.h"
+#include "xml/DocumentTree.h"
 
 namespace Velquin::Pstn {
 
@@ -12,6 +12,6 @@ namespace Velquin::Pstn {
 /// declares entities or default values of attributes, or has so much of something that parsing would take long.
 /// @param in_szPath a regular file
 /// @throws std::bad_alloc
-XmlDocPtr readXmlDocument( const char* in_szPath, const Logger& in_logger );
+DocumentTreePtr readXmlDocument( const char* in_szPath, const Logger& in_logger );
 
 } // namespace Velquin::Pstn
