@@ -162,8 +162,7 @@ XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, Docum
     out_pSchemaTree = readXmlDocument( in_szSchemaFile, getLogger() );
     xmlDoc* const pDocument = out_pSchemaTree ? out_pSchemaTree->getDocument() : nullptr;
     // The context works on a copy of the document.
-    const XmlRelaxNGParserCtxtPtr pParserContext(
-        pDocument ? xmlRelaxNGNewDocParserCtxt( pDocument ) : nullptr );
+    const XmlRelaxNGParserCtxtPtr pParserContext( pDocument ? xmlRelaxNGNewDocParserCtxt( pDocument ) : nullptr );
     if ( !pParserContext ) {
         VELQUIN_REPORT_ERROR( getLogger(), "failed to load the schema file : " << in_szSchemaFile );
         return nullptr;
@@ -180,7 +179,8 @@ XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, Docum
     return pSchema;
 }
 
-DocumentTreePtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile ) {
+DocumentTreePtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFile,
+                                                             const char* in_szSchemaFile ) {
     VELQUIN_TRACE_SCOPE( getLogger(), "Config::loadAndValidateXmlDocument" );
     VELQUIN_LOG_DEBUG( getLogger(), "loading PSTN configuration \nPSTN Configuration XML file: "
                                         << in_szConfigFile << "\nRelaxNG schema file: " << in_szSchemaFile );

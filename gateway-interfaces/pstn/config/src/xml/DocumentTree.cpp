@@ -1,7 +1,6 @@
 #include "xml/DocumentTree.h"
 
 #include <algorithm>
-#include <cstring>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -22,6 +21,13 @@ constexpr std::size_t ALIGNMENT = alignof( xmlNode );
 /// What libxml2 hands over of each attribute.
 enum AttributeField { NAME, PREFIX, URI, VALUE, VALUE_END, ATTRIBUTE_FIELDS };
 
+/// The namespace of a prefix that is declared.
+xmlNs* getNamespace( xmlNode* in_pElement, const xmlChar* in_szPrefix ) {
+    if ( xmlNs* const pNamespace = xmlSearchNs( in_pElement->doc, in_pElement, in_szPrefix ) )
+        return pNamespace;
+    throw std::bad_alloc(); // libxml2 makes that of "xml" at its first use
+}
+
 /// Frees what libxml2 allocated below an element: all that is no element, and declarations of namespaces.
 void freeAllocatedNodes( xmlNode* inout_pElement ) {
     xmlFreeNsList( inout_pElement->nsDef );
@@ -37,12 +43,13 @@ void freeAllocatedNodes( xmlNode* inout_pElement ) {
 
 } // namespace
 
-/// Memory that is handed out from its beginning to its end and freed as a whole.
+/// Memory that is handed out from its beginning to its end, and freed when all of it was taken back.
 class DocumentTree::Block {
 public:
     explicit Block( std::size_t in_uBytes )
-        : m_pMemory( std::make_unique_for_overwrite<std::byte[]>( in_uBytes ) ), m_uFree( in_uBytes ),
-          m_pFree( m_pMemory.get() ) {}
+        : m_pMemory( std::make_unique_for_overwrite<std::byte[]>( in_uBytes ) ),
+          m_pFree( m_pMemory.get() ),
+          m_uFree( in_uBytes ) {}
 
     bool hasRoomFor( std::size_t in_uBytes ) const noexcept { return in_uBytes <= m_uFree; }
     void* handOut( std::size_t in_uBytes ) noexcept {
@@ -57,26 +64,10 @@ public:
 
 private:
     std::unique_ptr<std::byte[]> m_pMemory;
-    std::size_t m_uFree;
     std::byte* m_pFree;
+    std::size_t m_uFree;
     std::size_t m_uInUse = 0;
 };
-
-/// An attribute, its text node and, behind them, the text.
-struct DocumentTree::Attribute {
-    xmlAttr attribute;
-    xmlNode text;
-};
-
-/// A zeroed T with room for more behind it.
-template <class T>
-T* DocumentTree::add( Blocks& inout_blocks, std::size_t in_uBytes ) {
-    static_assert( std::is_trivial_v<T> && alignof( T ) <= ALIGNMENT );
-    const std::size_t uBytes = ( in_uBytes + ALIGNMENT - 1 ) / ALIGNMENT * ALIGNMENT;
-    if ( inout_blocks.empty() || !inout_blocks.back()->hasRoomFor( uBytes ) )
-        inout_blocks.push_back( std::make_unique<Block>( std::max( uBytes, BLOCK_BYTES ) ) );
-    return new ( inout_blocks.back()->handOut( uBytes ) ) T{};
-}
 
 DocumentTree::DocumentTree() = default;
 
@@ -104,7 +95,7 @@ void DocumentTree::startElement( xmlParserCtxt* inout_pContext, const xmlChar* i
     if ( inout_pContext->input && inout_pContext->input->line > 0 )
         setElementLine( pElement, static_cast<unsigned long long>( inout_pContext->input->line ) );
 
-    inout_pContext->nodemem = -1; // a text that follows isn't one that was begun
+    inout_pContext->nodemem = -1; // text that follows doesn't go on with what was before
     if ( nodePush( inout_pContext, pElement ) < 0 )
         return; // and libxml2 has ended the parse
     xmlAddChild( pParent, pElement );
@@ -116,7 +107,7 @@ void DocumentTree::startElement( xmlParserCtxt* inout_pContext, const xmlChar* i
             throw std::bad_alloc();
     }
     if ( in_szUri )
-        pElement->ns = xmlSearchNs( pDocument, pElement, in_szPrefix );
+        pElement->ns = getNamespace( pElement, in_szPrefix );
 
     xmlAttr* pLast = nullptr;
     for ( int i = 0; i < in_nAttributes; ++i, in_aszAttributes += ATTRIBUTE_FIELDS ) {
@@ -127,43 +118,82 @@ void DocumentTree::startElement( xmlParserCtxt* inout_pContext, const xmlChar* i
     }
 }
 
-xmlAttr* DocumentTree::addAttribute( xmlNode* in_pElement, const xmlChar* const* in_aszFields ) {
-    const xmlChar* const szValue = in_aszFields[VALUE];
-    const auto uLength = static_cast<std::size_t>( in_aszFields[VALUE_END] - szValue );
-    auto* const pBoth = add<Attribute>( m_attributes, sizeof( Attribute ) + uLength + 1 );
-    xmlAttr& attribute = pBoth->attribute;
-    attribute._private = m_attributes.back().get();
-    attribute.type = XML_ATTRIBUTE_NODE;
-    attribute.name = in_aszFields[NAME];
-    attribute.parent = in_pElement;
-    attribute.doc = in_pElement->doc;
-    if ( in_aszFields[URI] )
-        attribute.ns = xmlSearchNs( attribute.doc, in_pElement, in_aszFields[PREFIX] );
-    if ( std::memchr( szValue, '&', uLength ) ) {
-        xmlNode*& pValue = m_vecReferring.emplace_back( nullptr );
-        pValue = attribute.children = xmlStringLenGetNodeList( attribute.doc, szValue, static_cast<int>( uLength ) );
-        if ( !pValue )
-            throw std::bad_alloc();
-        for ( xmlNode* pNode = attribute.children; pNode; pNode = pNode->next ) {
-            pNode->parent = reinterpret_cast<xmlNode*>( &attribute );
-            attribute.last = pNode;
-        }
-        return &attribute;
-    }
-    xmlNode& text = pBoth->text;
-    text.type = XML_TEXT_NODE;
-    text.name = xmlStringText;
-    text.doc = attribute.doc;
-    text.parent = reinterpret_cast<xmlNode*>( &attribute );
-    text.content = reinterpret_cast<xmlChar*>( pBoth + 1 );
-    std::memcpy( text.content, szValue, uLength );
-    text.content[uLength] = 0;
-    attribute.children = attribute.last = &text;
-    return &attribute;
-}
-
 void DocumentTree::takeFrom( xmlParserCtxt* inout_pContext ) noexcept {
     m_pDocument = std::exchange( inout_pContext->myDoc, nullptr );
+}
+
+/// A zeroed T, with room for more behind it.
+template <class T>
+T* DocumentTree::add( Blocks& inout_blocks, std::size_t in_uBytes ) {
+    static_assert( std::is_trivial_v<T> && alignof( T ) <= ALIGNMENT );
+    const std::size_t uBytes = ( in_uBytes + ALIGNMENT - 1 ) / ALIGNMENT * ALIGNMENT;
+    if ( inout_blocks.empty() || !inout_blocks.back()->hasRoomFor( uBytes ) )
+        inout_blocks.push_back( std::make_unique<Block>( std::max( uBytes, BLOCK_BYTES ) ) );
+    return new ( inout_blocks.back()->handOut( uBytes ) ) T{};
+}
+
+xmlNode* DocumentTree::addText( Blocks& inout_blocks, std::string_view in_strText ) {
+    auto* const pText = add<xmlNode>( inout_blocks, sizeof( xmlNode ) + in_strText.size() + 1 );
+    pText->type = XML_TEXT_NODE;
+    pText->name = xmlStringText;
+    pText->content = reinterpret_cast<xmlChar*>( pText + 1 );
+    *std::copy( in_strText.begin(), in_strText.end(), pText->content ) = 0;
+    return pText;
+}
+
+xmlAttr* DocumentTree::addAttribute( xmlNode* in_pElement, const xmlChar* const* in_aszFields ) {
+    auto* const pAttribute = add<xmlAttr>( m_attributes );
+    pAttribute->_private = m_attributes.back().get();
+    pAttribute->type = XML_ATTRIBUTE_NODE;
+    pAttribute->name = in_aszFields[NAME];
+    pAttribute->parent = in_pElement;
+    pAttribute->doc = in_pElement->doc;
+    if ( in_aszFields[URI] )
+        pAttribute->ns = getNamespace( in_pElement, in_aszFields[PREFIX] );
+    setValue( *pAttribute, { fromXml( in_aszFields[VALUE] ),
+                             static_cast<std::size_t>( in_aszFields[VALUE_END] - in_aszFields[VALUE] ) } );
+    return pAttribute;
+}
+
+void DocumentTree::setValue( xmlAttr& inout_attribute, std::string_view in_strValue ) {
+    if ( in_strValue.find( '&' ) != std::string_view::npos ) {
+        setReferringValue( inout_attribute, in_strValue );
+        return;
+    }
+    xmlNode* pText = nullptr;
+    if ( in_strValue.size() <= sizeof( SharedText::ullText ) ) {
+        pText = getSharedText( in_strValue );
+    } else {
+        pText = addText( m_attributes, in_strValue );
+        pText->_private = m_attributes.back().get();
+        pText->parent = reinterpret_cast<xmlNode*>( &inout_attribute );
+    }
+    pText->doc = inout_attribute.doc;
+    inout_attribute.children = inout_attribute.last = pText;
+}
+
+/// Sets a value with references to characters or entities, of which libxml2 makes nodes by itself.
+void DocumentTree::setReferringValue( xmlAttr& inout_attribute, std::string_view in_strValue ) {
+    xmlNode*& pValue = m_vecReferring.emplace_back( nullptr );
+    pValue = xmlStringLenGetNodeList( inout_attribute.doc, toXml( in_strValue.data() ),
+                                      static_cast<int>( in_strValue.size() ) );
+    if ( !pValue )
+        throw std::bad_alloc();
+    inout_attribute.children = pValue;
+    for ( xmlNode* pNode = pValue; pNode; pNode = pNode->next ) {
+        pNode->parent = reinterpret_cast<xmlNode*>( &inout_attribute );
+        inout_attribute.last = pNode;
+    }
+}
+
+/// A text of up to eight characters, none of them NUL: most are numbers and keywords, of which a file repeats few.
+xmlNode* DocumentTree::getSharedText( std::string_view in_strText ) {
+    std::uint64_t ullText = 0;
+    std::copy( in_strText.begin(), in_strText.end(), reinterpret_cast<char*>( &ullText ) );
+    SharedText& shared = m_aSharedTexts[ullText * 0x9E3779B97F4A7C15U >> 55]; // Fibonacci hashing to nine bits
+    if ( !shared.pText || shared.ullText != ullText )
+        shared = { ullText, addText( m_elements, in_strText ) };
+    return shared.pText;
 }
 
 void DocumentTree::removeAttributes( xmlNode* inout_pElement ) noexcept {
@@ -174,9 +204,13 @@ void DocumentTree::removeAttributes( xmlNode* inout_pElement ) noexcept {
 
 void DocumentTree::removeAttributesOf( xmlNode* inout_pElement ) noexcept {
     for ( xmlAttr* pAttribute = std::exchange( inout_pElement->properties, nullptr ); pAttribute; ) {
-        auto* const pBlock = static_cast<Block*>( pAttribute->_private );
+        // The blocks that are counted stand in `_private`, which is null in a value that isn't the attribute's own.
+        void* const apBlocks[] = { pAttribute->children->_private, pAttribute->_private };
         pAttribute = pAttribute->next;
-        pBlock->takeBack();
+        for ( void* const pBlock : apBlocks ) {
+            if ( pBlock )
+                static_cast<Block*>( pBlock )->takeBack();
+        }
     }
 }
 
