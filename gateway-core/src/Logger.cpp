@@ -41,13 +41,19 @@ bool Logger::isEnabledFor( int in_nLevel ) const noexcept {
 
 void Logger::log( int in_nLevel, const std::string& in_strMessage, const char* in_szFile,
                   int in_nLine ) const noexcept {
+    if ( !isEnabledFor( in_nLevel ) )
+        return;
+    const auto write = [&]( const std::string& in_strText ) {
+        getBackend()->logger.forcedLog( in_nLevel, LOG4CPLUS_STRING_TO_TSTRING( in_strText ), in_szFile, in_nLine, "" );
+    };
     try {
-        if ( !isEnabledFor( in_nLevel ) )
-            return;
-        getBackend()->logger.forcedLog( in_nLevel, LOG4CPLUS_STRING_TO_TSTRING( in_strMessage ), in_szFile, in_nLine,
-                                        "" );
+        write( in_strMessage );
     } catch ( ... ) {
-        // There is nowhere left to tell that a record couldn't be written.
+        try {
+            write( "out of memory: a line of the log is lost" ); // it may have been the only one about a failure
+        } catch ( ... ) {
+            // There is nowhere left to tell that.
+        }
     }
 }
 
