@@ -1,5 +1,6 @@
 #include "LoadCheck.h"
 
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -7,6 +8,7 @@
 
 #include "ErrorCount.h"
 #include "FuzzTarget.h"
+#include "ModelText.h"
 #include "QuietLog.h"
 #include "TemporaryFile.h"
 #include "hardware/InterfaceKind.h"
@@ -40,11 +42,10 @@ void readBoards( const XmlConfig& in_config ) {
     }
 }
 
-void readCallControl( const XmlConfig& in_config ) {
-    const TSHandle<CallControlConfig> hCallControl = in_config.getCallControlConfig();
-    require( !hCallControl.isNull(), "what was loaded has call control" );
-    for ( const auto& [strId, hGroup] : hCallControl->getChannelGroupsConfig() )
-        require( !hGroup.isNull() && strId == hGroup->getId(), "a channel group stands under its identifier" );
+/// What a model holds of that which is written.
+std::string describeWritten( const XmlConfig& in_config ) {
+    static const std::regex s_notWritten( "[^\n]*primaryClockReference[^\n]*\n" );
+    return std::regex_replace( describeBoards( in_config ), s_notWritten, "" );
 }
 
 } // namespace
@@ -62,7 +63,8 @@ void checkLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool i
         const unsigned int uErrors = errors.get();
         readBoards<AnalogKind>( config );
         readBoards<DigitalKind>( config );
-        readCallControl( config );
+        require( !config.getCallControlConfig().isNull(), "what was loaded has call control" );
+        require( !describeModel( config ).empty(), "a model can be described" );
         std::set<std::string> setToneSets;
         require( config.getToneSets( setToneSets ), "the tone sets can be listed" );
         require( errors.get() == uErrors, "a loaded model is read without an error" );
@@ -76,6 +78,7 @@ void checkLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool i
     XmlConfig again;
     require( !again.load( s_written.getPath(), PSTN_FUZZ_ANY_SCHEMA, false ), "boards alone are no configuration" );
     require( write( again ) == strWritten, "boards are written as they are read back" );
+    require( describeWritten( again ) == describeWritten( config ), "and are the same" );
 }
 
 } // namespace Velquin::Pstn::Fuzz

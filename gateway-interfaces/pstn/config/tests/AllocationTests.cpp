@@ -120,15 +120,15 @@ struct Document {
 std::vector<Document> getDocuments() {
     std::vector<Document> vecDocuments{ { "complete.xml", TestDocument().getText(), ANY_SCHEMA } };
     for ( const auto& entry : std::filesystem::directory_iterator( EXAMPLES_FOLDER ) ) {
-        std::ostringstream text;
-        text << std::ifstream( entry.path() ).rdbuf();
         if ( entry.path().extension() == ".xml" )
-            vecDocuments.push_back( { entry.path().filename().string(), text.str(), ANY_SCHEMA } );
+            vecDocuments.push_back(
+                { entry.path().filename().string(), readFile( entry.path().string() ), ANY_SCHEMA } );
     }
     for ( const auto& entry : std::filesystem::directory_iterator( DATA_FOLDER + std::string( "/cases" ) ) ) {
         if ( entry.path().extension() != ".cases" )
             continue;
-        const std::vector<LoadCase> vecCases = readCases( entry.path().filename().string() );
+        std::vector<LoadCase> vecCases = readCases( entry.path().filename().string() );
+        std::erase_if( vecCases, []( const LoadCase& in_case ) { return in_case.bValid; } );
         for ( std::size_t u = 0; u < vecCases.size(); u += 12 )
             vecDocuments.push_back(
                 { vecCases[u].strName, TestDocument().edit( vecCases[u].vecEdits ).getText(), vecCases[u].strSchema } );

@@ -16,10 +16,6 @@ const std::string OVERLAP =
     ". One more channel of this range are already contained in this group. Please edit your PSTN configuration to fix "
     "this problem.  Make sure to add any channel only once in a given channel group.";
 
-std::string assertion( const std::string& in_strExpression, const std::string& in_strFile ) {
-    return "ERROR marovane.core.Assertion: Assertion failed: " + in_strExpression + ", file " + in_strFile + ", line N";
-}
-
 /// An interface of a new board, both with names, kept alive by the board.
 struct Span {
     explicit Span( unsigned int in_uBoardId, unsigned int in_uId = 1 ) {
@@ -175,45 +171,6 @@ TEST( CallControl, TakesAnEmptyListOfGroupsAlone ) {
     EXPECT_TRUE( hCallControl->getChannelGroupsConfig().empty() );
     EXPECT_TRUE( hCallControl->getIsdnConfig().isNull() );
     EXPECT_TRUE( hCallControl->getAnalogConfig().isNull() );
-}
-
-// Catches a range that goes to the wrong group, has the wrong channels or refers to the wrong signalling.
-TEST( CallControl, FillsItsGroupsFromIsdnAndAnalog ) {
-    XmlConfig config;
-    loadValid( config, TestDocument() );
-    ASSERT_FALSE( config.getCallControlConfig().isNull() );
-    const CallControlConfig& callControl = *config.getCallControlConfig();
-    std::string strGroups;
-    for ( const auto& [strId, hGroup] : callControl.getChannelGroupsConfig() )
-        strGroups.append( strId ).append( ": " ).append( describeRanges( *hGroup ) ).append( "\n" );
-    EXPECT_EQ( strGroups, "both: b1ai1 1..1, b1di1 17..31, b1ai2 1..1, b2ai1 1..1, b3di1 1..31, \n"
-                          "in: b2di1 1..23, b2di2 1..23, b2di3 1..24, \n"
-                          "out: b1di1 1..15, b1di2 1..31, \n" );
-
-    const auto hIn = callControl.getChannelGroupConfig( "in" );
-    const auto hOut = callControl.getChannelGroupConfig( "out" );
-    const auto hBoth = callControl.getChannelGroupConfig( "both" );
-    EXPECT_STREQ( hBoth->getId(), "both" );
-    EXPECT_EQ( hIn->getDirection(), PSTNChannel::IN );
-    EXPECT_EQ( hOut->getDirection(), PSTNChannel::OUT );
-    EXPECT_EQ( hOut->getOutboundHuntingScheme(), ChannelGroupConfig::LINEAR );
-    EXPECT_EQ( hBoth->getDirection(), PSTNChannel::BIDIR );
-    EXPECT_EQ( hBoth->getOutboundHuntingScheme(), ChannelGroupConfig::REVERSE_LINEAR );
-
-    const auto& isdn = *callControl.getIsdnConfig();
-    const auto& analog = *callControl.getAnalogConfig();
-    std::vector<const BChannelRangeConfig*> vecBoth;
-    for ( const auto& hRange : hBoth->getBChannelRangeConfig() )
-        vecBoth.push_back( hRange.get() );
-    ASSERT_EQ( vecBoth.size(), 5U );
-    EXPECT_EQ( vecBoth[0]->getFxoConfig().get(), analog.getFxoConfigs().at( 1 ).get() );
-    EXPECT_TRUE( vecBoth[0]->getIsdnCommonConfig().isNull() && vecBoth[0]->getFxsConfig().isNull() );
-    EXPECT_EQ( vecBoth[1]->getIsdnCommonConfig().get(), isdn.getFasConfigs().at( 1 ).get() );
-    EXPECT_TRUE( vecBoth[1]->getFxoConfig().isNull() && vecBoth[1]->getFxsConfig().isNull() );
-    EXPECT_EQ( vecBoth[3]->getFxsConfig().get(), analog.getFxsConfigs().at( 1 ).get() );
-    EXPECT_TRUE( vecBoth[3]->getFxoConfig().isNull() && vecBoth[3]->getIsdnCommonConfig().isNull() );
-    for ( const auto& hRange : hIn->getBChannelRangeConfig() )
-        EXPECT_EQ( hRange->getIsdnCommonConfig().get(), isdn.getNfasConfigs().at( 1 ).get() );
 }
 
 } // namespace Velquin::Pstn::Test

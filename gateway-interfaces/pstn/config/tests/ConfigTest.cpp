@@ -2,17 +2,22 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cctype>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
+#include <set>
 #include <sstream>
 
 #include <log4cplus/nullappender.h>
 
+#include <velquin/StringVector.h>
+
 #include "LogCapture.h"
+#include "ModelText.h"
 
 namespace Velquin::Pstn::Test {
 
@@ -22,13 +27,6 @@ const char* const SCHEMA = PSTN_TEST_SCHEMA;
 const char* const ANY_SCHEMA = PSTN_TEST_DATA "/any.rng";
 
 namespace {
-
-std::string readFile( const std::string& in_strPath ) {
-    std::ifstream stream( in_strPath, std::ios::binary );
-    std::ostringstream text;
-    text << stream.rdbuf();
-    return text.str();
-}
 
 std::size_t findOnce( const std::string& in_strText, const std::string& in_strPart ) {
     const std::size_t uPosition = in_strText.find( in_strPart );
@@ -111,6 +109,13 @@ TemporaryFile::~TemporaryFile() {
     std::filesystem::remove( m_strPath, error );
 }
 
+std::string readFile( const std::string& in_strPath ) {
+    std::ifstream stream( in_strPath, std::ios::binary );
+    std::ostringstream text;
+    text << stream.rdbuf();
+    return text.str();
+}
+
 std::string toLine( int in_nLevel, const std::string& in_strLogger, const std::string& in_strText ) {
     static const std::string s_strPrefix = "marovane.pstn.config.";
     static const std::regex s_sourceLine( ", line [0-9]+$" );
@@ -145,36 +150,67 @@ void loadValid( XmlConfig& out_config, const TestDocument& in_document, const st
     EXPECT_EQ( join( result.vecLines ), "" );
 }
 
-std::vector<LoadCase> readCases( const std::string& in_strFile ) {
-    std::ifstream stream( std::string( DATA_FOLDER ) + "/cases/" + in_strFile );
-    std::vector<LoadCase> vecCases;
+std::vector<Record> readRecords( const std::string& in_strFile ) {
+    std::ifstream stream( DATA_FOLDER + ( "/" + in_strFile ) );
+    std::vector<Record> vecRecords;
     char cLastMark = ' ';
     for ( std::string strLine; std::getline( stream, strLine ); ) {
         const char cMark = strLine.empty() ? '#' : strLine[0];
         std::string strText = strLine.size() > 2 ? strLine.substr( 2 ) : "";
-        if ( cMark == 'c' ) {
-            std::istringstream words( strLine );
-            std::string strCase, strName, strVerdict, strSchema;
-            words >> strCase >> strName >> strVerdict >> strSchema;
-            vecCases.push_back(
-                { strName, {}, strVerdict == "valid", {}, strSchema == "schema" ? SCHEMA : ANY_SCHEMA } );
+        if ( std::isalpha( cMark ) ) {
+            strTokenize( strLine, vecRecords.emplace_back().vecWords, ' ' );
         } else if ( cMark == '-' && cLastMark != '-' ) {
-            vecCases.back().vecEdits.push_back( { strText, "" } );
+            vecRecords.back().vecEdits.push_back( { strText, "" } );
         } else if ( cMark == '-' ) {
-            vecCases.back().vecEdits.back().strFrom += "\n" + strText;
+            vecRecords.back().vecEdits.back().strFrom += "\n" + strText;
         } else if ( cMark == '+' ) {
-            vecCases.back().vecEdits.back().strTo += ( cLastMark == '+' ? "\n" : "" ) + strText;
-        } else if ( cMark == '>' ) {
+            vecRecords.back().vecEdits.back().strTo += ( cLastMark == '+' ? "\n" : "" ) + strText;
+        } else if ( cMark != '#' ) {
             if ( strText.ends_with( '$' ) )
                 strText.pop_back();
-            vecCases.back().vecLines.push_back( strText );
-        } else if ( cMark != '#' ) {
-            ADD_FAILURE() << in_strFile << ": what is this? " << strLine;
+            vecRecords.back().mapLines[cMark].push_back( strText );
         }
         cLastMark = cMark;
     }
-    EXPECT_FALSE( vecCases.empty() ) << in_strFile;
+    EXPECT_FALSE( vecRecords.empty() ) << in_strFile;
+    return vecRecords;
+}
+
+std::vector<LoadCase> readCases( const std::string& in_strFile ) {
+    std::vector<LoadCase> vecCases;
+    for ( Record& record : readRecords( "cases/" + in_strFile ) ) {
+        const bool bSchema = record.vecWords.size() > 3;
+        vecCases.push_back( { record.vecWords[1], record.vecEdits, record.vecWords[2] == "valid", record.mapLines['>'],
+                              record.mapLines['='], bSchema ? SCHEMA : ANY_SCHEMA } );
+    }
     return vecCases;
+}
+
+/// How the text of a model differs from that of the complete document: its lines that the other hasn't, and "no " with
+/// the lines that it hasn't, unless another line has that value or says "none" for all of them. The order counts when
+/// there is no such line.
+std::vector<std::string> getChanges( const XmlConfig& in_config ) {
+    static const std::string s_strComplete = readFile( DATA_FOLDER + std::string( "/complete.model" ) );
+    const std::string strModel = Fuzz::describeModel( in_config );
+    StringVector vecOld, vecNew, vecChanges;
+    strTokenize( s_strComplete, vecOld, '\n' );
+    strTokenize( strModel, vecNew, '\n' );
+    const std::set<std::string> setOld( vecOld.begin(), vecOld.end() ), setNew( vecNew.begin(), vecNew.end() );
+    std::copy_if( vecNew.begin(), vecNew.end(), std::back_inserter( vecChanges ),
+                  [&]( const std::string& in_strLine ) { return !setOld.contains( in_strLine ); } );
+    const StringVector vecOnlyNew = vecChanges;
+    for ( const std::string& strLine : vecOld ) {
+        const bool bReplaced =
+            std::any_of( vecOnlyNew.begin(), vecOnlyNew.end(), [&strLine]( const std::string& in_strNew ) {
+                return strLine.starts_with( in_strNew.substr( 0, in_strNew.find( "= " ) ) );
+            } );
+        if ( !setNew.contains( strLine ) && !bReplaced )
+            vecChanges.push_back( "no " + strLine );
+    }
+    if ( vecChanges.empty() ) {
+        EXPECT_EQ( strModel, s_strComplete );
+    }
+    return vecChanges;
 }
 
 void check( const LoadCase& in_case ) {
@@ -187,10 +223,17 @@ void check( const LoadCase& in_case ) {
     const LoadResult result = load( config, file.getPath(), in_case.strSchema );
     EXPECT_EQ( result.bValid, in_case.bValid );
     EXPECT_EQ( join( result.vecLines ), join( vecExpected ) );
+    if ( result.bValid ) {
+        EXPECT_EQ( join( getChanges( config ) ), join( in_case.vecChanges ) );
+    }
 }
 
 void check( const CallCase& in_case ) {
     EXPECT_EQ( join( captureLines( in_case.call ) ), join( in_case.vecLines ) );
+}
+
+std::string assertion( const std::string& in_strExpression, const std::string& in_strFile ) {
+    return "ERROR marovane.core.Assertion: Assertion failed: " + in_strExpression + ", file " + in_strFile + ", line N";
 }
 
 std::string join( const std::vector<std::string>& in_vecLines ) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -59,6 +60,9 @@ extern const char* const EXAMPLES_FOLDER;
 extern const char* const SCHEMA;     ///< the schema of the format
 extern const char* const ANY_SCHEMA; ///< one that accepts every document
 
+/// A file's bytes.
+std::string readFile( const std::string& in_strPath );
+
 /// A log line at WARNING or above as the tables have it: "ERROR XmlConfig: text", the logger without the prefix
 /// "marovane.pstn.config.". In assertions the source line is "N".
 std::string toLine( int in_nLevel, const std::string& in_strLogger, const std::string& in_strText );
@@ -76,12 +80,14 @@ LoadResult load( XmlConfig& out_config, const std::string& in_strFile, const std
 void loadValid( XmlConfig& out_config, const TestDocument& in_document, const std::string& in_strSchema = SCHEMA );
 
 /// A case of a table: edits to the complete document, the verdict, and all lines at WARNING and above, exact and in
-/// order, see TestDocument::expand. The schema accepts everything unless the case says otherwise.
+/// order, see TestDocument::expand; for a document that is valid, how its model differs from the complete one. The
+/// schema accepts everything unless the case says otherwise.
 struct LoadCase {
     std::string strName;
     std::vector<Edit> vecEdits;
     bool bValid = false;
     std::vector<std::string> vecLines;
+    std::vector<std::string> vecChanges; ///< lines of the model's text, see ModelText.h, or "no " and what is gone
     std::string strSchema = ANY_SCHEMA;
 };
 
@@ -92,11 +98,24 @@ struct CallCase {
     std::vector<std::string> vecLines;
 };
 
-/// The cases of a file in `data/cases`, which says how they are written.
+/// What a file of cases is made of: a line of words, then marked lines, of which "-" and "+" are edits. A line break
+/// stands between such lines that follow each other. A "$" at the end of any other ends it, where a blank is last.
+struct Record {
+    std::vector<std::string> vecWords;
+    std::vector<Edit> vecEdits;
+    std::map<char, std::vector<std::string>> mapLines; ///< by mark
+};
+
+/// The records of a file in `data`, which says what they mean.
+std::vector<Record> readRecords( const std::string& in_strFile );
+/// The cases of a file in `data/cases`.
 std::vector<LoadCase> readCases( const std::string& in_strFile );
 
 void check( const LoadCase& in_case );
 void check( const CallCase& in_case );
+
+/// Expected lines of assertions.
+std::string assertion( const std::string& in_strExpression, const std::string& in_strFile );
 
 /// Lines as one text, so that a difference shows as a diff.
 std::string join( const std::vector<std::string>& in_vecLines );

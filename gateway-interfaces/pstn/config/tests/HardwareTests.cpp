@@ -178,57 +178,17 @@ const std::vector<CallCase> CALLS{
 PSTN_LOAD_CASES( HardwareCases, readCases( "hardware.cases" ) );
 PSTN_CALL_CASES( HardwareCalls, CALLS );
 
-// What boards and interfaces hold is compared where they are written; here is the rest.
-
-TEST( Hardware, ProviderHasTheValuesOfTheFile ) {
+TEST( Hardware, InterfacesComeOutInOrder ) {
     XmlConfig config;
     loadValid( config, TestDocument() );
-    const TSHandle<ProviderConfig> hProvider = config.getProviderConfig( "tirvana" );
-    const auto& provider = as<TirvanaProviderConfig>( hProvider );
-    const auto describe = []( const TirvanaThreadGroupConfig& in_threads ) {
-        return std::to_string( in_threads.getThreadCount() ) + in_threads.getThreadsPriority().getName();
-    };
-    EXPECT_EQ( provider.getId() + describe( provider.getBChannelsThreadsConfig() ) +
-                   describe( provider.getDChannelsThreadsConfig() ),
-               "tirvana4HIGH1NORMAL" );
-    EXPECT_TRUE( provider.isReverseBitsOfTxMediaStreamsEnabled() && !provider.isReverseBitsOfRxMediaStreamsEnabled() );
-    EXPECT_EQ( TirvanaThreadGroupConfig().getThreadsPriority().getCode(), 2 );
-}
-
-TEST( Hardware, InterfacesComeOutInOrderWithTheirNames ) {
-    XmlConfig config;
-    // The spans stand in the file as 3, 1, 2; the clock reference is neither the first in the file nor in order.
-    loadValid( config, TestDocument().edit( { { "model=\"TVD-3\"", "model=\"TVD-3\" primaryClockReference=\"2\"" },
-                                              { R"(ID="1" displayName="T1-A")", R"(ID="3" displayName="T1-A")" },
-                                              { R"(ID="2" displayName="T1-B")", R"(ID="1" displayName="T1-B")" },
-                                              { R"(ID="3" displayName="T1-C")", R"(ID="2" displayName="T1-C")" } } ) );
     const auto hBoard = config.getDigitalBoardConfig( 2 );
     std::vector<TSHandle<DigitalInterfaceConfig>> vecSpans;
     ASSERT_TRUE( hBoard->getDigitalInterfacesConfig( vecSpans ) );
-    EXPECT_EQ( getIds( vecSpans ), "1 2 3 " );
-    EXPECT_STREQ( vecSpans[0]->getUniqueId( true ), "b2di1" );
-    EXPECT_STREQ( vecSpans[0]->getUniqueId( false ), "b2(T1 card)di1(T1-B)" );
     EXPECT_EQ( vecSpans[0]->getBoardConfig().get(), hBoard.get() );
-    EXPECT_EQ( as<TirvanaDigitalBoardConfig>( hBoard ).getPrimaryClockReferenceInterfaceConfig().get(),
-               vecSpans[1].get() );
-    EXPECT_FALSE( as<TirvanaDigitalInterfaceConfig>( vecSpans[0] ).isPrimaryClockReference() );
-    EXPECT_TRUE( TirvanaDigitalBoardConfig().getPrimaryClockReferenceInterfaceConfig().isNull() );
     vecSpans[0]->setId( 9 ); // the order follows
     vecSpans.clear();
     ASSERT_TRUE( hBoard->getDigitalInterfacesConfig( vecSpans ) );
     EXPECT_EQ( getIds( vecSpans ), "2 3 9 " );
-    EXPECT_TRUE( config.getDigitalInterfaceConfig( 1, 2 )->hasDChannel() );
-    const auto hVirtualSpan = config.getDigitalInterfaceConfig( 3, 1 );
-    EXPECT_NE( dynamic_cast<const TirvanaDigitalVirtualInterfaceConfig*>( hVirtualSpan.get() ), nullptr );
-    EXPECT_STREQ( config.getAnalogInterfaceConfig( 2, 1 )->getUniqueId( true ), "b2ai1" );
-    EXPECT_STREQ( config.getAnalogInterfaceConfig( 2, 1 )->getUniqueId( false ), "b2(Phones)ai1(Phone-A)" );
-    std::set<std::string> setToneSets{ "OTHER" };
-    EXPECT_TRUE( config.getToneSets( setToneSets ) );
-    EXPECT_EQ( setToneSets, ( std::set<std::string>{ "AMERICA", "ANALOG", "EUROPE", "OTHER" } ) );
-    XmlConfig unapplied; // a load that ends in front of the physical configurations leaves the boards
-    const TemporaryFile file( TestDocument().edit( Edit{ " toneSetName=\"EUROPE\"", "" } ).getText() );
-    EXPECT_FALSE( load( unapplied, file.getPath() ).bValid );
-    EXPECT_TRUE( unapplied.getToneSets( setToneSets ) );
 
     AnalogBoardConfig board;
     for ( const unsigned int uId : { 3U, 1U, 2U } )
@@ -238,28 +198,16 @@ TEST( Hardware, InterfacesComeOutInOrderWithTheirNames ) {
     EXPECT_EQ( getIds( vecPorts ), "1 2 3 " );
 }
 
-TEST( Hardware, ReadersKeepDefaultsAndTakeLeadingNumbers ) {
+TEST( Hardware, ListsTheToneSetsOfAllInterfaces ) {
     XmlConfig config;
-    loadValid(
-        config,
-        TestDocument().edit( { { "<TxMediaStreams reverseBits=\"TRUE\"/>", "" },
-                               { "<RxMediaStreams reverseBits=\"FALSE\"/>", "" },
-                               { "count=\"4\"", "count=\" 4 threads\"" },
-                               { "tirpipe=\"2\"", "tirpipe=\"12.5\"" },
-                               { R"(<interface ID="3" displayName="T1-C")", R"(<span ID="3abc" displayName="")" },
-                               { "type=\"FXO\" tirpipeInterface=\"1\"",
-                                 R"(type="FXO" phoneNumber="1" callerName="x" tirpipeInterface="7x")" } } ),
-        ANY_SCHEMA );
-    const TSHandle<ProviderConfig> hProvider = config.getProviderConfig( "tirvana" );
-    const auto& provider = as<TirvanaProviderConfig>( hProvider );
-    EXPECT_FALSE( provider.isReverseBitsOfTxMediaStreamsEnabled() || provider.isReverseBitsOfRxMediaStreamsEnabled() );
-    EXPECT_EQ( provider.getBChannelsThreadsConfig().getThreadCount(), 4U );
-    EXPECT_EQ( as<TirvanaDigitalInterfaceConfig>( config.getDigitalInterfaceConfig( 2, 1 ) ).getTirpipe(), 12U );
-    EXPECT_STREQ( config.getDigitalInterfaceConfig( 2, 3 )->getDisplayName(), "" );
-    const auto hLine = config.getAnalogInterfaceConfig( 1, 1 );
-    EXPECT_EQ( as<TirvanaAnalogInterfaceConfig>( hLine ).getTirpipeInterface(), 7U );
-    EXPECT_STREQ( hLine->getPhoneNumber(), "" ) << "an FXO line has none";
-    EXPECT_STREQ( hLine->getCallerName(), "" );
+    loadValid( config, TestDocument() );
+    std::set<std::string> setToneSets{ "OTHER" };
+    EXPECT_TRUE( config.getToneSets( setToneSets ) );
+    EXPECT_EQ( setToneSets, ( std::set<std::string>{ "AMERICA", "ANALOG", "EUROPE", "OTHER" } ) );
+    XmlConfig unapplied; // a load that ends in front of the physical configurations leaves the boards
+    const TemporaryFile file( TestDocument().edit( Edit{ " toneSetName=\"EUROPE\"", "" } ).getText() );
+    EXPECT_FALSE( load( unapplied, file.getPath() ).bValid );
+    EXPECT_TRUE( unapplied.getToneSets( setToneSets ) );
 }
 
 TEST( Hardware, DisplayNamesAreCheckedAsAWhole ) {

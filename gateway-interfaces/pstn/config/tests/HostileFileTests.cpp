@@ -38,19 +38,12 @@ struct HostileCase {
 };
 
 std::vector<HostileCase> readHostileCases() {
-    std::ifstream stream( std::string( DATA_FOLDER ) + "/cases/hostile.files" );
     std::vector<HostileCase> vecCases;
-    for ( std::string strLine; std::getline( stream, strLine ); ) {
-        const std::string strText = strLine.size() > 2 ? strLine.substr( 2 ) : "";
-        if ( strLine.starts_with( "case " ) ) {
-            HostileCase& one = vecCases.emplace_back();
-            std::istringstream( strLine.substr( 5 ) ) >> one.strName >> one.uMemory >> one.strEncoding;
-        } else if ( strLine.starts_with( '<' ) ) {
-            std::string& strTemplate = vecCases.back().strTemplate;
-            strTemplate += ( strTemplate.empty() ? "" : "\n" ) + strText;
-        } else if ( strLine.starts_with( '>' ) ) {
-            vecCases.back().vecLines.push_back( strText );
-        }
+    for ( Record& record : readRecords( "cases/hostile.files" ) ) {
+        record.vecWords.resize( 4 );
+        const std::string strTemplate = join( record.mapLines['<'] );
+        vecCases.push_back( { record.vecWords[1], std::stoul( record.vecWords[2] ), record.vecWords[3],
+                              strTemplate.substr( 0, strTemplate.size() - 1 ), record.mapLines['>'] } );
     }
     return vecCases;
 }

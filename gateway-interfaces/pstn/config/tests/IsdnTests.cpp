@@ -85,67 +85,20 @@ const std::vector<CallCase> CALLS{
         assertion( "in_pNfasConfig", "IsdnNfasGroupMemberConfigXmlSerializer" ) } },
 };
 
-std::string describe( const IsdnCommonConfig& in_config ) {
-    const auto number = []( auto in_eValue ) { return std::to_string( static_cast<int>( in_eValue ) ) + " "; };
-    return number( in_config.getId() ) + number( in_config.getTermination() ) + number( in_config.getSwitchVariant() ) +
-           number( in_config.getBChannelNegociation() ) + number( in_config.getInitiateRestartProcedure() ) +
-           number( in_config.getInbandProgressTonesGeneration() ) +
-           number( in_config.getInbandProgressTonesIndicator() ) + number( in_config.getCallerNameLocation() ) +
-           number( in_config.getFacilityDelayMs() );
-}
-
 } // namespace
 
 PSTN_LOAD_CASES( IsdnCases, readCases( "isdn.cases" ) );
 PSTN_CALL_CASES( IsdnCalls, CALLS );
 
-TEST( Isdn, GroupsHaveTheValuesOfTheFile ) {
+TEST( Isdn, KnowsTheSpansThatItIsAppliedTo ) {
     XmlConfig config;
     loadValid( config, TestDocument() );
     const IsdnConfig& isdn = *config.getCallControlConfig()->getIsdnConfig();
-    EXPECT_EQ( describe( *isdn.getFasConfigs().at( 1 ) ), "1 1 4 2 0 2 3 3 250 " );
-    EXPECT_EQ( describe( *isdn.getFasConfigs().at( 2 ) ), "2 1 4 1 1 3 2 1 0 " ) << "the defaults";
-    EXPECT_EQ( describe( *isdn.getNfasConfigs().at( 1 ) ), "1 2 5 1 1 3 2 1 0 " );
-
-    std::string strApplied;
-    for ( const auto& [uId, hFas] : isdn.getFasConfigs() ) {
-        for ( const auto& hInterface : hFas->getApplyToDigitalInterfaces() )
-            strApplied += std::to_string( uId ) + hInterface->getUniqueId( true ) + " ";
-    }
-    EXPECT_EQ( strApplied, "1b1di1 2b1di2 2b3di1 " );
-    std::string strMembers;
-    const IsdnNfasConfig& nfas = *isdn.getNfasConfigs().at( 1 );
-    for ( const auto& [strId, hMember] : nfas.getMemberInterfaces() )
-        strMembers += strId + std::to_string( hMember->getNfasInterfaceID() ) +
-                      std::to_string( static_cast<int>( hMember->getDChannelMode() ) ) + " ";
-    EXPECT_EQ( strMembers, "b2(T1 card)di1(T1-A)02 b2(T1 card)di2(T1-B)13 b2(T1 card)di3(T1-C)21 " );
-    EXPECT_TRUE( nfas.hasPrimaryDChannel() );
-    EXPECT_FALSE( IsdnNfasConfig().hasPrimaryDChannel() );
     for ( const char* const szId : { "b1(E1 card)di2(E1-B)", "b2(T1 card)di3(T1-C)", "b3(Virtual)di1(V-A)" } )
         EXPECT_TRUE( isdn.hasIsdnCallControlConfig( szId ) ) << szId;
     for ( const char* const szId : { "b1di2", "b1(E1 card)di2(E1-C)", "" } )
         EXPECT_FALSE( isdn.hasIsdnCallControlConfig( szId ) ) << szId;
-}
-
-TEST( Isdn, TakesABoardAsAllItsSpansAndNfasBeforeFas ) {
-    // The FAS group in front of the NFAS groups overlaps with them, and is told so: they have gone first.
-    TestDocument document;
-    document.edit( Edit{ "<isdn>", "<isdn><fasConfig ID=\"7\" termination=\"TERMINAL\" switchVariant=\"NI2\" "
-                                   "BChannelNegotiation=\"PREFERRED\"><applyTo><interfaceRef boardID=\"1\">"
-                                   "<BChannelRange channelGroupID=\"in\" firstChannel=\"1\" lastChannel=\"5\"/>"
-                                   "</interfaceRef></applyTo></fasConfig>" } );
-    XmlConfig config;
-    loadValid( config, document, ANY_SCHEMA );
-    const auto& fas = *config.getCallControlConfig()->getIsdnConfig()->getFasConfigs().at( 7 );
-    EXPECT_EQ( fas.getApplyToDigitalInterfaces().size(), 2U );
-    EXPECT_EQ( config.getCallControlConfig()->getChannelGroupConfig( "in" )->getBChannelRangeConfig().size(), 5U );
-
-    document.edit(
-        Edit{ "<interfaceRef boardID=\"1\"><BChannel", "<interfaceRef boardID=\"2\" interfaceID=\"1\"><BChannel" } );
-    const TemporaryFile file( document.getText() );
-    XmlConfig overlapping;
-    EXPECT_EQ( load( overlapping, file.getPath() ).vecLines.front().substr( 0, 68 ),
-               "ERROR ChannelGroupConfig: Add B-Channel range [1..5] of b2(T1 card)d" );
+    EXPECT_FALSE( IsdnNfasConfig().hasPrimaryDChannel() );
 }
 
 TEST( Isdn, TellsAtDebugWhatItAdds ) {

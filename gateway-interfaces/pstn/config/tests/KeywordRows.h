@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,20 +8,18 @@
 
 namespace Velquin::Pstn::Test {
 
-/// An attribute that takes keywords.
+/// An attribute that takes keywords; see data/keywords.rows.
 struct KeywordRow {
     std::string strPath; ///< end of the path of its element, the first of which counts
     std::string strAttribute;
     std::vector<std::pair<std::string, int>> vecKeywords; ///< and the values they stand for
-    std::function<int( const XmlConfig& )> get;           ///< the value, asked of the first element of that path
-    std::vector<Edit> vecNeeds = {};                      ///< what the document needs for these keywords
-    std::string strInNeed = {};                           ///< the only keyword that needs it, if there is but one
-    int nUnknown = REFUSED;                               ///< what another text stands for; below 0 it is reported
-
-    static constexpr int REFUSED = -2;
+    std::string strLine;                                  ///< of the model's text, up to the value
+    std::vector<Edit> vecNeeds;                           ///< what the document needs for these keywords
+    std::string strOtherLine;                             ///< with any other text; empty when that is refused
+    bool bReported = true;                                ///< whether any other text is
 };
 
-/// All attributes of the format whose keywords stand in tables.
+/// All attributes of the format whose keywords stand in tables; one that needs different documents has several rows.
 std::vector<KeywordRow> getKeywordRows();
 
 } // namespace Velquin::Pstn::Test

@@ -17,10 +17,6 @@
 
 namespace Velquin::Pstn::Test {
 
-inline std::string assertion( const std::string& in_strExpression, const std::string& in_strFile ) {
-    return "ERROR marovane.core.Assertion: Assertion failed: " + in_strExpression + ", file " + in_strFile + ", line N";
-}
-
 /// A case of a serializer that gets or makes an object of the wrong class, or none.
 /// @param in_yieldsNull calls it
 template <class TXmlSerializer>

@@ -1,6 +1,4 @@
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 
 #include "ConfigTest.h"
 
@@ -16,19 +14,13 @@ struct ToolResult {
     std::string strErrors;
 };
 
-std::string readAll( const std::string& in_strPath ) {
-    std::ostringstream text;
-    text << std::ifstream( in_strPath ).rdbuf();
-    return text.str();
-}
-
 ToolResult runTool( const std::string& in_strArguments ) {
     const TemporaryFile output( "" );
     const TemporaryFile errors( "" );
     const std::string strCommand =
         std::string( PSTN_TEST_TOOL ) + " " + in_strArguments + " >" + output.getPath() + " 2>" + errors.getPath();
     const int nStatus = std::system( strCommand.c_str() );
-    return { nStatus > 255 ? nStatus / 256 : nStatus, readAll( output.getPath() ), readAll( errors.getPath() ) };
+    return { nStatus > 255 ? nStatus / 256 : nStatus, readFile( output.getPath() ), readFile( errors.getPath() ) };
 }
 
 const std::string COMPLETE = std::string( DATA_FOLDER ) + "/complete.xml";
