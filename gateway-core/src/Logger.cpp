@@ -47,13 +47,13 @@ void Logger::log( int in_nLevel, const std::string& in_strMessage, const char* i
         getBackend()->logger.forcedLog( in_nLevel, LOG4CPLUS_STRING_TO_TSTRING( in_strText ), in_szFile, in_nLine, "" );
     };
     try {
-        write( in_strMessage );
-    } catch ( ... ) {
         try {
+            write( in_strMessage );
+        } catch ( const std::bad_alloc& ) {
             write( "out of memory: a line of the log is lost" ); // it may have been the only one about a failure
-        } catch ( ... ) {
-            // There is nowhere left to tell that.
         }
+    } catch ( ... ) {
+        // There is nowhere left to tell that a record couldn't be written.
     }
 }
 

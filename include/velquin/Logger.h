@@ -35,8 +35,8 @@ public:
     /// The level in force: the logger's own or the nearest inherited one.
     int getLogLevel() const noexcept;
     bool isEnabledFor( int in_nLevel ) const noexcept;
-    /// Writes one record if the level is on. Never throws: instead of a record that there is no memory for, one that
-    /// says so is written, if there is memory for that.
+    /// Writes one record if the level is on. Never throws: a record that can't be written is dropped; where there is no
+    /// memory for it, a line that says so takes its place, if there is memory for that.
     void log( int in_nLevel, const std::string& in_strMessage, const char* in_szFile, int in_nLine ) const noexcept;
 
 private:
