@@ -58,8 +58,10 @@ public:
         return std::exchange( m_pFree, m_pFree + in_uBytes );
     }
     void takeBack() noexcept {
-        if ( --m_uInUse == 0 )
-            m_pMemory.reset();
+        if ( --m_uInUse > 0 )
+            return;
+        m_pMemory.reset();
+        m_uFree = 0;
     }
 
 private:
@@ -204,13 +206,16 @@ void DocumentTree::removeAttributes( xmlNode* inout_pElement ) noexcept {
 
 void DocumentTree::removeAttributesOf( xmlNode* inout_pElement ) noexcept {
     for ( xmlAttr* pAttribute = std::exchange( inout_pElement->properties, nullptr ); pAttribute; ) {
-        // The blocks that are counted stand in `_private`, which is null in a value that isn't the attribute's own.
-        void* const apBlocks[] = { pAttribute->children->_private, pAttribute->_private };
+        if ( pAttribute->atype == XML_ATTRIBUTE_ID ) // as a schema may have it
+            xmlRemoveID( pAttribute->doc, pAttribute );
+        const xmlNode* const pValue = pAttribute->children;
+        const bool bOwnValue = pValue->parent && pValue->content == reinterpret_cast<const xmlChar*>( pValue + 1 );
+        auto* const pBlockOfValue = static_cast<Block*>( bOwnValue ? pValue->_private : nullptr );
+        auto* const pBlock = static_cast<Block*>( pAttribute->_private );
         pAttribute = pAttribute->next;
-        for ( void* const pBlock : apBlocks ) {
-            if ( pBlock )
-                static_cast<Block*>( pBlock )->takeBack();
-        }
+        if ( pBlockOfValue )
+            pBlockOfValue->takeBack();
+        pBlock->takeBack();
     }
 }
 

@@ -33,11 +33,12 @@ public:
     /// Takes over what the context has built; to be called when its parse has ended, whether well or not.
     void takeFrom( xmlParserCtxt* inout_pContext ) noexcept;
 
-    /// Null when nothing was taken over.
+    /// Null when nothing was taken over. libxml2 may read, copy and validate the document, and the caller may set what
+    /// its nodes leave to programs; but elements and attributes stay as they are, since libxml2 can't free them.
     xmlDoc* getDocument() const noexcept { return m_pDocument; }
 
     /// Removes the attributes of an element of this tree and of its children. Their memory is free when that of their
-    /// neighbours is.
+    /// neighbours is. Nothing is added to the tree any more then.
     void removeAttributes( xmlNode* inout_pElement ) noexcept;
 
 private:
