@@ -1,0 +1,10 @@
+// libxml2 seeds the hash of its dictionaries by the clock: with this one, a program's instructions repeat.
+
+#include <ctime>
+
+extern "C" __attribute__( ( visibility( "default" ) ) ) std::time_t time( std::time_t* out_pTime ) {
+    constexpr std::time_t FIXED = 1000000000;
+    if ( out_pTime )
+        *out_pTime = FIXED;
+    return FIXED;
+}
