@@ -1,6 +1,5 @@
 #include "LoadCheck.h"
 
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -44,8 +43,13 @@ void readBoards( const XmlConfig& in_config ) {
 
 /// What a model holds of that which is written.
 std::string describeWritten( const XmlConfig& in_config ) {
-    static const std::regex s_notWritten( "[^\n]*primaryClockReference[^\n]*\n" );
-    return std::regex_replace( describeBoards( in_config ), s_notWritten, "" );
+    std::istringstream boards( describeBoards( in_config ) );
+    std::string strWritten;
+    for ( std::string strLine; std::getline( boards, strLine ); ) {
+        if ( strLine.find( " primaryClockReference = " ) == std::string::npos )
+            strWritten += strLine + "\n";
+    }
+    return strWritten;
 }
 
 } // namespace

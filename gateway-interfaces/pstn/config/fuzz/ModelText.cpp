@@ -248,8 +248,8 @@ template <class TConfigs, class THandle>
 void describeReference( const Lines& in_lines, const char* in_szName, const TConfigs& in_configs,
                         const THandle& in_hConfig ) {
     for ( const auto& [uId, hConfig] : in_configs ) {
-        if ( !in_hConfig.isNull() && static_cast<const void*>( hConfig.get() ) ==
-                                         dynamic_cast<const void*>( in_hConfig.get() ) )
+        if ( !in_hConfig.isNull() &&
+             static_cast<const void*>( hConfig.get() ) == dynamic_cast<const void*>( in_hConfig.get() ) )
             in_lines( in_szName, uId );
     }
 }
@@ -291,7 +291,8 @@ void describe( const Lines& in_lines, const IsdnNfasConfig& in_nfas ) {
     describeCommon( in_lines, in_nfas );
     in_lines( "hasPrimaryDChannel", in_nfas.hasPrimaryDChannel() );
     for ( const auto& [strId, hMember] : in_nfas.getMemberInterfaces() ) {
-        const Lines lines = in_lines.below( std::string( "member " ) + hMember->getInterfaceConfig()->getUniqueId( true ) );
+        const Lines lines =
+            in_lines.below( std::string( "member " ) + hMember->getInterfaceConfig()->getUniqueId( true ) );
         lines( "key", strId )( "nfasInterfaceID", hMember->getNfasInterfaceID() );
         lines( "DChannelMode", hMember->getDChannelMode() );
     }
@@ -337,8 +338,7 @@ void describeCommon( const Lines& in_lines, const AppliedAnalogCallControlConfig
 void describe( const Lines& in_lines, const AnalogFxoConfig& in_fxo ) {
     describeCommon( in_lines, in_fxo );
     in_lines( "onHookMinimumDurationMs", in_fxo.getOnHookMinimumDurationMs() );
-    in_lines.part<AnalogFxoConfig::InboundCallHandlingConfig>( "inbound",
-                                                               in_fxo.getInboundCallHandlingConfigHandle() );
+    in_lines.part<AnalogFxoConfig::InboundCallHandlingConfig>( "inbound", in_fxo.getInboundCallHandlingConfigHandle() );
     in_lines.part<AnalogFxoConfig::OutboundCallHandlingConfig>( "outbound",
                                                                 in_fxo.getOutboundCallHandlingConfigHandle() );
     in_lines.part<AnalogDisconnectSupervisionConfig>( "supervision", in_fxo.getDisconnectSupervisonConfigHandle() );
@@ -366,8 +366,7 @@ void describe( const Lines& in_lines, const AnalogFxsConfig::DisconnectAnswerNot
 void describe( const Lines& in_lines, const AnalogFxsConfig& in_fxs ) {
     describeCommon( in_lines, in_fxs );
     in_lines( "regretTimeMs", in_fxs.getRegretTimeMs() )( "outOfService", in_fxs.getOutOfServiceBehavior() );
-    in_lines.part<AnalogFxsConfig::InboundCallHandlingConfig>( "inbound",
-                                                               in_fxs.getInboundCallHandlingConfigHandle() );
+    in_lines.part<AnalogFxsConfig::InboundCallHandlingConfig>( "inbound", in_fxs.getInboundCallHandlingConfigHandle() );
     in_lines.part<AnalogFxsConfig::HotlineDialingConfig>( "hotline", in_fxs.getHotlineDialingConfigHandle() );
     in_lines.part<AnalogFxsConfig::DisconnectAnswerNotificationConfig>(
         "notification", in_fxs.getDisconnectAnswerNotificationConfig() );

@@ -1,10 +1,12 @@
 // A document as the library keeps it, held against the one that libxml2 makes by itself.
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <libxml/parser.h>
+#include <libxml/xmlsave.h>
 
 #include <velquin/Logger.h>
 #include <velquin/XML.h>
@@ -23,10 +25,12 @@ using namespace Velquin::Pstn;
 namespace {
 
 std::string dump( xmlDoc* in_pDocument ) {
-    xmlChar* szText = nullptr;
-    int nLength = 0;
-    xmlDocDumpMemory( in_pDocument, &szText, &nLength );
-    return fromXml( XmlStringPtr( szText ).get() );
+    const std::unique_ptr<xmlBuffer, LibXml2Deleter<xmlBuffer, xmlBufferFree>> pBuffer( xmlBufferCreate() );
+    // What libxml2 takes for XHTML it would change while it writes.
+    xmlSaveCtxt* const pContext = xmlSaveToBuffer( pBuffer.get(), nullptr, XML_SAVE_AS_XML | XML_SAVE_NO_XHTML );
+    xmlSaveDoc( pContext, in_pDocument );
+    xmlSaveClose( pContext );
+    return fromXml( xmlBufferContent( pBuffer.get() ) );
 }
 
 /// The elements below a node, in the order of the file.
@@ -62,6 +66,8 @@ int LLVMFuzzerTestOneInput( const std::uint8_t* in_pData, std::size_t in_uSize )
                      XML_PARSE_NONET | XML_PARSE_NOBLANKS | XML_PARSE_NOERROR | XML_PARSE_NOWARNING ) );
     Fuzz::require( pExpected != nullptr, "what is read is well-formed" );
     Fuzz::require( dump( pTree->getDocument() ) == dump( pExpected.get() ), "both documents say the same" );
+    const XmlDocPtr pCopy( xmlCopyDoc( pTree->getDocument(), 1 ) );
+    Fuzz::require( dump( pCopy.get() ) == dump( pExpected.get() ), "so does a copy" );
 
     const std::vector<xmlNode*> vecElements = gather( pTree->getDocument() );
     const std::vector<xmlNode*> vecExpected = gather( pExpected.get() );

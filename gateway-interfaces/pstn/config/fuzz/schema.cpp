@@ -22,12 +22,6 @@ bool hasManyReferences( std::string_view in_strSchema ) {
 
 } // namespace
 
-/// libxml2's compiler of schemas loses an interleave that is combined with another definition, in `xmllint` too. What
-/// the library itself would lose of a schema, the other targets see.
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libxml2.so";
-}
-
 int LLVMFuzzerTestOneInput( const std::uint8_t* in_pData, std::size_t in_uSize ) {
     if ( hasManyReferences( { reinterpret_cast<const char*>( in_pData ), in_uSize } ) )
         return 0;
