@@ -1,11 +1,6 @@
-#include <cctype>
-#include <stdexcept>
-#include <utility>
-
 #include <velquin/StringVector.h>
 
 #include "ConfigTest.h"
-#include "DocumentPath.h"
 #include "LogCapture.h"
 #include "analog/AnalogCallControlConfigXmlSerializer.h"
 #include "analog/AnalogDisconnectSupervisionConfigXmlSerializer.h"
@@ -14,18 +9,11 @@
 #include "hardware/BoardConfig.h"
 #include "xml/LibXml2.h"
 
-// Analog call control: what its readers and containers refuse, what they let pass, and the values that they keep.
+// Analog call control: what its readers and containers refuse, and what they let pass.
 
 namespace Velquin::Pstn::Test {
 
 namespace {
-
-using FxoInbound = AnalogFxoConfig::InboundCallHandlingConfig;
-using FxoOutbound = AnalogFxoConfig::OutboundCallHandlingConfig;
-using Notification = AnalogFxsConfig::DisconnectAnswerNotificationConfig;
-
-const std::string FXO_PATH = "/pstnConfig/callControl/analog/analogFxoConfig";
-const std::string FXS_PATH = "/pstnConfig/callControl/analog/analogFxsConfig";
 
 // ---- Calls that no document provokes
 

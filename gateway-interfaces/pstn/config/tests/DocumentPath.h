@@ -50,31 +50,4 @@ inline std::string setAttribute( const std::string& in_strTag, const std::string
     return strTag.insert( strTag.find_first_of( " />" ), " " + in_strAttribute + "=\"" + in_strValue + "\"" );
 }
 
-inline std::string getTag( const std::string& in_strPath ) {
-    const std::string strText = TestDocument().getText();
-    const Tag tag = findTag( strText, in_strPath );
-    return strText.substr( tag.uBegin, tag.uLength );
-}
-
-inline Edit withoutAttribute( const std::string& in_strPath, const std::string& in_strAttribute ) {
-    const std::string strTag = getTag( in_strPath );
-    return { strTag, removeAttribute( strTag, in_strAttribute ) };
-}
-
-inline Edit withAttribute( const std::string& in_strPath, const std::string& in_strAttribute,
-                           const std::string& in_strValue ) {
-    const std::string strTag = getTag( in_strPath );
-    return { strTag, setAttribute( strTag, in_strAttribute, in_strValue ) };
-}
-
-/// The element as it stands in the complete document, to its end.
-inline std::string getElementText( const std::string& in_strPath ) {
-    const std::string strText = TestDocument().getText();
-    const Tag tag = findTag( strText, in_strPath );
-    if ( strText[tag.uBegin + tag.uLength - 2] == '/' )
-        return strText.substr( tag.uBegin, tag.uLength );
-    const std::string strEnd = "</" + in_strPath.substr( in_strPath.rfind( '/' ) + 1 ) + ">";
-    return strText.substr( tag.uBegin, strText.find( strEnd, tag.uBegin ) + strEnd.size() - tag.uBegin );
-}
-
 } // namespace Velquin::Pstn::Test

@@ -10,6 +10,7 @@ namespace Velquin::Pstn::Test {
 
 /// An attribute that takes keywords; see data/keywords.rows.
 struct KeywordRow {
+    std::string strTable;
     std::string strPath; ///< end of the path of its element, the first of which counts
     std::string strAttribute;
     std::vector<std::pair<std::string, int>> vecKeywords; ///< and the values they stand for

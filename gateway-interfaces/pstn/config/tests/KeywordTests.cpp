@@ -1,4 +1,7 @@
 #include <cctype>
+#include <map>
+#include <set>
+#include <string_view>
 
 #include <velquin/StringVector.h>
 
@@ -8,6 +11,7 @@
 #include "LogCapture.h"
 #include "ModelText.h"
 #include "NumberCheck.h"
+#include "xml/Keywords.h"
 
 // The keywords of the format, each read from a document, and the numbers behind them; numbers in attributes.
 
@@ -17,10 +21,11 @@ std::vector<KeywordRow> getKeywordRows() {
     std::vector<KeywordRow> vecRows;
     for ( Record& record : readRecords( "keywords.rows" ) ) {
         KeywordRow& row = vecRows.emplace_back();
-        row.strPath = record.vecWords[1];
-        row.strAttribute = record.vecWords[2];
-        int nValue = std::stoi( record.vecWords[3] );
-        for ( auto it = record.vecWords.begin() + 4; it != record.vecWords.end(); ++it, ++nValue ) {
+        row.strTable = record.vecWords[1];
+        row.strPath = record.vecWords[2];
+        row.strAttribute = record.vecWords[3];
+        int nValue = std::stoi( record.vecWords[4] );
+        for ( auto it = record.vecWords.begin() + 5; it != record.vecWords.end(); ++it, ++nValue ) {
             StringVector vecSynonyms;
             strTokenize( *it, vecSynonyms, '|' );
             for ( const std::string& strKeyword : vecSynonyms )
@@ -39,6 +44,52 @@ std::vector<KeywordRow> getKeywordRows() {
 
 namespace {
 
+template <class TTable>
+std::set<std::string_view> getKeywords( const TTable& in_table ) {
+    return { in_table.getKeywords().begin(), in_table.getKeywords().end() };
+}
+
+#define TABLE( name ) std::pair( std::string( #name ), getKeywords( Keywords::name ) )
+/// The keywords of each table.
+const std::map<std::string, std::set<std::string_view>> TABLES{ TABLE( TRUE_FALSE ),
+                                                                TABLE( YES_NO ),
+                                                                TABLE( ENABLED_DISABLED ),
+                                                                TABLE( ANALOG_MEDIA_TYPE ),
+                                                                TABLE( FRAMING ),
+                                                                TABLE( LINE_ENCODING ),
+                                                                TABLE( DIGITAL_CLOCKING ),
+                                                                TABLE( LOOPBACK_MODE ),
+                                                                TABLE( RECEIVER_SENSITIVITY ),
+                                                                TABLE( E1_SIGNALING ),
+                                                                TABLE( E1_TERMINATION ),
+                                                                TABLE( LINE_BUILD_OUT ),
+                                                                TABLE( ANALOG_CLOCKING ),
+                                                                TABLE( COUNTRY ),
+                                                                TABLE( PCM_LAW ),
+                                                                TABLE( ECHO_CANCELLATION_MODE ),
+                                                                TABLE( COMFORT_NOISE_MODE ),
+                                                                TABLE( DOUBLE_TALK_BEHAVIOR ),
+                                                                TABLE( ACOUSTIC_ECHO_CANCELLATION_MODE ),
+                                                                TABLE( LEVEL_CONTROL_MODE ),
+                                                                TABLE( VOICE_DIRECTION ),
+                                                                TABLE( CHANNEL_DIRECTION ),
+                                                                TABLE( HUNTING_SCHEME ),
+                                                                TABLE( TERMINATION ),
+                                                                TABLE( SWITCH_VARIANT ),
+                                                                TABLE( B_CHANNEL_NEGOTIATION ),
+                                                                TABLE( TONES_GENERATION ),
+                                                                TABLE( TONES_INDICATOR ),
+                                                                TABLE( CALLER_NAME_LOCATION ),
+                                                                TABLE( NFAS_D_CHANNEL_MODE ),
+                                                                TABLE( FXO_NOTIFY_CONDITION ),
+                                                                TABLE( FXO_INBOUND_CONNECT_CONDITION ),
+                                                                TABLE( FXO_CALLER_ID_TYPE ),
+                                                                TABLE( FXO_CONNECT_SUPERVISION ),
+                                                                TABLE( FXO_OUTBOUND_CONNECT_CONDITION ),
+                                                                TABLE( FXS_OUT_OF_SERVICE_BEHAVIOR ),
+                                                                TABLE( FXS_NOTIFICATION_MODE ) };
+#undef TABLE
+
 std::string swapCase( std::string in_strText ) {
     for ( char& c : in_strText )
         c = static_cast<char>( std::islower( c ) ? std::toupper( c ) : std::tolower( c ) );
@@ -50,6 +101,17 @@ bool hasLine( const XmlConfig& in_config, const std::string& in_strLine ) {
 }
 
 } // namespace
+
+TEST( Keywords, AreThoseOfTheirTables ) {
+    std::map<std::string, std::set<std::string_view>> mapTables;
+    const std::vector<KeywordRow> vecRows = getKeywordRows();
+    for ( const KeywordRow& row : vecRows ) {
+        for ( const auto& [strKeyword, nValue] : row.vecKeywords )
+            mapTables[row.strTable].insert( strKeyword );
+    }
+    mapTables.erase( "PRIORITY" ); // those are of the gateway's core
+    EXPECT_EQ( mapTables, TABLES );
+}
 
 TEST( Keywords, AreReadExactly ) {
     const Velquin::Test::LogCapture quiet( Logger::ERROR_LEVEL );
