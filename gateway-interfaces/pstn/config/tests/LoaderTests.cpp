@@ -128,6 +128,18 @@ TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
     EXPECT_THAT( getAdvice( "<a kind='fox'/>" ), testing::HasSubstr( "Valid values are fax and call." ) );
 }
 
+// libxml2 remembers the attributes that a schema calls identifiers, those of boards too, which a load gives back.
+TEST( Loader, TakesASchemaWithIdentifiers ) {
+    const TemporaryFile schema( R"(<grammar xmlns="http://relaxng.org/ns/structure/1.0"
+        datatypeLibrary="http://www.w3.org/2001/XMLSchema-datatypes"><start><ref name="any"/></start><define name="any">
+        <element><anyName/><interleave><optional><attribute name="model"><data type="ID"/></attribute></optional>
+        <zeroOrMore><attribute><anyName><except><name>model</name></except></anyName></attribute></zeroOrMore>
+        </interleave><zeroOrMore><choice><text/><ref name="any"/></choice></zeroOrMore></element></define></grammar>)" );
+    XmlConfig config;
+    loadValid( config, TestDocument().edit( Edit{ "\"Phones\" model=\"TVA-4\"", "\"Phones\" model=\"TVA-5\"" } ),
+               schema.getPath() );
+}
+
 // ---- Lines
 
 TEST( Loader, NamesTheTrueLineInLongFiles ) {

@@ -206,7 +206,7 @@ void DocumentTree::removeAttributes( xmlNode* inout_pElement ) noexcept {
 
 void DocumentTree::removeAttributesOf( xmlNode* inout_pElement ) noexcept {
     for ( xmlAttr* pAttribute = std::exchange( inout_pElement->properties, nullptr ); pAttribute; ) {
-        if ( pAttribute->atype == XML_ATTRIBUTE_ID ) // as a schema may have it
+        if ( pAttribute->atype == XML_ATTRIBUTE_ID ) // if the schema calls it one
             xmlRemoveID( pAttribute->doc, pAttribute );
         const xmlNode* const pValue = pAttribute->children;
         const bool bOwnValue = pValue->parent && pValue->content == reinterpret_cast<const xmlChar*>( pValue + 1 );
