@@ -50,16 +50,34 @@ TEST( Tool, PrintsFindingsAndTheWorstExitCode ) {
                    ":17: error: Configuration of the board tirvanaDigitalBoard contains one ore more errors. " +
                    "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n" + strFile + ": invalid (2 errors)\n" );
 
-    const TemporaryFile lacking( "<pstnConfig>\n<boards><tirvanaDigitalBoard/></boards></pstnConfig>" );
-    EXPECT_NE( runTool( "check " + lacking.getPath() + strAnySchema )
-                   .strOutput.find( ":2: error: missing attribute \"ID\" [/pstnConfig/boards/tirvanaDigitalBoard]\n" ),
-               std::string::npos );
+    const auto printsFor = [&]( const std::string& in_strDocument, const std::string& in_strLine ) {
+        const TemporaryFile lacking( in_strDocument );
+        return runTool( "check " + lacking.getPath() + strAnySchema ).strOutput.find( in_strLine ) != std::string::npos;
+    };
+    EXPECT_TRUE( printsFor( "<pstnConfig>\n<boards><tirvanaDigitalBoard/></boards></pstnConfig>",
+                            ":2: error: missing attribute \"ID\" [/pstnConfig/boards/tirvanaDigitalBoard]\n" ) );
+    EXPECT_TRUE( printsFor( TestDocument().edit( Edit{ "<dial active", "<dialling active" } ).getText(),
+                            ":141: error: missing element \"dial\" "
+                            "[/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling]\n" ) );
 
     const ToolResult missing = runTool( "check /no/such/file.xml " + strFile + strAnySchema );
     EXPECT_EQ( missing.nExitCode, 2 );
     EXPECT_NE( missing.strOutput.find( "/no/such/file.xml: not checked (2 errors)\n" ), std::string::npos );
     EXPECT_EQ( runTool( "check --log-content /no/such/file.xml" ).nExitCode, 2 );
     EXPECT_EQ( runTool( "check --schema /no/such/schema.rng " + COMPLETE ).nExitCode, 2 );
+}
+
+TEST( Tool, PrintsWarningsWithTheirValuesOnOneLine ) {
+    const TestDocument document = TestDocument().edit( Edit{ "Substitute=\"00\"", "Substitute=\"0&#10;0\"" } );
+    const TemporaryFile file( document.getText() );
+    const ToolResult result = runTool( "check " + file.getPath() + " --schema " + ANY_SCHEMA );
+    EXPECT_EQ( result.nExitCode, 0 );
+    EXPECT_EQ( result.strOutput,
+               document.expand( "{file}:{line}: warning: invalid value \"0?0\" of attribute "
+                                "\"InternationalDialingSpecialCharacterSubstitute\": It must contain only digits; 011 "
+                                "is used. [/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling/dial]\n"
+                                "{file}: valid (1 warning)\n",
+                                file.getPath() ) );
 }
 
 TEST( Tool, WritesTheLogToStandardErrorWhenAsked ) {

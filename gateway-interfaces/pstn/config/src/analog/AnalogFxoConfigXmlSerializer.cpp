@@ -107,6 +107,7 @@ std::string readSubstitute( const AttributeReader& in_reader, const Logger& in_l
     finding.nLevel = Logger::WARNING_LEVEL;
     finding.strAttribute = SPECIAL_CHARACTER_SUBSTITUTE;
     finding.strValue = text.view();
+    finding.strHint = std::string( "It must contain only digits; " ).append( DEFAULT_SUBSTITUTE ).append( " is used." );
     finding.strText = std::string( "Outbound Call Handling attribute " )
                           .append( SPECIAL_CHARACTER_SUBSTITUTE )
                           .append( " of element Dialing must contain only digits. setting the value of this parameter "
