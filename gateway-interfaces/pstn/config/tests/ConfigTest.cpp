@@ -9,8 +9,8 @@
 #include <fstream>
 #include <map>
 #include <regex>
+#include <set>
 #include <sstream>
-#include <utility>
 
 #include <log4cplus/nullappender.h>
 
@@ -150,7 +150,7 @@ void loadValid( XmlConfig& out_config, const TestDocument& in_document, const st
     EXPECT_EQ( join( result.vecLines ), "" );
 }
 
-std::vector<Record> readRecords( const std::string& in_strFile ) {
+std::vector<Record> readRecords( const std::string& in_strFile, const std::string& in_strMarks ) {
     std::ifstream stream( DATA_FOLDER + ( "/" + in_strFile ) );
     std::vector<Record> vecRecords;
     char cLastMark = ' ';
@@ -159,6 +159,8 @@ std::vector<Record> readRecords( const std::string& in_strFile ) {
         std::string strText = strLine.size() > 2 ? strLine.substr( 2 ) : "";
         if ( std::isalpha( cMark ) ) {
             strTokenize( strLine, vecRecords.emplace_back().vecWords, ' ' );
+        } else if ( cMark != '#' && ( vecRecords.empty() || in_strMarks.find( cMark ) == std::string::npos ) ) {
+            ADD_FAILURE() << in_strFile << ": what is this? " << strLine;
         } else if ( cMark == '-' && cLastMark != '-' ) {
             vecRecords.back().vecEdits.push_back( { strText, "" } );
         } else if ( cMark == '-' ) {
@@ -178,7 +180,7 @@ std::vector<Record> readRecords( const std::string& in_strFile ) {
 
 std::vector<LoadCase> readCases( const std::string& in_strFile ) {
     std::vector<LoadCase> vecCases;
-    for ( Record& record : readRecords( "cases/" + in_strFile ) ) {
+    for ( Record& record : readRecords( "cases/" + in_strFile, "-+>=" ) ) {
         const bool bSchema = record.vecWords.size() > 3;
         vecCases.push_back( { record.vecWords[1], record.vecEdits, record.vecWords[2] == "valid", record.mapLines['>'],
                               record.mapLines['='], bSchema ? SCHEMA : ANY_SCHEMA } );
@@ -188,16 +190,21 @@ std::vector<LoadCase> readCases( const std::string& in_strFile ) {
 
 namespace {
 
-/// The lines of a model's text, those with the same WHERE and NAME together.
+/// Of a line of a model's text, what stands in front of the value.
+std::string getKey( const std::string& in_strLine ) {
+    return in_strLine.substr( 0, in_strLine.find( " = " ) );
+}
+
+/// The lines of each key.
 std::map<std::string, std::string> groupLines( const StringVector& in_vecLines ) {
     std::map<std::string, std::string> mapLines;
     for ( const std::string& strLine : in_vecLines )
-        mapLines[strLine.substr( 0, strLine.find( " = " ) )] += strLine + "\n";
+        mapLines[getKey( strLine )] += strLine + "\n";
     return mapLines;
 }
 
-/// How the text of a model differs from that of the complete document: the lines of every NAME that has others, and
-/// "no " with the lines whose NAME is gone, unless "none" of their WHERE says it for all. When nothing differs so, the
+/// How the text of a model differs from that of the complete document: all lines of the keys that have others, and "no
+/// " with the lines whose key is gone, unless "none" of what holds them says it for all. When nothing differs so, the
 /// order of all lines counts, too.
 std::string getChanges( const XmlConfig& in_config ) {
     static const std::string s_strComplete = readFile( DATA_FOLDER + std::string( "/complete.model" ) );
@@ -205,19 +212,20 @@ std::string getChanges( const XmlConfig& in_config ) {
     StringVector vecOld, vecNew;
     strTokenize( s_strComplete, vecOld, '\n' );
     strTokenize( strModel, vecNew, '\n' );
-    const auto mapOld = groupLines( vecOld );
-    auto mapNew = groupLines( vecNew );
+    auto mapOld = groupLines( vecOld );
+    const auto mapNew = groupLines( vecNew );
+    std::set<std::string> setTold;
     std::string strChanges;
     for ( const std::string& strLine : vecNew ) {
-        const auto itNew = mapNew.find( strLine.substr( 0, strLine.find( " = " ) ) );
-        const auto itOld = mapOld.find( itNew->first );
-        if ( itOld == mapOld.end() || itOld->second != itNew->second )
-            strChanges += std::exchange( itNew->second, itOld == mapOld.end() ? "" : itOld->second );
+        const std::string strKey = getKey( strLine );
+        if ( setTold.insert( strKey ).second && mapOld[strKey] != mapNew.at( strKey ) )
+            strChanges += mapNew.at( strKey );
     }
     for ( const std::string& strLine : vecOld ) {
-        bool bTold = mapNew.contains( strLine.substr( 0, strLine.find( " = " ) ) );
-        for ( std::size_t u = strLine.find( ' ' ); !bTold && u < strLine.find( " = " ); u = strLine.find( ' ', u + 1 ) )
-            bTold = mapNew.contains( strLine.substr( 0, u ) );
+        const std::string strKey = getKey( strLine );
+        bool bTold = mapNew.contains( strKey );
+        for ( std::size_t u = strKey.find( ' ' ); u != std::string::npos; u = strKey.find( ' ', u + 1 ) )
+            bTold = bTold || mapNew.contains( strKey.substr( 0, u ) );
         strChanges += bTold ? "" : "no " + strLine + "\n";
     }
     if ( strChanges.empty() ) {

@@ -106,8 +106,8 @@ struct Record {
     std::map<char, std::vector<std::string>> mapLines; ///< by mark
 };
 
-/// The records of a file in `data`, which says what they mean.
-std::vector<Record> readRecords( const std::string& in_strFile );
+/// The records of a file in `data`, which says what they mean. A mark that isn't among those given fails the test.
+std::vector<Record> readRecords( const std::string& in_strFile, const std::string& in_strMarks );
 /// The cases of a file in `data/cases`.
 std::vector<LoadCase> readCases( const std::string& in_strFile );
 

@@ -39,7 +39,7 @@ struct HostileCase {
 
 std::vector<HostileCase> readHostileCases() {
     std::vector<HostileCase> vecCases;
-    for ( Record& record : readRecords( "cases/hostile.files" ) ) {
+    for ( Record& record : readRecords( "cases/hostile.files", "<>" ) ) {
         record.vecWords.resize( 4 );
         const std::string strTemplate = join( record.mapLines['<'] );
         vecCases.push_back( { record.vecWords[1], std::stoul( record.vecWords[2] ), record.vecWords[3],

@@ -19,7 +19,7 @@ namespace Velquin::Pstn::Test {
 
 std::vector<KeywordRow> getKeywordRows() {
     std::vector<KeywordRow> vecRows;
-    for ( Record& record : readRecords( "keywords.rows" ) ) {
+    for ( Record& record : readRecords( "keywords.rows", "-+=?!" ) ) {
         KeywordRow& row = vecRows.emplace_back();
         row.strTable = record.vecWords[1];
         row.strPath = record.vecWords[2];
