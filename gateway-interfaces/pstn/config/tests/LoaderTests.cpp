@@ -125,6 +125,8 @@ TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
     // What the other kind requires isn't missing.
     EXPECT_THAT( getAdvice( "<a kind='call'/>" ), testing::HasSubstr( "Missing attribute [/a/number]" ) );
     EXPECT_THAT( getAdvice( "<a kind='call' number='x'/>" ), testing::HasSubstr( "/a/number=x]" ) );
+    // Any page will do.
+    EXPECT_THAT( getAdvice( "<a kind='fox' page='1'/>" ), testing::HasSubstr( "/a/kind=fox]" ) );
     EXPECT_THAT( getAdvice( "<a kind='fox'/>" ), testing::HasSubstr( "Valid values are fax and call." ) );
 }
 
