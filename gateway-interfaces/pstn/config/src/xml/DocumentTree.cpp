@@ -103,10 +103,11 @@ void DocumentTree::startElement( xmlParserCtxt* inout_pContext, const xmlChar* i
     xmlAddChild( pParent, pElement );
 
     xmlNs** ppNamespace = &pElement->nsDef;
-    for ( int i = 0; i < in_nNamespaces; ++i, ppNamespace = &( *ppNamespace )->next ) {
-        *ppNamespace = xmlNewNs( nullptr, in_aszNamespaces[2 * i + 1], in_aszNamespaces[2 * i] );
+    for ( int i = 0; i < in_nNamespaces; ++i, in_aszNamespaces += 2 ) { // prefix and URI
+        *ppNamespace = xmlNewNs( nullptr, in_aszNamespaces[1], in_aszNamespaces[0] );
         if ( !*ppNamespace )
             throw std::bad_alloc();
+        ppNamespace = &( *ppNamespace )->next;
     }
     if ( in_szUri )
         pElement->ns = getNamespace( pElement, in_szPrefix );
