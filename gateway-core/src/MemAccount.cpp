@@ -39,24 +39,26 @@ MemAccount::~MemAccount() {
 }
 
 MemAccount::Figures MemAccount::getFigures() const {
-    return { m_szName, m_ullObjects.load( std::memory_order_relaxed ), m_ullBytes.load( std::memory_order_relaxed ),
-             m_ullPeakBytes.load( std::memory_order_relaxed ) };
+    const unsigned long long ullBytes = m_ullBytes.load( std::memory_order_relaxed );
+    return { m_szName, m_ullObjects.load( std::memory_order_relaxed ), ullBytes,
+             std::max( ullBytes, m_ullPeakBytes.load( std::memory_order_relaxed ) ) };
 }
 
 void MemAccount::add( std::size_t in_uBytes ) noexcept {
     if ( !m_bEnlisted.load( std::memory_order_acquire ) )
         enlist();
     m_ullObjects.fetch_add( 1, std::memory_order_relaxed );
-    const unsigned long long ullBytes = m_ullBytes.fetch_add( in_uBytes, std::memory_order_relaxed ) + in_uBytes;
-    unsigned long long ullPeak = m_ullPeakBytes.load( std::memory_order_relaxed );
-    while ( ullPeak < ullBytes &&
-            !m_ullPeakBytes.compare_exchange_weak( ullPeak, ullBytes, std::memory_order_relaxed ) ) {
-    }
+    m_ullBytes.fetch_add( in_uBytes, std::memory_order_relaxed );
 }
 
 void MemAccount::remove( std::size_t in_uBytes ) noexcept {
     m_ullObjects.fetch_sub( 1, std::memory_order_relaxed );
-    m_ullBytes.fetch_sub( in_uBytes, std::memory_order_relaxed );
+    // Every peak ends with a release, so that it is enough to look here and when the figures are asked for.
+    const unsigned long long ullBytes = m_ullBytes.fetch_sub( in_uBytes, std::memory_order_relaxed );
+    unsigned long long ullPeak = m_ullPeakBytes.load( std::memory_order_relaxed );
+    while ( ullPeak < ullBytes &&
+            !m_ullPeakBytes.compare_exchange_weak( ullPeak, ullBytes, std::memory_order_relaxed ) ) {
+    }
 }
 
 std::vector<MemAccount::Figures> MemAccount::list() {
