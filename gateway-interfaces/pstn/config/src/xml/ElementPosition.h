@@ -6,13 +6,15 @@
 
 namespace Velquin::Pstn {
 
-/// Remembers the line of an element in the element itself: what libxml2 keeps ends at 65,534.
+/// Remembers the line of an element of a document of this library in the element itself: what libxml2 keeps ends at
+/// 65,534.
 void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept;
 
 /// The line on which the element's start tag ends, from 1; what libxml2 knows when nothing was remembered.
 unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept;
 
-/// Remembers the identifier of a board or an interface in its element, whose attributes don't outlive their reading.
+/// Remembers the identifier of a board or an interface in its element, whose attributes don't outlive their reading;
+/// does nothing to a document that isn't this library's.
 void setElementId( xmlNode* in_pElement, unsigned int in_uId ) noexcept;
 
 /// The identifier that was remembered.
