@@ -134,7 +134,7 @@ const std::vector<CallCase> CALLS{
         assertion( "!pTirvanaAudioConfig.isNull()", "TirvanaAudioConfigXmlSerializer" ),
         assertion( "!pDChannelConfig.isNull()", "DChannelConfigXmlSerializer" ),
         assertion( "!pEchoCancellationConfig.isNull()", "EchoCancellationConfigXmlSerializer" ),
-        assertion( "!pHardwareConfig.isNull()", "VoiceProcessingConfigXmlSerializer" ) } },
+        assertion( "!pHardwareConfig.isNull()", "HardwareEchoCancellationConfigXmlSerializer" ) } },
 };
 
 } // namespace
@@ -154,9 +154,7 @@ TEST( Physical, DChannelsAreRecordedBelowTheInstallation ) {
 TEST( Physical, PlainReadersMakePlainAudio ) {
     XmlConfig config;
     const Element root = getUnapplied();
-    WrongPhysicalXmlSerializer<DigitalInterfacePhysicalConfigXmlSerializer, DigitalInterfacePhysicalConfig>
-        xmlSerializer;
-    const auto hConfig = xmlSerializer.read( findPhysical( root ), config );
+    const auto hConfig = DigitalInterfacePhysicalConfigXmlSerializer().read( findPhysical( root ), config );
     ASSERT_FALSE( hConfig.isNull() );
     EXPECT_EQ( dynamic_cast<const TirvanaAudioConfig*>( hConfig->getAudioConfig().get() ), nullptr );
 }

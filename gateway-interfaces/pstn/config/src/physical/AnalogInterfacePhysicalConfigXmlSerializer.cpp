@@ -1,5 +1,7 @@
 #include "physical/AnalogInterfacePhysicalConfigXmlSerializer.h"
 
+#include <new>
+
 #include "physical/ApplyTo.h"
 #include "physical/CountryMap.h"
 #include "xml/NotImplemented.h"
@@ -46,6 +48,10 @@ bool AnalogInterfacePhysicalConfigXmlSerializer::readAnalog( xmlNode* in_pAnalog
 
 bool AnalogInterfacePhysicalConfigXmlSerializer::write( xmlNode* const, const InterfacePhysicalConfig& ) {
     return reportNotImplemented( getLogger(), "AnalogInterfacePhysicalConfigXmlSerializer::write" );
+}
+
+InterfacePhysicalConfig* AnalogInterfacePhysicalConfigXmlSerializer::newInterfacePhysicalConfig() {
+    return new ( std::nothrow ) AnalogInterfacePhysicalConfig();
 }
 
 } // namespace Velquin::Pstn

@@ -13,6 +13,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT AnalogInterfacePhysicalConfigXmlSerializer
 public:
     TSHandle<InterfacePhysicalConfig> read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) override;
     bool write( xmlNode* const in_pParent, const InterfacePhysicalConfig& in_config ) override;
+    InterfacePhysicalConfig* newInterfacePhysicalConfig() override;
 
 protected:
     /// Reads the attributes of the `analog` element; false after an ERROR line.

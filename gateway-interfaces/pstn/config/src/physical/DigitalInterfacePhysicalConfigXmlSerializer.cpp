@@ -1,5 +1,7 @@
 #include "physical/DigitalInterfacePhysicalConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/XML.h>
 
 #include "physical/ApplyTo.h"
@@ -117,6 +119,10 @@ VELQUIN_CATCH_AND_RETURN( getLogger(), {} )
 
 bool DigitalInterfacePhysicalConfigXmlSerializer::write( xmlNode* const, const InterfacePhysicalConfig& ) {
     return reportNotImplemented( getLogger(), "DigitalInterfacePhysicalConfigXmlSerializer::write" );
+}
+
+InterfacePhysicalConfig* DigitalInterfacePhysicalConfigXmlSerializer::newInterfacePhysicalConfig() {
+    return new ( std::nothrow ) DigitalInterfacePhysicalConfig();
 }
 
 } // namespace Velquin::Pstn

@@ -12,6 +12,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT DigitalInterfacePhysicalConfigXmlSerializer
 public:
     TSHandle<InterfacePhysicalConfig> read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) override;
     bool write( xmlNode* const in_pParent, const InterfacePhysicalConfig& in_config ) override;
+    InterfacePhysicalConfig* newInterfacePhysicalConfig() override;
 };
 
 } // namespace Velquin::Pstn

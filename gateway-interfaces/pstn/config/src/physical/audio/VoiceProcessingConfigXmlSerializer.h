@@ -55,7 +55,9 @@ public:
     Config read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) override try {
         UniqueObjPtr pConfig( TGeneric::read( in_pElement, in_xmlConfig ) );
         auto pHardwareConfig = dynamicOwnerCast<THardwareConfig>( std::move( pConfig ) );
-        if ( !VELQUIN_ASSERT( !pHardwareConfig.isNull() ) || !TSelf::readAttributes( in_pElement, *pHardwareConfig ) )
+        const Assertion assertion( !pHardwareConfig.isNull(), "!pHardwareConfig.isNull()", TSelf::getMemAccountName(),
+                                   __LINE__ );
+        if ( !assertion || !TSelf::readAttributes( in_pElement, *pHardwareConfig ) )
             return nullptr;
         return pHardwareConfig.release();
     }
