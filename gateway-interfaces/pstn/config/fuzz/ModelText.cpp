@@ -169,12 +169,12 @@ void describe( const Lines& in_lines, const HardwareLevelControlConfig& in_level
 }
 
 void describe( const Lines& in_lines, const HardwareBackgroundNoiseAttenuationConfig& in_noise ) {
-    in_lines( "enabled", in_noise.isEnabled() )( "direction", in_noise.getDirection() );
+    in_lines( "mode", in_noise.getMode() )( "direction", in_noise.getDirection() );
     in_lines( "attenuation", in_noise.getAttenuation() );
 }
 
 void describe( const Lines& in_lines, const HardwareDtmfRemovalConfig& in_dtmf ) {
-    in_lines( "enabled", in_dtmf.isEnabled() )( "direction", in_dtmf.getDirection() );
+    in_lines( "mode", in_dtmf.getMode() )( "direction", in_dtmf.getDirection() );
 }
 
 void describe( const Lines& in_lines, const AudioConfig& in_audio ) {

@@ -71,6 +71,8 @@ const std::map<std::string, std::set<std::string_view>> TABLES{ TABLE( TRUE_FALS
                                                                 TABLE( DOUBLE_TALK_BEHAVIOR ),
                                                                 TABLE( ACOUSTIC_ECHO_CANCELLATION_MODE ),
                                                                 TABLE( LEVEL_CONTROL_MODE ),
+                                                                TABLE( BACKGROUND_NOISE_ATTENUATION_MODE ),
+                                                                TABLE( DTMF_REMOVAL_MODE ),
                                                                 TABLE( VOICE_DIRECTION ),
                                                                 TABLE( CHANNEL_DIRECTION ),
                                                                 TABLE( HUNTING_SCHEME ),

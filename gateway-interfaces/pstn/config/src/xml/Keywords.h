@@ -13,9 +13,10 @@
 #include "physical/DigitalInterfacePhysicalConfig.h"
 #include "physical/TirvanaAnalogInterfacePhysicalConfig.h"
 #include "physical/audio/HardwareAcousticEchoCancellationConfig.h"
+#include "physical/audio/HardwareBackgroundNoiseAttenuationConfig.h"
+#include "physical/audio/HardwareDtmfRemovalConfig.h"
 #include "physical/audio/HardwareEchoCancellationConfig.h"
 #include "physical/audio/HardwareLevelControlConfig.h"
-#include "physical/audio/VoiceDirection.h"
 #include "xml/KeywordTable.h"
 
 /// All keywords of the format, one table per enumeration, in the order in which they are compared.
@@ -119,6 +120,15 @@ inline constexpr auto LEVEL_CONTROL_MODE = keywordTable<HardwareLevelControlConf
     { "MANUAL", HardwareLevelControlConfig::Mode::MANUAL },
     { "AUTOMATIC", HardwareLevelControlConfig::Mode::AUTOMATIC },
     { "DISABLED", HardwareLevelControlConfig::Mode::DISABLED },
+} );
+inline constexpr auto BACKGROUND_NOISE_ATTENUATION_MODE =
+    keywordTable<HardwareBackgroundNoiseAttenuationConfig::Mode>( {
+        { "ENABLED", HardwareBackgroundNoiseAttenuationConfig::Mode::ENABLED },
+        { "DISABLED", HardwareBackgroundNoiseAttenuationConfig::Mode::DISABLED },
+    } );
+inline constexpr auto DTMF_REMOVAL_MODE = keywordTable<HardwareDtmfRemovalConfig::Mode>( {
+    { "ENABLED", HardwareDtmfRemovalConfig::Mode::ENABLED },
+    { "DISABLED", HardwareDtmfRemovalConfig::Mode::DISABLED },
 } );
 inline constexpr auto VOICE_DIRECTION = keywordTable<VoiceDirection>( {
     { "TO_PSTN", VoiceDirection::TO_PSTN },

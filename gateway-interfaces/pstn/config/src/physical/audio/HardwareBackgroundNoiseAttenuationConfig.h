@@ -10,19 +10,22 @@ class VELQUIN_PSTN_CONFIG_EXPORT HardwareBackgroundNoiseAttenuationConfig : publ
     PSTN_CONFIG_CLASS( HardwareBackgroundNoiseAttenuationConfig );
 
 public:
-    bool isEnabled() const noexcept { return m_bEnabled; }
-    void enable( bool in_bEnable ) noexcept { m_bEnabled = in_bEnable; }
+    enum class Mode { ENABLED = 1, DISABLED = 2 };
+    using Direction = VoiceDirection;
 
-    VoiceDirection getDirection() const noexcept { return m_eDirection; }
-    void setDirection( VoiceDirection in_eDirection ) noexcept { m_eDirection = in_eDirection; }
+    Mode getMode() const noexcept { return m_eMode; }
+    void setMode( Mode in_eMode ) noexcept { m_eMode = in_eMode; }
+
+    Direction getDirection() const noexcept { return m_eDirection; }
+    void setDirection( Direction in_eDirection ) noexcept { m_eDirection = in_eDirection; }
 
     /// In dB.
     int getAttenuation() const noexcept { return m_nAttenuation; }
     void setAttenuation( int in_nAttenuationIndB ) noexcept { m_nAttenuation = in_nAttenuationIndB; }
 
 private:
-    bool m_bEnabled = false;
-    VoiceDirection m_eDirection = VoiceDirection::ALL;
+    Mode m_eMode = Mode::DISABLED;
+    Direction m_eDirection = Direction::ALL;
     int m_nAttenuation = 0;
 };
 

@@ -17,10 +17,10 @@ constexpr ReaderWording WORDING{ " for background noise attenuation config ",
 bool HardwareBackgroundNoiseAttenuationConfigXmlSerializer::readAttributes(
     xmlNode* in_pElement, HardwareBackgroundNoiseAttenuationConfig& out_config ) {
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    bool bEnabled = false;
-    if ( !reader.requireSchemaKeyword( "mode", Keywords::ENABLED_DISABLED, bEnabled ) )
+    auto eMode = out_config.getMode();
+    if ( !reader.requireSchemaKeyword( "mode", Keywords::BACKGROUND_NOISE_ATTENUATION_MODE, eMode ) )
         return false;
-    out_config.enable( bEnabled );
+    out_config.setMode( eMode );
 
     auto eDirection = out_config.getDirection();
     if ( !reader.requireSchemaKeyword( "direction", Keywords::VOICE_DIRECTION, eDirection ) )

@@ -16,10 +16,10 @@ constexpr ReaderWording WORDING{ " for DTMF removal config ", " for DTMF removal
 bool HardwareDtmfRemovalConfigXmlSerializer::readAttributes( xmlNode* in_pElement,
                                                              HardwareDtmfRemovalConfig& out_config ) {
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    bool bEnabled = false;
-    if ( !reader.requireSchemaKeyword( "mode", Keywords::ENABLED_DISABLED, bEnabled ) )
+    auto eMode = out_config.getMode();
+    if ( !reader.requireSchemaKeyword( "mode", Keywords::DTMF_REMOVAL_MODE, eMode ) )
         return false;
-    out_config.enable( bEnabled );
+    out_config.setMode( eMode );
 
     auto eDirection = out_config.getDirection();
     if ( !reader.requireSchemaKeyword( "direction", Keywords::VOICE_DIRECTION, eDirection ) )

@@ -11,12 +11,13 @@ class VELQUIN_PSTN_CONFIG_EXPORT HardwareLevelControlConfig : public LevelContro
 
 public:
     enum class Mode { MANUAL = 1, AUTOMATIC = 2, DISABLED = 3 };
+    using Direction = VoiceDirection;
 
     Mode getMode() const noexcept { return m_eMode; }
     void setMode( Mode in_eMode ) noexcept { m_eMode = in_eMode; }
 
-    VoiceDirection getDirection() const noexcept { return m_eDirection; }
-    void setDirection( VoiceDirection in_eDirection ) noexcept { m_eDirection = in_eDirection; }
+    Direction getDirection() const noexcept { return m_eDirection; }
+    void setDirection( Direction in_eDirection ) noexcept { m_eDirection = in_eDirection; }
 
     /// The gain of the MANUAL mode, in dB; a negative one attenuates.
     int getGain() const noexcept { return m_nGain; }
@@ -28,7 +29,7 @@ public:
 
 private:
     Mode m_eMode = Mode::DISABLED;
-    VoiceDirection m_eDirection = VoiceDirection::ALL;
+    Direction m_eDirection = Direction::ALL;
     int m_nGain = 0;
     int m_nTargetLevel = 0;
 };
