@@ -1,5 +1,6 @@
 #include <velquin/Finding.h>
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -41,7 +42,14 @@ FindingWatch::~FindingWatch() {
     t_pWatch = m_pOuter;
 }
 
+void makePrintable( std::string& inout_strText ) noexcept {
+    std::replace_if(
+        inout_strText.begin(), inout_strText.end(),
+        []( char in_c ) { return static_cast<unsigned char>( in_c ) < 0x20 || in_c == 0x7f; }, '?' );
+}
+
 void reportFinding( const Logger& in_logger, Finding in_finding, const char* in_szFile, int in_nLine ) noexcept {
+    makePrintable( in_finding.strText );
     in_logger.log( in_finding.nLevel, in_finding.strText, in_szFile, in_nLine );
     FindingWatch* const pWatch = t_pWatch;
     if ( !pWatch )

@@ -39,6 +39,14 @@ struct Findings {
     } };
 };
 
+TEST( Finding, StaysOnOneLine ) {
+    const LogCapture log;
+    const Findings findings;
+    VELQUIN_REPORT_ERROR( s_logger, "value=a\nERROR b\x7f\u00e9" );
+    EXPECT_THAT( log.getRecords(), ElementsAre( Record{ 40000, "test", "value=a?ERROR b?\u00e9" } ) );
+    EXPECT_THAT( findings.vecTexts, ElementsAre( "0: test value=a?ERROR b?\u00e9" ) );
+}
+
 TEST( Logger, NothingIsComposedBelowTheLevel ) {
     bool bComposed = false;
     for ( const int nLevel : { Logger::TRACE_LEVEL, Logger::WARNING_LEVEL } ) {

@@ -22,14 +22,10 @@ std::string describe( const Finding& in_finding ) {
     return in_finding.strMessage.empty() ? in_finding.strText : in_finding.strMessage;
 }
 
-/// The text on one line: a value from a file may hold line breaks and other control characters.
-std::string toPrintable( std::string in_strText ) {
-    while ( !in_strText.empty() && in_strText.back() == ' ' )
-        in_strText.pop_back();
-    for ( char& c : in_strText ) {
-        if ( static_cast<unsigned char>( c ) < 0x20 || c == 0x7f )
-            c = '?';
-    }
+/// The text on one line, without blanks at its end.
+std::string toLine( std::string in_strText ) {
+    Velquin::makePrintable( in_strText );
+    in_strText.erase( in_strText.find_last_not_of( ' ' ) + 1 );
     return in_strText;
 }
 
@@ -44,7 +40,7 @@ void FindingPrinter::print( const Finding& in_finding ) {
     m_stream << ( in_finding.strFile.empty() ? m_strFile : in_finding.strFile );
     if ( in_finding.ullLine != 0 )
         m_stream << ':' << in_finding.ullLine;
-    m_stream << ( bError ? ": error: " : ": warning: " ) << toPrintable( describe( in_finding ) );
+    m_stream << ( bError ? ": error: " : ": warning: " ) << toLine( describe( in_finding ) );
     if ( !in_finding.strElementPath.empty() )
         m_stream << " [" << in_finding.strElementPath << "]";
     m_stream << '\n';
