@@ -260,4 +260,22 @@ TEST( Readers, ExpandTheEntitiesOfAnAttribute ) {
     EXPECT_EQ( hThreads->getThreadsPriority().getCode(), Priority::NORMAL );
 }
 
+// What nodes leave to programs is theirs in a document of their own.
+TEST( Readers, LeaveToTheCallerWhatIsTheCallers ) {
+    const Element element( "<!-- of the caller -->\n<board displayName='B' model='M'/>" );
+    int nOwn = 0;
+    element.get()->_private = element.get()->psvi = &nOwn;
+    XmlConfig config;
+    TirvanaDigitalBoardConfigXmlSerializer xmlSerializer;
+    {
+        const Velquin::Test::LogCapture log( Logger::ERROR_LEVEL );
+        EXPECT_EQ( xmlSerializer.read( element.get(), config ), nullptr );
+        EXPECT_NE( log.getRecords().at( 0 ).strMessage.find( " at line 2. " ), std::string::npos );
+    }
+    xmlNewProp( element.get(), BAD_CAST "ID", BAD_CAST "7" );
+    const TSHandle<BoardConfig> hBoard( xmlSerializer.read( element.get(), config ) );
+    EXPECT_FALSE( hBoard.isNull() );
+    EXPECT_EQ( element.get()->psvi, &nOwn );
+}
+
 } // namespace Velquin::Pstn::Test
