@@ -27,10 +27,14 @@ struct Span {
         hBoard->addDigitalInterfaceConfig( pInterface );
     }
     BChannelRangeConfig* newRange( unsigned int in_uFirst, unsigned int in_uLast ) const {
+        return newRangeOf( *pInterface, in_uFirst, in_uLast );
+    }
+    static BChannelRangeConfig* newRangeOf( const InterfaceConfig& in_interface, unsigned int in_uFirst,
+                                            unsigned int in_uLast ) {
         auto* const pRange = new BChannelRangeConfig();
         pRange->setFirstChannel( in_uFirst );
         pRange->setLastChannel( in_uLast );
-        pRange->setInterfaceConfig( pInterface );
+        pRange->setInterfaceConfig( &in_interface );
         return pRange;
     }
 
@@ -115,14 +119,19 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 7, 7 ) ) ) << "lies within";
           EXPECT_TRUE( group.addBChannelRangeConfig( span.newRange( 16, 31 ) ) ) << "adjacent";
           EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 1, 31 ) ) ) << "lies around both";
-          EXPECT_EQ( group.getBChannelRangeConfig().size(), 2U );
+          EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 20, 10 ) ) ) << "swapped";
+          EXPECT_TRUE( group.addBChannelRangeConfig( span.newRange( 40, 35 ) ) ) << "swapped";
+          EXPECT_FALSE( group.addBChannelRangeConfig( span.newRange( 40, 35 ) ) ) << "the same again";
+          EXPECT_EQ( group.getBChannelRangeConfig().size(), 3U );
           ChannelGroupConfig other;
           EXPECT_TRUE( other.addBChannelRangeConfig( span.newRange( 15, 20 ) ) ) << "other groups don't matter";
       },
       { "ERROR ChannelGroupConfig: Add B-Channel range [15..20] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
         "ERROR ChannelGroupConfig: Add B-Channel range [1..5] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
         "ERROR ChannelGroupConfig: Add B-Channel range [7..7] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
-        "ERROR ChannelGroupConfig: Add B-Channel range [1..31] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP } },
+        "ERROR ChannelGroupConfig: Add B-Channel range [1..31] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
+        "ERROR ChannelGroupConfig: Add B-Channel range [20..10] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP,
+        "ERROR ChannelGroupConfig: Add B-Channel range [40..35] of b1(B)di1(I) to channelGroup \"g\"" + OVERLAP } },
     { "CallControlWritesNothing",
       [] {
           EXPECT_FALSE( CallControlConfigXmlSerializer().write( nullptr, CallControlConfig() ) );
@@ -158,7 +167,11 @@ TEST( ChannelGroup, OrdersRangesByBoardThenInterfaceThenChannel ) {
     EXPECT_TRUE( group.addBChannelRangeConfig( b2i10.newRange( 2, 15 ) ) );
     EXPECT_TRUE( group.addBChannelRangeConfig( b2i9.newRange( 17, 31 ) ) );
     EXPECT_TRUE( group.addBChannelRangeConfig( b2i9.newRange( 3, 15 ) ) );
-    EXPECT_EQ( describeRanges( group ), "b2di9 3..15, b2di9 17..31, b2di10 2..15, b10di1 1..1, " );
+    AnalogInterfaceConfig port;
+    port.setId( 9 );
+    port.setBoardConfig( b2i9.hBoard.get() );
+    EXPECT_TRUE( group.addBChannelRangeConfig( Span::newRangeOf( port, 5, 5 ) ) ) << "the kind tells them apart";
+    EXPECT_EQ( describeRanges( group ), "b2ai9 5..5, b2di9 3..15, b2di9 17..31, b2di10 2..15, b10di1 1..1, " );
 }
 
 // Catches a root that demands a group, or a section beside the groups.

@@ -1,9 +1,19 @@
 #include "callcontrol/LessThanComparatorForBChannelRangeConfig.h"
 
+#include <algorithm>
+
+#include "hardware/AnalogInterfaceConfig.h"
 #include "hardware/BoardConfig.h"
-#include "hardware/InterfaceConfig.h"
 
 namespace Velquin::Pstn {
+
+namespace {
+
+bool isAnalog( const InterfaceConfig& in_interface ) {
+    return dynamic_cast<const AnalogInterfaceConfig*>( &in_interface ) != nullptr;
+}
+
+} // namespace
 
 bool LessThanComparatorForBChannelRangeConfig::operator()( const TSHandle<BChannelRangeConfig>& in_hX,
                                                            const TSHandle<BChannelRangeConfig>& in_hY ) const {
@@ -13,7 +23,12 @@ bool LessThanComparatorForBChannelRangeConfig::operator()( const TSHandle<BChann
         return x.getBoardConfig()->getId() < y.getBoardConfig()->getId();
     if ( x.getId() != y.getId() )
         return x.getId() < y.getId();
-    return in_hX->getLastChannel() < in_hY->getFirstChannel();
+    if ( &x != &y && isAnalog( x ) != isAnalog( y ) )
+        return isAnalog( x );
+    // Were it the last channel of one and the first of the other, a range whose ends are swapped would lie before
+    // itself.
+    return std::max( in_hX->getFirstChannel(), in_hX->getLastChannel() ) <
+           std::min( in_hY->getFirstChannel(), in_hY->getLastChannel() );
 }
 
 } // namespace Velquin::Pstn

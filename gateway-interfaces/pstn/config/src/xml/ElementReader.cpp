@@ -118,8 +118,10 @@ void AttributeReader::report( Finding in_finding, std::string_view in_strLead, s
     reportDeclared( std::move( in_finding ), in_strTail );
 }
 
-void AttributeReader::reportDeclared( std::string_view in_strSubject, std::string_view in_strTail ) const {
+void AttributeReader::reportDeclared( std::string_view in_strSubject, std::string_view in_strTail,
+                                      int in_nLevel ) const {
     Finding finding;
+    finding.nLevel = in_nLevel;
     finding.strText = in_strSubject;
     reportDeclared( std::move( finding ), in_strTail );
 }

@@ -166,7 +166,8 @@ public:
     void reportInvalid( const char* in_szAttribute, std::string_view in_strValue,
                         std::string_view in_strHint = {} ) const;
     /// Reports subject + " declared in file " + file + " at line " + line + tail.
-    void reportDeclared( std::string_view in_strSubject, std::string_view in_strTail ) const;
+    void reportDeclared( std::string_view in_strSubject, std::string_view in_strTail,
+                         int in_nLevel = Logger::ERROR_LEVEL ) const;
 
 private:
     void reportDeclared( Finding in_finding, std::string_view in_strTail ) const;

@@ -1,5 +1,7 @@
 #include "callcontrol/isdn/IsdnBChannelRange.h"
 
+#include <string>
+
 #include <velquin/UniqueObjPtr.h>
 
 namespace Velquin::Pstn {
@@ -28,9 +30,16 @@ bool IsdnBChannelRange::read( const AttributeReader& in_reader, const CallContro
         VELQUIN_REPORT_ERROR( in_logger, "Could not retrieve channel group config " << channelGroupId.view() );
         return false;
     }
-    return readChannel( in_reader.as( in_wording.firstChannel ), "firstChannel", in_wording.szFirstChannelName,
-                        uFirstChannel ) &&
-           readChannel( in_reader.as( in_wording.lastChannel ), "lastChannel", "lastChannel", uLastChannel );
+    if ( !readChannel( in_reader.as( in_wording.firstChannel ), "firstChannel", in_wording.szFirstChannelName,
+                       uFirstChannel ) ||
+         !readChannel( in_reader.as( in_wording.lastChannel ), "lastChannel", "lastChannel", uLastChannel ) )
+        return false;
+    if ( uFirstChannel > uLastChannel )
+        in_reader.reportDeclared( "B-Channel range [" + std::to_string( uFirstChannel ) + ".." +
+                                      std::to_string( uLastChannel ) + "] without channels",
+                                  ". Make sure that firstChannel is not greater than lastChannel.",
+                                  Logger::WARNING_LEVEL );
+    return true;
 }
 
 bool IsdnBChannelRange::addTo( const IsdnCommonConfig& in_isdnCommonConfig, const InterfaceConfig& in_interfaceConfig,

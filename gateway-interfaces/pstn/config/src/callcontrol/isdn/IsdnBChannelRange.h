@@ -21,7 +21,7 @@ struct IsdnBChannelRange {
     unsigned int uFirstChannel = 0;
     unsigned int uLastChannel = 0;
 
-    /// Reads the element; false after an ERROR line.
+    /// Reads the element; false after an ERROR line. A first channel beyond the last is taken, with a WARNING.
     bool read( const AttributeReader& in_reader, const CallControlConfig& in_callControlConfig,
                const Wording& in_wording, const Logger& in_logger );
 
