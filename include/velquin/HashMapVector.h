@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -15,12 +17,13 @@ public:
     using const_iterator = typename std::vector<value_type>::const_iterator;
 
     /// Appends the pair. When the key is already there, nothing changes and the result is false.
-    bool insert( const K& in_key, const V& in_value ) {
-        if ( m_index.contains( in_key ) )
+    bool insert( K in_key, V in_value ) {
+        if ( find( in_key ) != end() )
             return false;
-        m_vecPairs.emplace_back( in_key, in_value );
+        const std::size_t uHash = std::hash<K>()( in_key );
+        m_vecPairs.emplace_back( std::move( in_key ), std::move( in_value ) );
         try {
-            m_index.emplace( in_key, m_vecPairs.size() - 1 );
+            m_positions.emplace( uHash, m_vecPairs.size() - 1 );
         } catch ( ... ) {
             m_vecPairs.pop_back();
             throw;
@@ -30,8 +33,10 @@ public:
 
     /// The pair of that key, `end()` when there is none.
     const_iterator find( const K& in_key ) const {
-        const auto it = m_index.find( in_key );
-        return it == m_index.end() ? end() : begin() + static_cast<std::ptrdiff_t>( it->second );
+        const auto [itFirst, itEnd] = m_positions.equal_range( std::hash<K>()( in_key ) );
+        const auto it = std::find_if(
+            itFirst, itEnd, [&]( const auto& in_position ) { return m_vecPairs[in_position.second].first == in_key; } );
+        return it == itEnd ? end() : begin() + static_cast<std::ptrdiff_t>( it->second );
     }
 
     const_iterator begin() const noexcept { return m_vecPairs.begin(); }
@@ -41,7 +46,7 @@ public:
 
 private:
     std::vector<value_type> m_vecPairs;
-    std::unordered_map<K, std::size_t> m_index;
+    std::unordered_multimap<std::size_t, std::size_t> m_positions; ///< by the hash of the key
 };
 
 } // namespace Velquin

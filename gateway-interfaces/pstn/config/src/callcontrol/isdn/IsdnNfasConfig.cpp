@@ -13,23 +13,24 @@ bool IsdnNfasConfig::addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in
     if ( !VELQUIN_ASSERT( !in_hNfasGroupMember.isNull() ) ||
          !VELQUIN_ASSERT( !in_hNfasGroupMember->getInterfaceConfig().isNull() ) )
         return false;
-    const std::string strUniqueId = in_hNfasGroupMember->getInterfaceConfig()->getUniqueId( false );
+    const char* const szUniqueId = in_hNfasGroupMember->getInterfaceConfig()->getUniqueId( false );
     const unsigned long long ullNfasInterfaceID = in_hNfasGroupMember->getNfasInterfaceID();
-    if ( const auto it = m_uniqueIdsByNfasInterfaceID.find( ullNfasInterfaceID );
-         it != m_uniqueIdsByNfasInterfaceID.end() ) {
+    if ( const auto it = m_membersByNfasInterfaceID.find( ullNfasInterfaceID );
+         it != m_membersByNfasInterfaceID.end() ) {
         VELQUIN_REPORT_ERROR( getLogger(), "failed to insert the interface "
-                                               << strUniqueId << " in NFAS group " << getId()
+                                               << szUniqueId << " in NFAS group " << getId()
                                                << " because the NfasInterfaceID=" << ullNfasInterfaceID
-                                               << " is already used by interface " << it->second );
+                                               << " is already used by interface "
+                                               << it->second->getInterfaceConfig()->getUniqueId( false ) );
         return false;
     }
-    if ( !m_members.insert( strUniqueId, in_hNfasGroupMember ) ) {
+    if ( !m_members.insert( szUniqueId, in_hNfasGroupMember ) ) {
         VELQUIN_REPORT_ERROR( getLogger(),
-                              "interface " << strUniqueId << " is already associated with NFAS group " << getId() );
+                              "interface " << szUniqueId << " is already associated with NFAS group " << getId() );
         return false;
     }
-    m_uniqueIdsByNfasInterfaceID.insert( ullNfasInterfaceID, strUniqueId );
-    VELQUIN_LOG_DEBUG( getLogger(), "associated interface= " << strUniqueId << " with ISDN Nfas config " << getId() );
+    m_membersByNfasInterfaceID.insert( ullNfasInterfaceID, in_hNfasGroupMember.get() );
+    VELQUIN_LOG_DEBUG( getLogger(), "associated interface= " << szUniqueId << " with ISDN Nfas config " << getId() );
     return true;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )

@@ -3,6 +3,7 @@
 #include <string>
 
 #include <velquin/HashMapVector.h>
+#include <velquin/LimitedObjPtr.h>
 #include <velquin/TSHandle.h>
 
 #include "callcontrol/isdn/IsdnCommonConfig.h"
@@ -30,7 +31,7 @@ public:
 
 private:
     Members m_members;
-    HashMapVector<unsigned long long, std::string> m_uniqueIdsByNfasInterfaceID;
+    HashMapVector<unsigned long long, LimitedObjPtr<const IsdnNfasGroupMemberConfig>> m_membersByNfasInterfaceID;
 };
 
 } // namespace Velquin::Pstn

@@ -33,7 +33,7 @@ TSHandle<DigitalInterfaceConfig> readInterface( const ElementReader& in_reader, 
                                              << "interfaceID"
                                              << " of board ID= " << reference.getBoard()->getId() );
     }
-    return eResult == ReadResult::READ ? reference.getInterfaces().front() : nullptr;
+    return eResult == ReadResult::READ ? std::move( reference.releaseInterfaces().front() ) : nullptr;
 }
 
 /// Gives the member its interface. The model has told why when it refuses; here stands what that means.
