@@ -21,11 +21,13 @@ function(velquin_target target)
   endif()
 endfunction()
 
-# A shared library leaves no symbol open: a Windows DLL could not. The sanitizers' runtimes come with the program.
+# A shared library leaves no symbol open and calls its own functions directly, as a Windows DLL does: no program puts
+# others in their place. The sanitizers' runtimes come with the program.
 function(velquin_shared_library target)
   velquin_target(${target})
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(UNIX AND NOT APPLE AND NOT VELQUIN_SANITIZE)
-    target_link_options(${target} PRIVATE -Wl,-z,defs)
+    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+    target_link_options(${target} PRIVATE -Wl,-z,defs -Wl,-Bsymbolic-functions)
   endif()
 endfunction()
