@@ -41,7 +41,9 @@ private:
 
 const xmlAttr* findAttribute( const xmlNode* in_pElement, const char* in_szAttribute ) {
     for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute; pAttribute = pAttribute->next ) {
-        if ( !pAttribute->ns && std::strcmp( fromXml( pAttribute->name ), in_szAttribute ) == 0 )
+        const char* const szName = fromXml( pAttribute->name );
+        // Most names differ in their first letter, and a load asks for many.
+        if ( *szName == *in_szAttribute && !pAttribute->ns && std::strcmp( szName, in_szAttribute ) == 0 )
             return pAttribute;
     }
     return nullptr;
