@@ -25,7 +25,9 @@ endfunction()
 # others in their place. The sanitizers' runtimes come with the program.
 function(velquin_shared_library target)
   velquin_target(${target})
-  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  # Installed, the libraries find each other where they stand together.
+  set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+                                             INSTALL_RPATH "$ORIGIN")
   if(UNIX AND NOT APPLE AND NOT VELQUIN_SANITIZE)
     target_compile_options(${target} PRIVATE -fno-semantic-interposition)
     target_link_options(${target} PRIVATE -Wl,-z,defs -Wl,-Bsymbolic-functions)
