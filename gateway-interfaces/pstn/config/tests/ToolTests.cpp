@@ -80,6 +80,13 @@ TEST( Tool, PrintsWarningsWithTheirValuesOnOneLine ) {
                                 file.getPath() ) );
 }
 
+TEST( Tool, CountsTheErrorsOfAFileThatLoadsAllTheSame ) {
+    const TemporaryFile file( TestDocument().edit( Edit{ "sequence=\"", "sequence=\"a/b/c," } ).getText() );
+    const ToolResult result = runTool( "check " + file.getPath() );
+    EXPECT_EQ( result.nExitCode, 0 );
+    EXPECT_NE( result.strOutput.find( file.getPath() + ": valid (2 errors)\n" ), std::string::npos );
+}
+
 TEST( Tool, WritesTheLogToStandardErrorWhenAsked ) {
     const ToolResult content = runTool( "check --log-content " + COMPLETE );
     EXPECT_EQ( content.strOutput, COMPLETE + ": valid\n" );

@@ -30,16 +30,18 @@ ExitCode checkFile( const std::string& in_strFile, const CheckOptions& in_option
         s_pConfig = new Velquin::Pstn::XmlConfig();
         bValid = s_pConfig->load( in_strFile.c_str(), in_options.strSchema.c_str(), in_options.bLogContent );
     }
-    if ( bValid ) {
-        std::cout << in_strFile << ": valid"
-                  << ( printer.getWarnings() > 0 ? " (" + count( printer.getWarnings(), "warning" ) + ")" : "" )
-                  << std::endl;
-        return EXIT_VALID;
-    }
-    const bool bNotChecked = printer.isUnreadable() || printer.concerns( in_options.strSchema );
-    std::cout << in_strFile << ( bNotChecked ? ": not checked (" : ": invalid (" )
-              << count( printer.getErrors(), "error" ) << ")" << std::endl;
-    return bNotChecked ? EXIT_NOT_CHECKED : EXIT_INVALID;
+    const bool bNotChecked = !bValid && ( printer.isUnreadable() || printer.concerns( in_options.strSchema ) );
+    std::string strCounts;
+    if ( printer.getErrors() > 0 ) // a valid file has some when the gateway leaves out what it can't read
+        strCounts = count( printer.getErrors(), "error" );
+    if ( printer.getWarnings() > 0 )
+        strCounts += ( strCounts.empty() ? "" : ", " ) + count( printer.getWarnings(), "warning" );
+    std::cout << in_strFile
+              << ( bValid        ? ": valid"
+                   : bNotChecked ? ": not checked"
+                                 : ": invalid" )
+              << ( strCounts.empty() ? "" : " (" + strCounts + ")" ) << std::endl;
+    return bValid ? EXIT_VALID : bNotChecked ? EXIT_NOT_CHECKED : EXIT_INVALID;
 }
 
 } // namespace

@@ -32,7 +32,8 @@ public:
 
     /// Loads, validates and cross-checks a configuration file. To be called once per object: what a failed load has
     /// attached before the fault stays. Every fault is an ERROR line on the log, and a finding for those who watch
-    /// (FindingWatch); nothing is thrown.
+    /// (FindingWatch); nothing is thrown. A load that gives true has such lines only where the model goes without what
+    /// couldn't be read: the disconnect supervision of FXO ports.
     /// @param in_szConfigFile path of a regular file
     /// @param in_szSchemaFile path of the RelaxNG schema, in one file
     /// @param in_bLogContent whether the file's content is logged at INFO, with line numbers
