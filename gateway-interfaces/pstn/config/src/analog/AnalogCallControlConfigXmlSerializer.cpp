@@ -46,8 +46,8 @@ AnalogCallControlConfig* AnalogCallControlConfigXmlSerializer::read( TSHandle<Ca
             return nullptr;
         }
     }
-    // From the first FXS element the walk goes on to FXO elements: files in use depend on later FXS elements being
-    // passed over.
+    // From the first FXS element the walk goes on to FXO elements: later FXS elements are passed over. The schema of
+    // the format lets none stand there.
     for ( xmlNode* pElement = XML::findFirstElement( in_pElement, FXS_ELEMENT ); pElement;
           pElement = XML::findNextElement( pElement, FXO_ELEMENT ) ) {
         const ElementPlace place( pElement );
