@@ -14,7 +14,7 @@ public:
     static GlobalConfig& getInstance();
 
     bool getString( const char* in_szName, std::string& out_strValue ) const override;
-    /// Sets a parameter, replacing the value that it may have.
+    /// Sets a parameter, replacing the value that it may have. Refuses a null name or value, with an assertion.
     /// @throws std::bad_alloc when memory ends; the parameter is then as it was
     void setString( const char* in_szName, const char* in_szValue );
     /// Forgets a parameter.

@@ -37,6 +37,7 @@ public:
     void remove( std::size_t in_uBytes ) noexcept;
 
     /// All accounts that were ever used, by name; accounts of the same name are listed as one (their peaks added up).
+    /// @throws std::bad_alloc
     static std::vector<Figures> list();
 
 private:

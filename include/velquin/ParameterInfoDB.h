@@ -27,6 +27,7 @@ public:
     static ParameterInfoDB& getNonConstInstance();
 
     /// All declarations, in the order in which they were made.
+    /// @throws std::bad_alloc
     virtual std::vector<ParameterInfo> getParameters() const;
     /// Declares a parameter. A name that is already declared keeps its first declaration; the result is then false.
     virtual bool addParameter( const char* in_szName, int in_nKind, bool in_bRequired, bool in_bReadOnly,

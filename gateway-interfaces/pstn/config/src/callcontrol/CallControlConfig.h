@@ -19,9 +19,10 @@ class VELQUIN_PSTN_CONFIG_EXPORT CallControlConfig : public virtual Object {
 public:
     using ChannelGroups = std::map<std::string, TSHandle<ChannelGroupConfig>>;
 
-    /// Refuses a group whose identifier is taken.
+    /// Takes ownership of the group. Refuses, and destroys, one whose identifier is taken; refuses null, with an
+    /// assertion.
     bool addChannelGroupConfig( ChannelGroupConfig* in_pNewChannelGroupConfig );
-    /// The group of that identifier; null, with an ERROR line, when there is none.
+    /// The group of that identifier; null, with an ERROR line, when there is none or the identifier is null.
     TSHandle<ChannelGroupConfig> getChannelGroupConfig( const char* in_szId ) const;
     /// All groups, ordered by identifier.
     const ChannelGroups& getChannelGroupsConfig() const noexcept { return m_mapChannelGroups; }

@@ -18,19 +18,22 @@ public:
     enum HuntingScheme { LINEAR = 1, REVERSE_LINEAR = 2 };
     using BChannelRanges = std::set<TSHandle<BChannelRangeConfig>, LessThanComparatorForBChannelRangeConfig>;
 
+    /// The name, unique among the groups; empty until set.
     const char* getId() const noexcept { return m_strId.c_str(); }
+    /// Refuses null, with an assertion.
     bool setId( const char* in_szId );
 
     /// BIDIR until set.
     PSTNChannel::Direction getDirection() const noexcept { return m_eDirection; }
     void setDirection( PSTNChannel::Direction in_eDirection ) noexcept { m_eDirection = in_eDirection; }
 
-    /// Means nothing for a group whose direction is IN.
+    /// Means nothing for a group whose direction is IN; LINEAR until set.
     HuntingScheme getOutboundHuntingScheme() const noexcept { return m_eOutboundHuntingScheme; }
     void setOutboundHuntingScheme( HuntingScheme in_eScheme ) noexcept { m_eOutboundHuntingScheme = in_eScheme; }
 
-    /// Takes ownership of a range, which has its interface. Refuses, and releases, a range that shares a channel with
-    /// one of this group; the same channel may be in several groups.
+    /// Takes ownership of a range, which has its interface. Refuses one without interface, and null, with an assertion;
+    /// refuses, and releases, a range that shares a channel with one of this group. The same channel may be in several
+    /// groups.
     bool addBChannelRangeConfig( BChannelRangeConfig* in_pNewBChannelRangeConfig );
     /// The ranges by board, interface, channel.
     const BChannelRanges& getBChannelRangeConfig() const noexcept { return m_setBChannelRanges; }

@@ -26,6 +26,7 @@ public:
 
     /// The folder of the capture files; empty until set.
     const char* getPcapPathName() const noexcept { return m_strPcapFilesFolder.c_str(); }
+    /// Refuses null, with an assertion.
     bool setPcapFilesFolder( const char* in_szPcapFilesFolder );
 
     /// Whether frames are captured into pcap files; off until set.

@@ -36,33 +36,43 @@ public:
     enum class E1Signaling { NONE = 1, CAS = 2, CCS = 3 };
     enum class E1Termination { E1_75ohm = 1, E1_120ohm = 2 };
 
+    /// E1 until set.
     MediaType getMediaType() const noexcept { return m_eMediaType; }
     void setMediaType( MediaType in_eMediaType ) noexcept { m_eMediaType = in_eMediaType; }
 
+    /// CRC4 until set.
     FramingType getFraming() const noexcept { return m_eFraming; }
     void setFraming( FramingType in_eFraming ) noexcept { m_eFraming = in_eFraming; }
 
+    /// HDB3 until set.
     LineEncodingType getLineEncoding() const noexcept { return m_eLineEncoding; }
     void setLineEncoding( LineEncodingType in_eLineEncoding ) noexcept { m_eLineEncoding = in_eLineEncoding; }
 
+    /// TERMINAL until set.
     ClockingMode getClockingMode() const noexcept { return m_eClockingMode; }
     void setClockingMode( ClockingMode in_eClockingMode ) noexcept { m_eClockingMode = in_eClockingMode; }
 
+    /// DISABLED until set.
     LoopbackMode getLoopbackMode() const noexcept { return m_eLoopbackMode; }
     void setLoopbackMode( LoopbackMode in_eLoopbackMode ) noexcept { m_eLoopbackMode = in_eLoopbackMode; }
 
+    /// LBO_0dB until set.
     LBOMode getLBOMode() const noexcept { return m_eLBOMode; }
     void setLBOMode( LBOMode in_eLBOMode ) noexcept { m_eLBOMode = in_eLBOMode; }
 
+    /// RX_12dB until set.
     RxSensitivity getRxSensitivity() const noexcept { return m_eRxSensitivity; }
     void setRxSensitivity( RxSensitivity in_eRxSensitivity ) noexcept { m_eRxSensitivity = in_eRxSensitivity; }
 
+    /// Off until set.
     bool isHighImpedanceEnable() const noexcept { return m_bHighImpedance; }
     void enableHighImpedance( bool in_bEnable ) noexcept { m_bHighImpedance = in_bEnable; }
 
+    /// NONE until set.
     E1Signaling getE1Signaling() const noexcept { return m_eE1Signaling; }
     void setE1Signaling( E1Signaling in_eE1Signaling ) noexcept { m_eE1Signaling = in_eE1Signaling; }
 
+    /// E1_120ohm until set.
     E1Termination getE1Termination() const noexcept { return m_eE1Termination; }
     void setE1Termination( E1Termination in_eE1Termination ) noexcept { m_eE1Termination = in_eE1Termination; }
 

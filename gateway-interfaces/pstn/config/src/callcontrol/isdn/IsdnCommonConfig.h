@@ -27,21 +27,25 @@ public:
     unsigned int getId() const noexcept { return m_uId; }
     void setId( unsigned int in_uId ) noexcept { m_uId = in_uId; }
 
+    /// TERMINAL until set.
     TerminationType getTermination() const noexcept { return m_eTermination; }
     void setTermination( TerminationType in_eTermination ) noexcept { m_eTermination = in_eTermination; }
 
+    /// ETSI until set.
     SwitchVariantType getSwitchVariant() const noexcept { return m_eSwitchVariant; }
     void setSwitchVariant( SwitchVariantType in_eSwitchVariant ) noexcept { m_eSwitchVariant = in_eSwitchVariant; }
 
+    /// PREFERRED until set.
     BChannelNegociationType getBChannelNegociation() const noexcept { return m_eBChannelNegociation; }
     void setBChannelNegociation( BChannelNegociationType in_eNegociation ) noexcept {
         m_eBChannelNegociation = in_eNegociation;
     }
 
-    /// Whether the gateway sends RESTART for its channels when the D-channel comes up.
+    /// Whether the gateway sends RESTART for its channels when the D-channel comes up; on until set.
     bool getInitiateRestartProcedure() const noexcept { return m_bInitiateRestartProcedure; }
     void setInitiateRestartProcedure( bool in_bInitiate ) noexcept { m_bInitiateRestartProcedure = in_bInitiate; }
 
+    /// AS_NEEDED until set.
     InbandProgressTonesGenerationType getInbandProgressTonesGeneration() const noexcept {
         return m_eInbandProgressTonesGeneration;
     }
@@ -49,6 +53,7 @@ public:
         m_eInbandProgressTonesGeneration = in_eGeneration;
     }
 
+    /// PROGRESS until set.
     InbandProgressTonesIndicatorType getInbandProgressTonesIndicator() const noexcept {
         return m_eInbandProgressTonesIndicator;
     }
@@ -56,6 +61,7 @@ public:
         m_eInbandProgressTonesIndicator = in_eIndicator;
     }
 
+    /// DISABLED until set.
     CallerNameLocationType getCallerNameLocation() const noexcept { return m_eCallerNameLocation; }
     void setCallerNameLocation( CallerNameLocationType in_eLocation ) noexcept { m_eCallerNameLocation = in_eLocation; }
 

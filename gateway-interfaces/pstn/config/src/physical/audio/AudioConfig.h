@@ -26,8 +26,9 @@ public:
     const Media::Format& getMediaFormat() const noexcept { return m_mediaFormat; }
     void setMediaFormat( const Media::Format& in_mediaFormat ) noexcept { m_mediaFormat = in_mediaFormat; }
 
-    /// Names the tones that the gateway plays and detects.
+    /// Names the tones that the gateway plays and detects; empty until set.
     const char* getToneSetName() const noexcept { return m_strToneSetName.c_str(); }
+    /// Refuses null, with an assertion.
     bool setToneSetName( const char* in_szToneSetName );
 
     const TSHandle<EchoCancellationConfig>& getEchoCancellationConfig() const noexcept { return m_hEchoCancellation; }

@@ -11,6 +11,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT HardwareAcousticEchoCancellationConfig : public
 public:
     enum class Mode { NORMAL = 1, DISABLED = 2 };
 
+    /// NORMAL until set.
     Mode getMode() const noexcept { return m_eMode; }
     void setMode( Mode in_eMode ) noexcept { m_eMode = in_eMode; }
 

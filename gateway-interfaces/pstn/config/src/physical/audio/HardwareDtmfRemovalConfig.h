@@ -13,9 +13,11 @@ public:
     enum class Mode { ENABLED = 1, DISABLED = 2 };
     using Direction = VoiceDirection;
 
+    /// DISABLED until set.
     Mode getMode() const noexcept { return m_eMode; }
     void setMode( Mode in_eMode ) noexcept { m_eMode = in_eMode; }
 
+    /// ALL until set.
     Direction getDirection() const noexcept { return m_eDirection; }
     void setDirection( Direction in_eDirection ) noexcept { m_eDirection = in_eDirection; }
 

@@ -13,9 +13,11 @@ public:
     enum class ComfortNoiseMode { NORMAL = 1, DISABLED = 2 };
     enum class DoubleTalkBehavior { OPTIMAL = 1, MORE_RESIDUAL_ECHO = 2, MORE_CLIPPING = 3 };
 
+    /// NORMAL until set.
     Mode getMode() const noexcept { return m_eMode; }
     void setMode( Mode in_eMode ) noexcept { m_eMode = in_eMode; }
 
+    /// NORMAL until set.
     ComfortNoiseMode getComfortNoiseMode() const noexcept { return m_eComfortNoiseMode; }
     void setComfortNoiseMode( ComfortNoiseMode in_eMode ) noexcept { m_eComfortNoiseMode = in_eMode; }
 
@@ -23,6 +25,7 @@ public:
     unsigned int getTailDisplacement() const noexcept { return m_uTailDisplacement; }
     void setTailDisplacement( unsigned int in_uMs ) noexcept { m_uTailDisplacement = in_uMs; }
 
+    /// OPTIMAL until set.
     DoubleTalkBehavior getDoubleTalkBehavior() const noexcept { return m_eDoubleTalkBehavior; }
     void setDoubleTalkBehavior( DoubleTalkBehavior in_eBehavior ) noexcept { m_eDoubleTalkBehavior = in_eBehavior; }
 
