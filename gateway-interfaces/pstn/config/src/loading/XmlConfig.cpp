@@ -208,9 +208,9 @@ DocumentTreePtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szCo
     const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument ) == 0;
     pDocument->URL = pUrl.release();
     if ( !bValid || errorRoute.isOutOfMemory() ) {
-        SchemaAdvisor advisor( pSchemaTree->getDocument() );
+        SchemaAdvisor advisor( pSchemaTree->getDocument(), getLogger() );
         for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
-            advisor.advise( pElement, getLogger() );
+            advisor.adviseOnAttributes( pElement );
         VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "
                                                << in_szConfigFile << " against schema " << in_szSchemaFile );
         return nullptr;

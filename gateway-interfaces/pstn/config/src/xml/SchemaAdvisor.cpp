@@ -4,6 +4,7 @@
 #include <memory>
 
 #include <libxml/xmlregexp.h>
+#include <libxml/xmlschemastypes.h>
 
 #include "xml/ChildElements.h"
 #include "xml/ElementReader.h"
@@ -16,7 +17,7 @@ constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
 // Far beyond what describes one element, and soon reached by a schema that never ends.
 constexpr unsigned int MAX_STEPS = 20'000;
 constexpr unsigned int MAX_DEPTH = 500;
-constexpr ReaderWording WORDING{ "] for element ", "] for element ", "Missing attribute [" };
+constexpr ReaderWording ATTRIBUTE_WORDING{ "] for element ", "] for element ", "Missing attribute [" };
 
 std::string getAttribute( const xmlNode* in_pNode, const char* in_szName ) {
     return fromXml( XmlStringPtr( xmlGetNoNsProp( const_cast<xmlNode*>( in_pNode ), toXml( in_szName ) ) ).get() );
@@ -24,15 +25,6 @@ std::string getAttribute( const xmlNode* in_pNode, const char* in_szName ) {
 
 bool isPattern( const xmlNode* in_pNode, std::string_view in_strName ) {
     return in_strName == fromXml( in_pNode->name );
-}
-
-/// Whether the value could be of the data type. Numbers only: the rest is left to libxml2.
-bool fitsDataType( std::string_view in_strValue, std::string_view in_strDataType ) {
-    if ( in_strDataType == "unsignedInt" )
-        return parseNumber<unsigned int>( in_strValue, NumberPolicy::WHOLE ).has_value();
-    if ( in_strDataType == "unsignedLong" )
-        return parseNumber<unsigned long long>( in_strValue, NumberPolicy::WHOLE ).has_value();
-    return true;
 }
 
 std::string describe( const std::vector<std::string>& in_vecValues ) {
@@ -55,12 +47,47 @@ bool matches( const char* in_szValue, const std::string& in_strPattern ) {
     return !pRegexp || xmlRegexpExec( pRegexp.get(), toXml( in_szValue ) ) != 0;
 }
 
+/// What a data type takes.
+std::string describeDataType( const std::string& in_strType ) {
+    if ( in_strType == "unsignedInt" || in_strType == "unsignedLong" )
+        return std::string( DECIMAL_HINT );
+    if ( in_strType == "int" )
+        return "The value must be a whole number from -2147483648 to 2147483647.";
+    if ( in_strType == "decimal" )
+        return "The value must be a real number.";
+    return "The value must be of type " + in_strType + '.';
+}
+
+/// What a `data` pattern wants other than the value; empty when it takes it, as far as type and pattern tell.
+std::string getHintOfData( const xmlNode* in_pData, const char* in_szValue ) {
+    const std::string strType = getAttribute( in_pData, "type" );
+    xmlSchemaType* const pType =
+        xmlSchemaGetPredefinedType( toXml( strType.c_str() ), toXml( "http://www.w3.org/2001/XMLSchema" ) );
+    if ( xmlSchemaValidatePredefinedType( pType, toXml( in_szValue ), nullptr ) > 0 )
+        return describeDataType( strType );
+    for ( const xmlNode* const pParameter : ChildElements( in_pData, "param" ) ) {
+        if ( getAttribute( pParameter, "name" ) != "pattern" )
+            continue;
+        const std::string strPattern = fromXml( XmlStringPtr( xmlNodeGetContent( pParameter ) ).get() );
+        if ( !matches( in_szValue, strPattern ) )
+            return "The value must match " + strPattern;
+    }
+    return {};
+}
+
+/// Appends what isn't there yet.
+template <class T>
+void merge( std::vector<T>& inout_vecAll, const std::vector<T>& in_vecMore ) {
+    for ( const T& one : in_vecMore ) {
+        if ( std::find( inout_vecAll.begin(), inout_vecAll.end(), one ) == inout_vecAll.end() )
+            inout_vecAll.push_back( one );
+    }
+}
+
 } // namespace
 
-SchemaAdvisor::SchemaAdvisor( const xmlDoc* in_pSchema ) : m_pGrammar( xmlDocGetRootElement( in_pSchema ) ) {
-    if ( !m_pGrammar )
-        return;
-    for ( const xmlNode* const pChild : ChildElements( m_pGrammar ) ) {
+SchemaAdvisor::SchemaAdvisor( const xmlDoc* in_pSchema, const Logger& in_logger ) : m_logger( in_logger ) {
+    for ( const xmlNode* const pChild : ChildElements( xmlDocGetRootElement( in_pSchema ) ) ) {
         if ( isPattern( pChild, "define" ) )
             m_mapDefinitions[getAttribute( pChild, "name" )].push_back( pChild );
         else if ( isPattern( pChild, "start" ) )
@@ -73,56 +100,83 @@ SchemaAdvisor::Step::Step( SchemaAdvisor& in_advisor ) : m_advisor( in_advisor )
     ++m_advisor.m_uDepth;
 }
 
-void SchemaAdvisor::advise( xmlNode* in_pElement, const Logger& in_logger ) {
+void SchemaAdvisor::adviseOnAttributes( xmlNode* in_pElement ) {
     m_uSteps = 0;
-    const Patterns vecPatterns = findPatterns( in_pElement );
-    if ( vecPatterns.empty() )
-        return;
-    Rules rules;
-    for ( const xmlNode* const pPattern : vecPatterns )
-        collectAttributes( pPattern, in_pElement, vecPatterns.size() == 1, rules );
-    // Half the rules would accuse attributes that are right.
-    if ( m_bLost )
-        return;
+    const ElementReader reader( in_pElement, m_logger, ATTRIBUTE_WORDING );
+    for ( const Fault& fault : findFaults( reader, findPatterns( in_pElement ) ) ) {
+        AttributeText text;
+        if ( reader.findText( fault.strAttribute.c_str(), text ) == ReadResult::ABSENT )
+            reader.reportMissing( fault.strAttribute.c_str() );
+        else
+            reader.reportInvalid( fault.strAttribute.c_str(), text.view(), fault.strHint );
+    }
+}
 
-    const ElementReader reader( in_pElement, in_logger, WORDING );
+/// What is wrong with the attributes of the element.
+std::vector<SchemaAdvisor::Fault> SchemaAdvisor::findFaults( const AttributeReader& in_reader,
+                                                             const Patterns& in_vecPatterns ) {
+    Rules rules;
+    for ( const xmlNode* const pPattern : in_vecPatterns )
+        collectAttributes( pPattern, in_reader, in_vecPatterns.size() == 1, rules );
+    // Half the rules would accuse attributes that are right.
+    if ( m_bLost || in_vecPatterns.empty() )
+        return {};
+
+    std::vector<Fault> vecFaults;
     for ( const auto& [strName, rule] : rules ) {
         AttributeText text;
-        if ( reader.findText( strName.c_str(), text ) == ReadResult::ABSENT ) {
+        if ( in_reader.findText( strName.c_str(), text ) == ReadResult::ABSENT ) {
             if ( rule.bRequired )
-                reader.reportMissing( strName.c_str() );
-        } else if ( rule.bAnyValue ) {
-            if ( !fitsDataType( text.view(), rule.strDataType ) )
-                reader.reportInvalid( strName.c_str(), text.view(), DECIMAL_HINT );
-            else if ( !rule.strPattern.empty() && !matches( text.c_str(), rule.strPattern ) )
-                reader.reportInvalid( strName.c_str(), text.view(), "The value must match " + rule.strPattern );
-        } else if ( std::find( rule.vecValues.begin(), rule.vecValues.end(), text.view() ) == rule.vecValues.end() ) {
-            reader.reportInvalid( strName.c_str(), text.view(), describe( rule.vecValues ) );
+                vecFaults.push_back( { strName, {} } );
+        } else if ( std::string strHint = getHint( rule, text.c_str() ); !strHint.empty() ) {
+            vecFaults.push_back( { strName, std::move( strHint ) } );
         }
     }
     // A file of attributes only gets no line for each of them.
     unsigned int uUnknown = 0;
-    for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute && uUnknown < MAX_UNKNOWN_ATTRIBUTES;
-          pAttribute = pAttribute->next ) {
+    for ( const xmlAttr* pAttribute = in_reader.getElement()->properties;
+          pAttribute && uUnknown < MAX_UNKNOWN_ATTRIBUTES; pAttribute = pAttribute->next ) {
         const char* const szName = fromXml( pAttribute->name );
         if ( pAttribute->ns || rules.contains( szName ) )
             continue;
-        const XmlStringPtr pValue( xmlNodeListGetString( in_pElement->doc, pAttribute->children, 1 ) );
-        reader.reportInvalid( szName, fromXml( pValue.get() ), "The element has no such attribute." );
+        vecFaults.push_back( { szName, "The element has no such attribute." } );
         ++uUnknown;
     }
+    return vecFaults;
+}
+
+/// What the rule wants other than the value; empty when it takes it.
+std::string SchemaAdvisor::getHint( const Rule& in_rule, const char* in_szValue ) {
+    const auto& vecValues = in_rule.vecValues;
+    if ( in_rule.bAnyValue || std::find( vecValues.begin(), vecValues.end(), in_szValue ) != vecValues.end() )
+        return {};
+    std::string strHint = describe( vecValues );
+    for ( const xmlNode* const pData : in_rule.vecData ) {
+        strHint = getHintOfData( pData, in_szValue );
+        if ( strHint.empty() )
+            break;
+    }
+    return strHint;
 }
 
 /// The patterns of the element, found from the root down.
-SchemaAdvisor::Patterns SchemaAdvisor::findPatterns( const xmlNode* in_pElement ) {
-    Patterns vecParents = getDefinitions( nullptr );
-    if ( in_pElement->parent && in_pElement->parent->type == XML_ELEMENT_NODE )
-        vecParents = findPatterns( in_pElement->parent );
-    Patterns vecPatterns;
-    std::set<const xmlNode*> setSeen;
-    for ( const xmlNode* const pParent : vecParents )
-        collectElements( pParent, fromXml( in_pElement->name ), setSeen, vecPatterns );
-    return vecPatterns;
+const SchemaAdvisor::Patterns& SchemaAdvisor::findPatterns( const xmlNode* in_pElement ) {
+    const xmlNode* const pParent = in_pElement->parent;
+    return findPatterns( pParent->type == XML_ELEMENT_NODE ? findPatterns( pParent ) : getDefinitions( nullptr ),
+                         in_pElement );
+}
+
+/// The patterns of the element, which its parent's hold.
+const SchemaAdvisor::Patterns& SchemaAdvisor::findPatterns( const Patterns& in_vecParents,
+                                                            const xmlNode* in_pElement ) {
+    const char* const szName = fromXml( in_pElement->name );
+    const auto [it, bNew] = m_mapPatterns.try_emplace( { in_vecParents, szName } );
+    if ( bNew ) {
+        std::set<const xmlNode*> setSeen;
+        for ( const xmlNode* const pParent : in_vecParents )
+            collectElements( pParent, szName, setSeen, it->second );
+    }
+    return it->second;
 }
 
 /// The `element` patterns of that name directly in the content of a pattern.
@@ -145,14 +199,14 @@ void SchemaAdvisor::collectElements( const xmlNode* in_pPattern, std::string_vie
 }
 
 /// The attributes directly in the content of a pattern.
-void SchemaAdvisor::collectAttributes( const xmlNode* in_pPattern, const xmlNode* in_pElement, bool in_bRequired,
+void SchemaAdvisor::collectAttributes( const xmlNode* in_pPattern, const AttributeReader& in_reader, bool in_bRequired,
                                        Rules& out_rules ) {
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
-        collectFrom( pChild, in_pElement, in_bRequired, out_rules );
+        collectFrom( pChild, in_reader, in_bRequired, out_rules );
 }
 
 /// The attributes that a pattern contributes to the element in whose content it stands.
-void SchemaAdvisor::collectFrom( const xmlNode* in_pPattern, const xmlNode* in_pElement, bool in_bRequired,
+void SchemaAdvisor::collectFrom( const xmlNode* in_pPattern, const AttributeReader& in_reader, bool in_bRequired,
                                  Rules& out_rules ) {
     const Step step( *this );
     if ( m_bLost )
@@ -161,39 +215,65 @@ void SchemaAdvisor::collectFrom( const xmlNode* in_pPattern, const xmlNode* in_p
         Rule& rule = out_rules[getAttribute( in_pPattern, "name" )];
         rule.bRequired = rule.bRequired || in_bRequired;
         collectValues( in_pPattern, rule );
-        rule.bAnyValue = rule.bAnyValue || rule.vecValues.empty();
+        rule.bAnyValue = rule.bAnyValue || ( rule.vecValues.empty() && rule.vecData.empty() );
     } else if ( isPattern( in_pPattern, "ref" ) ) {
         for ( const xmlNode* const pDefinition : getDefinitions( in_pPattern ) )
-            collectAttributes( pDefinition, in_pElement, in_bRequired, out_rules );
+            collectAttributes( pDefinition, in_reader, in_bRequired, out_rules );
     } else if ( isPattern( in_pPattern, "choice" ) ) {
-        collectChoice( in_pPattern, in_pElement, in_bRequired, out_rules );
+        collectChoice( in_pPattern, in_reader, in_bRequired, out_rules );
     } else if ( !isPattern( in_pPattern, "element" ) ) {
         const bool bOptional = isPattern( in_pPattern, "optional" ) || isPattern( in_pPattern, "zeroOrMore" );
-        collectAttributes( in_pPattern, in_pElement, in_bRequired && !bOptional, out_rules );
+        collectAttributes( in_pPattern, in_reader, in_bRequired && !bOptional, out_rules );
     }
 }
 
-/// Of alternatives, the keyword that one attribute has mostly tells which is meant: what that one requires is required.
-void SchemaAdvisor::collectChoice( const xmlNode* in_pChoice, const xmlNode* in_pElement, bool in_bRequired,
+/// Whether the element has one of the rule's keywords, or has none and needs none.
+bool SchemaAdvisor::agrees( const AttributeReader& in_reader, const std::string& in_strAttribute,
+                            const Rule& in_rule ) {
+    AttributeText text;
+    if ( in_reader.findText( in_strAttribute.c_str(), text ) == ReadResult::ABSENT )
+        return !in_rule.bRequired;
+    return std::find( in_rule.vecValues.begin(), in_rule.vecValues.end(), text.view() ) != in_rule.vecValues.end();
+}
+
+/// Whether each has a rule of that kind for the attribute.
+bool SchemaAdvisor::haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
+                             bool ( Rule::*in_has )() const noexcept ) {
+    return std::all_of( in_vecRules.begin(), in_vecRules.end(), [&]( const Rules& in_rules ) {
+        const auto it = in_rules.find( in_strAttribute );
+        return it != in_rules.end() && ( it->second.*in_has )();
+    } );
+}
+
+/// Of alternatives, those are meant with which the element agrees most, in the attributes that have keywords in each of
+/// them. What all that are meant require is required.
+void SchemaAdvisor::collectChoice( const xmlNode* in_pChoice, const AttributeReader& in_reader, bool in_bRequired,
                                    Rules& out_rules ) {
-    Patterns vecMeant;
-    for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) ) {
-        Rules rules;
-        collectFrom( pAlternative, in_pElement, true, rules );
-        const bool bMeant = std::all_of( rules.begin(), rules.end(), [in_pElement]( const auto& in_entry ) {
-            const auto& [strName, rule] = in_entry;
-            return rule.bAnyValue || std::find( rule.vecValues.begin(), rule.vecValues.end(),
-                                                getAttribute( in_pElement, strName.c_str() ) ) != rule.vecValues.end();
-        } );
-        if ( bMeant )
-            vecMeant.push_back( pAlternative );
-    }
-    if ( vecMeant.size() == 1 ) {
-        collectFrom( vecMeant.front(), in_pElement, in_bRequired, out_rules );
-        return;
-    }
+    std::vector<Rules> vecAlternatives;
     for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) )
-        collectFrom( pAlternative, in_pElement, false, out_rules );
+        collectFrom( pAlternative, in_reader, true, vecAlternatives.emplace_back() );
+    std::vector<Rules> vecMeant;
+    std::ptrdiff_t nMost = 0;
+    for ( const Rules& rules : vecAlternatives ) {
+        const auto nAgreeing = std::count_if( rules.begin(), rules.end(), [&]( const auto& in_entry ) {
+            return haveAll( vecAlternatives, in_entry.first, &Rule::hasKeywordsOnly ) &&
+                   agrees( in_reader, in_entry.first, in_entry.second );
+        } );
+        if ( nAgreeing > nMost )
+            vecMeant.clear();
+        if ( nAgreeing >= nMost )
+            vecMeant.push_back( rules );
+        nMost = std::max( nMost, nAgreeing );
+    }
+    for ( const Rules& rules : vecMeant ) {
+        for ( const auto& [strName, rule] : rules ) {
+            Rule& merged = out_rules[strName];
+            merged.bRequired = merged.bRequired || ( in_bRequired && haveAll( vecMeant, strName, &Rule::isRequired ) );
+            merged.bAnyValue = merged.bAnyValue || rule.bAnyValue;
+            merge( merged.vecValues, rule.vecValues );
+            merge( merged.vecData, rule.vecData );
+        }
+    }
 }
 
 /// The values that an attribute takes.
@@ -204,17 +284,12 @@ void SchemaAdvisor::collectValues( const xmlNode* in_pPattern, Rule& out_rule ) 
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
         if ( isPattern( pChild, "value" ) ) {
             const XmlStringPtr pValue( xmlNodeGetContent( pChild ) );
-            out_rule.vecValues.emplace_back( fromXml( pValue.get() ) );
+            merge( out_rule.vecValues, { fromXml( pValue.get() ) } );
         } else if ( isPattern( pChild, "ref" ) ) {
             for ( const xmlNode* const pDefinition : getDefinitions( pChild ) )
                 collectValues( pDefinition, out_rule );
         } else if ( isPattern( pChild, "data" ) ) {
-            out_rule.bAnyValue = true;
-            out_rule.strDataType = getAttribute( pChild, "type" );
-            for ( const xmlNode* const pParameter : ChildElements( pChild, "param" ) ) {
-                if ( getAttribute( pParameter, "name" ) == "pattern" )
-                    out_rule.strPattern = fromXml( XmlStringPtr( xmlNodeGetContent( pParameter ) ).get() );
-            }
+            merge( out_rule.vecData, { pChild } );
         } else if ( isPattern( pChild, "text" ) ) {
             out_rule.bAnyValue = true;
         } else {

@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <libxml/tree.h>
@@ -12,16 +13,18 @@
 
 namespace Velquin::Pstn {
 
+class AttributeReader;
+
 /// Tells which attribute of an element the schema refuses, and what it would take: libxml2's validation names only the
-/// element. Asks the schema's own patterns; what they tell by other means than attributes stays untold.
+/// element. Asks the schema's own patterns.
 class SchemaAdvisor {
 public:
     /// @param in_pSchema a schema in the XML syntax, which outlives this object
-    explicit SchemaAdvisor( const xmlDoc* in_pSchema );
+    SchemaAdvisor( const xmlDoc* in_pSchema, const Logger& in_logger );
 
     /// Reports every attribute of the element that is missing, unknown, or has a value that the schema doesn't take.
     /// Says nothing of a schema that refers to itself, or to one definition over and over, beyond measure.
-    void advise( xmlNode* in_pElement, const Logger& in_logger );
+    void adviseOnAttributes( xmlNode* in_pElement );
 
 private:
     /// One step into a pattern. A schema's size says nothing of how many there are: definitions can refer to each
@@ -37,29 +40,47 @@ private:
         SchemaAdvisor& m_advisor;
     };
 
+    using Patterns = std::vector<const xmlNode*>;
+
     /// What the schema says of one attribute.
     struct Rule {
         bool bRequired = false;
-        bool bAnyValue = false; ///< takes more than the listed values
+        bool bAnyValue = false;
         std::vector<std::string> vecValues;
-        std::string strDataType; ///< of a value that is not listed, if one is told
-        std::string strPattern;  ///< of a value that is not listed, if one is told
+        Patterns vecData; ///< `data` patterns: what takes a value that is not listed
+
+        bool isRequired() const noexcept { return bRequired; }
+        bool hasKeywordsOnly() const noexcept { return !bAnyValue && vecData.empty(); }
     };
     using Rules = std::map<std::string, Rule, std::less<>>;
-    using Patterns = std::vector<const xmlNode*>;
 
-    Patterns findPatterns( const xmlNode* in_pElement );
+    /// An attribute that is missing, or has a value that the hint replaces.
+    struct Fault {
+        std::string strAttribute;
+        std::string strHint;
+    };
+
+    static bool haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
+                         bool ( Rule::*in_has )() const noexcept );
+    static std::string getHint( const Rule& in_rule, const char* in_szValue );
+    static bool agrees( const AttributeReader& in_reader, const std::string& in_strAttribute, const Rule& in_rule );
+    std::vector<Fault> findFaults( const AttributeReader& in_reader, const Patterns& in_vecPatterns );
+    const Patterns& findPatterns( const xmlNode* in_pElement );
+    const Patterns& findPatterns( const Patterns& in_vecParents, const xmlNode* in_pElement );
     void collectElements( const xmlNode* in_pPattern, std::string_view in_strName,
                           std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns );
-    void collectAttributes( const xmlNode* in_pPattern, const xmlNode* in_pElement, bool in_bRequired,
+    void collectAttributes( const xmlNode* in_pPattern, const AttributeReader& in_reader, bool in_bRequired,
                             Rules& out_rules );
-    void collectFrom( const xmlNode* in_pPattern, const xmlNode* in_pElement, bool in_bRequired, Rules& out_rules );
-    void collectChoice( const xmlNode* in_pChoice, const xmlNode* in_pElement, bool in_bRequired, Rules& out_rules );
+    void collectFrom( const xmlNode* in_pPattern, const AttributeReader& in_reader, bool in_bRequired,
+                      Rules& out_rules );
+    void collectChoice( const xmlNode* in_pChoice, const AttributeReader& in_reader, bool in_bRequired,
+                        Rules& out_rules );
     void collectValues( const xmlNode* in_pPattern, Rule& out_rule );
     const Patterns& getDefinitions( const xmlNode* in_pRef ) const;
 
-    const xmlNode* m_pGrammar;
+    const Logger& m_logger;
     std::map<std::string, Patterns, std::less<>> m_mapDefinitions;
+    std::map<std::pair<Patterns, std::string>, Patterns> m_mapPatterns; // of an element, by those of its parent
     unsigned int m_uDepth = 0;
     unsigned int m_uSteps = 0; // for the element at hand
     bool m_bLost = false;      // once and for all: to lose the way for each element takes too long
