@@ -142,6 +142,21 @@ TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
     EXPECT_THAT( getAdvice( "<a kind='call' number='12' more=''/>" ), testing::HasSubstr( "/a/more=]" ) );
 }
 
+TEST( Loader, LeavesChildrenWithoutNamesUnnamed ) {
+    const TemporaryFile schema( R"(<grammar xmlns="http://relaxng.org/ns/structure/1.0"><start><element name="a">
+        <element name="b"><empty/></element><element><anyName/><empty/></element></element></start></grammar>)" );
+    for ( const auto& [szDocument, szMessage] : { std::pair( "<a/>", "Expecting an element b, got nothing" ),
+                                                  std::pair( "<a><b/></a>", "Expecting an element, got nothing" ) } ) {
+        const TemporaryFile document( szDocument );
+        const std::string strEnd = " in file " + document.getPath() + " at line 1.";
+        XmlConfig config;
+        const auto vecLines = load( config, document.getPath(), schema.getPath() ).vecLines;
+        EXPECT_EQ( vecLines.at( 0 ), "ERROR XmlConfig: " + std::string( szMessage ) + strEnd );
+        EXPECT_EQ( vecLines.at( 1 ), "ERROR XmlConfig: Element a failed to validate content" + strEnd );
+        EXPECT_EQ( vecLines.size(), 3U );
+    }
+}
+
 // libxml2 remembers the attributes that a schema calls identifiers, those of boards too, which a load gives back.
 TEST( Loader, TakesASchemaWithIdentifiers ) {
     const TemporaryFile schema( R"(<grammar xmlns="http://relaxng.org/ns/structure/1.0"

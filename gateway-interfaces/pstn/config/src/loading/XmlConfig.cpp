@@ -75,6 +75,15 @@ bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
     return false;
 }
 
+/// Reports which attributes and children of the elements that validation refused the schema refuses or misses.
+void advise( const LibXml2ErrorRoute& in_route, const xmlDoc* in_pSchema, const Logger& in_logger ) {
+    SchemaAdvisor advisor( in_pSchema, in_logger );
+    for ( xmlNode* const pElement : in_route.getElementsWithWrongAttributes() )
+        advisor.adviseOnAttributes( pElement );
+    for ( xmlNode* const pElement : in_route.getElementsWithWrongChildren() )
+        advisor.adviseOnChildren( pElement );
+}
+
 } // namespace
 
 /// What a load consists of. Shared by the copies of an XmlConfig; works for the one that is loading.
@@ -208,9 +217,7 @@ DocumentTreePtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szCo
     const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument ) == 0;
     pDocument->URL = pUrl.release();
     if ( !bValid || errorRoute.isOutOfMemory() ) {
-        SchemaAdvisor advisor( pSchemaTree->getDocument(), getLogger() );
-        for ( xmlNode* const pElement : errorRoute.getElementsWithWrongAttributes() )
-            advisor.adviseOnAttributes( pElement );
+        advise( errorRoute, pSchemaTree->getDocument(), getLogger() );
         VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "
                                                << in_szConfigFile << " against schema " << in_szSchemaFile );
         return nullptr;

@@ -53,6 +53,12 @@ bool isAboutAttributes( const xmlError& in_error ) {
            ( in_error.code == XML_RELAXNG_ERR_ATTRVALID || in_error.code == XML_RELAXNG_ERR_INVALIDATTR );
 }
 
+/// Whether libxml2 misses a child element, without a name for it.
+bool isAboutMissingChild( const xmlError& in_error ) {
+    return in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_NOELEM &&
+           *fromXml( toXml( in_error.str1 ) ) == '\0';
+}
+
 /// The element that the error is about; null when it is about none. For attributes, libxml2 tells the element's name
 /// but hands over its first child where it has one.
 xmlNode* getElement( const xmlError& in_error ) {
@@ -66,6 +72,24 @@ xmlNode* getElement( const xmlError& in_error ) {
             return pNode->parent;
     }
     return pNode;
+}
+
+/// The element that may miss a child, at the end of its children or in front of one that is not expected.
+xmlNode* getParentOfMissing( const xmlError& in_error ) {
+    xmlNode* const pElement = getElement( in_error );
+    if ( pElement && in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_ELEMWRONG )
+        return pElement->parent;
+    return isAboutMissingChild( in_error ) ? pElement : nullptr;
+}
+
+bool contains( const std::vector<xmlNode*>& in_vecElements, const xmlNode* in_pElement ) {
+    return std::find( in_vecElements.begin(), in_vecElements.end(), in_pElement ) != in_vecElements.end();
+}
+
+/// Appends an element that isn't there yet.
+void appendElement( std::vector<xmlNode*>& inout_vecElements, xmlNode* in_pElement ) {
+    if ( in_pElement && !contains( inout_vecElements, in_pElement ) )
+        inout_vecElements.push_back( in_pElement );
 }
 
 } // namespace
@@ -93,9 +117,11 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
             finding.strFile = szFile;
     }
     const bool bLast = ++inout_uErrors > MAX_ERRORS;
+    // libxml2 leaves a hole where it has no name.
+    const char* const szMessage =
+        isAboutMissingChild( in_error ) ? "Expecting an element, got nothing" : in_error.message;
     reportMessage( in_logger, bLast ? Logger::ERROR_LEVEL : in_nLevel,
-                   bLast ? "Too many errors, this one and the rest are not listed" : in_error.message,
-                   std::move( finding ) );
+                   bLast ? "Too many errors, this one and the rest are not listed" : szMessage, std::move( finding ) );
 }
 
 LibXml2ErrorRoute::LibXml2ErrorRoute( const Logger& in_logger, std::string in_strFile )
@@ -118,16 +144,21 @@ void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, xmlError* in_pError 
     auto& route = *static_cast<LibXml2ErrorRoute*>( in_pRoute );
     route.m_bOutOfMemory = route.m_bOutOfMemory || in_pError->code == XML_ERR_NO_MEMORY;
     try {
-        reportLibXml2Error( route.m_logger, Logger::ERROR_LEVEL, *in_pError, route.m_strFile.c_str(), route.m_uErrors );
-        auto& vecElements = route.m_vecWrongAttributes;
-        const bool bAdvise = route.m_uErrors <= MAX_ERRORS && isAboutAttributes( *in_pError );
-        xmlNode* const pElement = bAdvise ? getElement( *in_pError ) : nullptr;
-        if ( pElement && std::find( vecElements.begin(), vecElements.end(), pElement ) == vecElements.end() )
-            vecElements.push_back( pElement );
+        route.report( *in_pError );
     } catch ( ... ) {
         // libxml2's C code in between must not be unwound.
         reportCurrentException( route.m_logger, __func__, __FILE__, __LINE__ );
     }
+}
+
+/// Reports the error and keeps the element, for advice.
+void LibXml2ErrorRoute::report( const xmlError& in_error ) {
+    reportLibXml2Error( m_logger, Logger::ERROR_LEVEL, in_error, m_strFile.c_str(), m_uErrors );
+    if ( m_uErrors > MAX_ERRORS )
+        return;
+    appendElement( m_vecWrongChildren, getParentOfMissing( in_error ) );
+    if ( isAboutAttributes( in_error ) )
+        appendElement( m_vecWrongAttributes, getElement( in_error ) );
 }
 
 } // namespace Velquin::Pstn

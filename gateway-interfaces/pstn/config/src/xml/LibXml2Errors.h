@@ -36,15 +36,21 @@ public:
     /// The elements whose attributes validation refused, each once, as far as they were reported.
     const std::vector<xmlNode*>& getElementsWithWrongAttributes() const noexcept { return m_vecWrongAttributes; }
 
+    /// The elements in which validation may have missed a child, each once, as far as they were reported.
+    const std::vector<xmlNode*>& getElementsWithWrongChildren() const noexcept { return m_vecWrongChildren; }
+
     /// A structured error callback of libxml2, whose context is a LibXml2ErrorRoute.
     static void onStructuredError( void* in_pRoute, xmlError* in_pError );
 
 private:
+    void report( const xmlError& in_error );
+
     const Logger& m_logger;
     std::string m_strFile;
     unsigned int m_uErrors = 0;
     bool m_bOutOfMemory = false;
     std::vector<xmlNode*> m_vecWrongAttributes;
+    std::vector<xmlNode*> m_vecWrongChildren;
     xmlStructuredErrorFunc m_pOuterStructuredError;
     void* m_pOuterStructuredContext;
     xmlGenericErrorFunc m_pOuterGenericError;

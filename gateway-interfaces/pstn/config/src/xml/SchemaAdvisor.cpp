@@ -18,6 +18,7 @@ constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
 constexpr unsigned int MAX_STEPS = 20'000;
 constexpr unsigned int MAX_DEPTH = 500;
 constexpr ReaderWording ATTRIBUTE_WORDING{ "] for element ", "] for element ", "Missing attribute [" };
+constexpr ReaderWording CHILD_WORDING{ "] for element ", "", "Missing element [" };
 
 std::string getAttribute( const xmlNode* in_pNode, const char* in_szName ) {
     return fromXml( XmlStringPtr( xmlGetNoNsProp( const_cast<xmlNode*>( in_pNode ), toXml( in_szName ) ) ).get() );
@@ -112,6 +113,19 @@ void SchemaAdvisor::adviseOnAttributes( xmlNode* in_pElement ) {
     }
 }
 
+void SchemaAdvisor::adviseOnChildren( xmlNode* in_pElement ) {
+    m_uSteps = 0;
+    std::vector<std::string> vecMissing;
+    for ( const xmlNode* const pPattern : findPatterns( in_pElement ) ) {
+        vecMissing = findMissingAmong( pPattern, in_pElement );
+        if ( vecMissing.empty() )
+            break;
+    }
+    const ElementReader reader( in_pElement, m_logger, CHILD_WORDING );
+    for ( const std::string& strName : vecMissing )
+        reader.reportMissingChild( strName );
+}
+
 /// What is wrong with the attributes of the element.
 std::vector<SchemaAdvisor::Fault> SchemaAdvisor::findFaults( const AttributeReader& in_reader,
                                                              const Patterns& in_vecPatterns ) {
@@ -157,6 +171,43 @@ std::string SchemaAdvisor::getHint( const Rule& in_rule, const char* in_szValue 
             break;
     }
     return strHint;
+}
+
+/// What the content of a pattern requires of the children of the element and doesn't find, by their names.
+std::vector<std::string> SchemaAdvisor::findMissingAmong( const xmlNode* in_pPattern, const xmlNode* in_pElement ) {
+    std::vector<std::string> vecMissing;
+    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
+        merge( vecMissing, findMissing( pChild, in_pElement ) );
+    return vecMissing;
+}
+
+/// What a pattern requires of the children of the element in whose content it stands, alternatives as one text.
+std::vector<std::string> SchemaAdvisor::findMissing( const xmlNode* in_pPattern, const xmlNode* in_pElement ) {
+    const Step step( *this );
+    if ( m_bLost || isPattern( in_pPattern, "optional" ) || isPattern( in_pPattern, "zeroOrMore" ) )
+        return {};
+    if ( isPattern( in_pPattern, "element" ) ) {
+        const std::string strName = getAttribute( in_pPattern, "name" );
+        if ( strName.empty() || XML::findFirstElement( in_pElement, strName.c_str() ) )
+            return {};
+        return { strName };
+    }
+    if ( isPattern( in_pPattern, "choice" ) ) {
+        std::string strAlternatives;
+        for ( const xmlNode* const pAlternative : ChildElements( in_pPattern ) ) {
+            const std::vector<std::string> vecMissing = findMissing( pAlternative, in_pElement );
+            if ( vecMissing.empty() )
+                return {};
+            strAlternatives.append( strAlternatives.empty() ? "" : " or " ).append( vecMissing.front() );
+        }
+        return { strAlternatives };
+    }
+    if ( !isPattern( in_pPattern, "ref" ) )
+        return findMissingAmong( in_pPattern, in_pElement );
+    std::vector<std::string> vecMissing;
+    for ( const xmlNode* const pDefinition : getDefinitions( in_pPattern ) )
+        merge( vecMissing, findMissingAmong( pDefinition, in_pElement ) );
+    return vecMissing;
 }
 
 /// The patterns of the element, found from the root down.

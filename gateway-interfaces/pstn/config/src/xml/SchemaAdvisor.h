@@ -15,8 +15,8 @@ namespace Velquin::Pstn {
 
 class AttributeReader;
 
-/// Tells which attribute of an element the schema refuses, and what it would take: libxml2's validation names only the
-/// element. Asks the schema's own patterns.
+/// Tells which attribute of an element the schema refuses, and what it would take, or which child it misses: libxml2's
+/// validation names only the element. Asks the schema's own patterns.
 class SchemaAdvisor {
 public:
     /// @param in_pSchema a schema in the XML syntax, which outlives this object
@@ -25,6 +25,9 @@ public:
     /// Reports every attribute of the element that is missing, unknown, or has a value that the schema doesn't take.
     /// Says nothing of a schema that refers to itself, or to one definition over and over, beyond measure.
     void adviseOnAttributes( xmlNode* in_pElement );
+
+    /// Reports every child element that is required and absent.
+    void adviseOnChildren( xmlNode* in_pElement );
 
 private:
     /// One step into a pattern. A schema's size says nothing of how many there are: definitions can refer to each
@@ -65,6 +68,8 @@ private:
     static std::string getHint( const Rule& in_rule, const char* in_szValue );
     static bool agrees( const AttributeReader& in_reader, const std::string& in_strAttribute, const Rule& in_rule );
     std::vector<Fault> findFaults( const AttributeReader& in_reader, const Patterns& in_vecPatterns );
+    std::vector<std::string> findMissing( const xmlNode* in_pPattern, const xmlNode* in_pElement );
+    std::vector<std::string> findMissingAmong( const xmlNode* in_pPattern, const xmlNode* in_pElement );
     const Patterns& findPatterns( const xmlNode* in_pElement );
     const Patterns& findPatterns( const Patterns& in_vecParents, const xmlNode* in_pElement );
     void collectElements( const xmlNode* in_pPattern, std::string_view in_strName,
