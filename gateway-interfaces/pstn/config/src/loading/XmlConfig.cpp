@@ -75,12 +75,24 @@ bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
     return false;
 }
 
-/// Reports which attributes and children of the elements that validation refused the schema refuses or misses.
-void advise( const LibXml2ErrorRoute& in_route, const xmlDoc* in_pSchema, const Logger& in_logger ) {
+/// Reports which attributes and children of the document the schema refuses or misses, where libxml2 named the element
+/// and where it didn't.
+void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xmlDoc* in_pDocument,
+             const Logger& in_logger ) {
     SchemaAdvisor advisor( in_pSchema, in_logger );
-    for ( xmlNode* const pElement : in_route.getElementsWithWrongAttributes() )
+    for ( const auto& [strName, uTimes] : inout_route.getUnplaced() ) {
+        // Some of them may have been named by another error.
+        const std::size_t uMost = uTimes + inout_route.getElementsWithWrongAttributes().size();
+        const std::vector<xmlNode*> vecMisfits =
+            advisor.findMisfits( xmlDocGetRootElement( in_pDocument ), strName, uMost );
+        for ( xmlNode* const pElement : vecMisfits )
+            inout_route.reportWrongAttributes( strName, pElement );
+        if ( vecMisfits.empty() )
+            inout_route.reportWrongAttributes( strName, nullptr );
+    }
+    for ( xmlNode* const pElement : inout_route.getElementsWithWrongAttributes() )
         advisor.adviseOnAttributes( pElement );
-    for ( xmlNode* const pElement : in_route.getElementsWithWrongChildren() )
+    for ( xmlNode* const pElement : inout_route.getElementsWithWrongChildren() )
         advisor.adviseOnChildren( pElement );
 }
 
@@ -217,7 +229,7 @@ DocumentTreePtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szCo
     const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument ) == 0;
     pDocument->URL = pUrl.release();
     if ( !bValid || errorRoute.isOutOfMemory() ) {
-        advise( errorRoute, pSchemaTree->getDocument(), getLogger() );
+        advise( errorRoute, pSchemaTree->getDocument(), pDocument, getLogger() );
         VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "
                                                << in_szConfigFile << " against schema " << in_szSchemaFile );
         return nullptr;

@@ -59,6 +59,11 @@ bool isAboutMissingChild( const xmlError& in_error ) {
            *fromXml( toXml( in_error.str1 ) ) == '\0';
 }
 
+/// The name of the element that an error about attributes is about.
+const char* getElementName( const xmlError& in_error ) {
+    return in_error.code == XML_RELAXNG_ERR_INVALIDATTR ? in_error.str2 : in_error.str1;
+}
+
 /// The element that the error is about; null when it is about none. For attributes, libxml2 tells the element's name
 /// but hands over its first child where it has one.
 xmlNode* getElement( const xmlError& in_error ) {
@@ -66,7 +71,7 @@ xmlNode* getElement( const xmlError& in_error ) {
     if ( !pNode || pNode->type != XML_ELEMENT_NODE )
         return nullptr;
     if ( isAboutAttributes( in_error ) && pNode->parent && pNode->parent->type == XML_ELEMENT_NODE ) {
-        const char* const szName = in_error.code == XML_RELAXNG_ERR_INVALIDATTR ? in_error.str2 : in_error.str1;
+        const char* const szName = getElementName( in_error );
         if ( szName && std::strcmp( fromXml( pNode->name ), szName ) != 0 &&
              std::strcmp( fromXml( pNode->parent->name ), szName ) == 0 )
             return pNode->parent;
@@ -144,11 +149,28 @@ void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, xmlError* in_pError 
     auto& route = *static_cast<LibXml2ErrorRoute*>( in_pRoute );
     route.m_bOutOfMemory = route.m_bOutOfMemory || in_pError->code == XML_ERR_NO_MEMORY;
     try {
-        route.report( *in_pError );
+        if ( in_pError->node || !isAboutAttributes( *in_pError ) )
+            route.report( *in_pError );
+        else if ( unsigned int& uTimes = route.m_mapUnplaced[fromXml( toXml( getElementName( *in_pError ) ) )];
+                  uTimes <= MAX_ERRORS )
+            ++uTimes;
     } catch ( ... ) {
         // libxml2's C code in between must not be unwound.
         reportCurrentException( route.m_logger, __func__, __FILE__, __LINE__ );
     }
+}
+
+void LibXml2ErrorRoute::reportWrongAttributes( std::string in_strName, xmlNode* in_pElement ) {
+    if ( contains( m_vecWrongAttributes, in_pElement ) )
+        return;
+    std::string strMessage = "Element " + in_strName + " failed to validate attributes";
+    xmlError error{};
+    error.domain = XML_FROM_RELAXNGV;
+    error.code = XML_RELAXNG_ERR_ATTRVALID;
+    error.message = strMessage.data();
+    error.str1 = in_strName.data();
+    error.node = in_pElement;
+    report( error );
 }
 
 /// Reports the error and keeps the element, for advice.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -39,6 +40,14 @@ public:
     /// The elements in which validation may have missed a child, each once, as far as they were reported.
     const std::vector<xmlNode*>& getElementsWithWrongChildren() const noexcept { return m_vecWrongChildren; }
 
+    /// The names of elements whose attributes validation refused without telling which elements they are, and how often
+    /// it did. Not reported: who finds the elements does it.
+    const std::map<std::string, unsigned int>& getUnplaced() const noexcept { return m_mapUnplaced; }
+
+    /// Reports that the attributes of an element are refused, unless that was reported before.
+    /// @param in_pElement null for one of that name that was not found
+    void reportWrongAttributes( std::string in_strName, xmlNode* in_pElement );
+
     /// A structured error callback of libxml2, whose context is a LibXml2ErrorRoute.
     static void onStructuredError( void* in_pRoute, xmlError* in_pError );
 
@@ -51,6 +60,7 @@ private:
     bool m_bOutOfMemory = false;
     std::vector<xmlNode*> m_vecWrongAttributes;
     std::vector<xmlNode*> m_vecWrongChildren;
+    std::map<std::string, unsigned int> m_mapUnplaced;
     xmlStructuredErrorFunc m_pOuterStructuredError;
     void* m_pOuterStructuredContext;
     xmlGenericErrorFunc m_pOuterGenericError;

@@ -126,6 +126,27 @@ void SchemaAdvisor::adviseOnChildren( xmlNode* in_pElement ) {
         reader.reportMissingChild( strName );
 }
 
+std::vector<xmlNode*> SchemaAdvisor::findMisfits( xmlNode* in_pRoot, std::string_view in_strName,
+                                                  std::size_t in_uMost ) {
+    std::vector<xmlNode*> vecMisfits;
+    collectMisfits( in_pRoot, getDefinitions( nullptr ), in_strName, in_uMost, vecMisfits );
+    return vecMisfits;
+}
+
+void SchemaAdvisor::collectMisfits( xmlNode* in_pElement, const Patterns& in_vecParents, std::string_view in_strName,
+                                    std::size_t in_uMost, std::vector<xmlNode*>& out_vecMisfits ) {
+    m_uSteps = 0;
+    const Patterns& vecPatterns = findPatterns( in_vecParents, in_pElement );
+    if ( in_strName == fromXml( in_pElement->name ) &&
+         !findFaults( { in_pElement, m_logger, ATTRIBUTE_WORDING }, vecPatterns ).empty() )
+        out_vecMisfits.push_back( in_pElement );
+    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
+        if ( out_vecMisfits.size() >= in_uMost )
+            return;
+        collectMisfits( pChild, vecPatterns, in_strName, in_uMost, out_vecMisfits );
+    }
+}
+
 /// What is wrong with the attributes of the element.
 std::vector<SchemaAdvisor::Fault> SchemaAdvisor::findFaults( const AttributeReader& in_reader,
                                                              const Patterns& in_vecPatterns ) {

@@ -16,7 +16,7 @@ namespace Velquin::Pstn {
 class AttributeReader;
 
 /// Tells which attribute of an element the schema refuses, and what it would take, or which child it misses: libxml2's
-/// validation names only the element. Asks the schema's own patterns.
+/// validation names only the element, and not always that. Asks the schema's own patterns.
 class SchemaAdvisor {
 public:
     /// @param in_pSchema a schema in the XML syntax, which outlives this object
@@ -28,6 +28,9 @@ public:
 
     /// Reports every child element that is required and absent.
     void adviseOnChildren( xmlNode* in_pElement );
+
+    /// The elements of that name, the first ones of the document, whose attributes the schema refuses.
+    std::vector<xmlNode*> findMisfits( xmlNode* in_pRoot, std::string_view in_strName, std::size_t in_uMost );
 
 private:
     /// One step into a pattern. A schema's size says nothing of how many there are: definitions can refer to each
@@ -68,6 +71,8 @@ private:
     static std::string getHint( const Rule& in_rule, const char* in_szValue );
     static bool agrees( const AttributeReader& in_reader, const std::string& in_strAttribute, const Rule& in_rule );
     std::vector<Fault> findFaults( const AttributeReader& in_reader, const Patterns& in_vecPatterns );
+    void collectMisfits( xmlNode* in_pElement, const Patterns& in_vecParents, std::string_view in_strName,
+                         std::size_t in_uMost, std::vector<xmlNode*>& out_vecMisfits );
     std::vector<std::string> findMissing( const xmlNode* in_pPattern, const xmlNode* in_pElement );
     std::vector<std::string> findMissingAmong( const xmlNode* in_pPattern, const xmlNode* in_pElement );
     const Patterns& findPatterns( const xmlNode* in_pElement );
