@@ -1,3 +1,5 @@
+#include <typeinfo>
+
 #include <velquin/GlobalConfig.h>
 
 #include "LogCapture.h"
@@ -151,11 +153,17 @@ TEST( Physical, DChannelsAreRecordedBelowTheInstallation ) {
                   "/opt/gateway/logs/DChannelPcapFiles/" );
 }
 
-TEST( Physical, PlainReadersMakePlainAudio ) {
+TEST( Physical, PlainReadersMakePlainObjects ) {
+    const TSHandle<InterfacePhysicalConfig> hAnalog(
+        AnalogInterfacePhysicalConfigXmlSerializer().newInterfacePhysicalConfig() );
+    const InterfacePhysicalConfig& analog = *hAnalog;
+    EXPECT_EQ( typeid( analog ), typeid( AnalogInterfacePhysicalConfig ) );
     XmlConfig config;
     const Element root = getUnapplied();
     const auto hConfig = DigitalInterfacePhysicalConfigXmlSerializer().read( findPhysical( root ), config );
     ASSERT_FALSE( hConfig.isNull() );
+    const InterfacePhysicalConfig& digital = *hConfig;
+    EXPECT_EQ( typeid( digital ), typeid( DigitalInterfacePhysicalConfig ) );
     EXPECT_EQ( dynamic_cast<const TirvanaAudioConfig*>( hConfig->getAudioConfig().get() ), nullptr );
 }
 

@@ -73,45 +73,43 @@ void checkDigitalPhysicalConfigs( const CrossCheckSubject& in_subject, CrossChec
     checkPhysicalConfigs( in_subject.vecDigitalInterfaces, "Digital interface", out_findings );
 }
 
-/// Calls one of two operations for each owner of a tirpipe number: analog boards, then spans; a virtual span has none.
-template <class OnBoard, class OnInterface>
-void visitTirpipes( const CrossCheckSubject& in_subject, OnBoard in_onBoard, OnInterface in_onInterface ) {
-    for ( const auto& [uBoardId, hBoard] : in_subject.config.getAnalogBoardsConfig() ) {
-        if ( const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() ) )
-            in_onBoard( *pBoard );
+/// Numbers that are mostly taken in ascending order.
+class TakenNumbers {
+public:
+    /// False when the number is taken already.
+    bool take( unsigned int in_uNumber ) {
+        if ( m_vecAscending.empty() || m_vecAscending.back() < in_uNumber ) {
+            m_vecAscending.push_back( in_uNumber );
+            return true;
+        }
+        return !std::binary_search( m_vecAscending.begin(), m_vecAscending.end(), in_uNumber ) &&
+               m_setOthers.insert( in_uNumber ).second;
     }
-    for ( const DigitalInterfaceConfig* const pDigitalInterface : in_subject.vecDigitalInterfaces ) {
-        if ( const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( pDigitalInterface ) )
-            in_onInterface( *pInterface );
-    }
-}
+
+private:
+    std::vector<unsigned int> m_vecAscending;
+    std::set<unsigned int> m_setOthers;
+};
 
 void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
-    std::vector<unsigned int> vecTirpipes;
-    const auto add = [&vecTirpipes]( const auto& in_owner ) { vecTirpipes.push_back( in_owner.getTirpipe() ); };
-    visitTirpipes( in_subject, add, add );
-    std::sort( vecTirpipes.begin(), vecTirpipes.end() );
-    if ( std::adjacent_find( vecTirpipes.begin(), vecTirpipes.end() ) == vecTirpipes.end() )
-        return;
-
-    std::set<unsigned int> setTaken;
+    TakenNumbers taken;
     const auto describe = []( unsigned int in_uTirpipe ) {
         return " has an already used tirpipe number: " + std::to_string( in_uTirpipe ) +
                ". Please make sure every analog board and Digital interface has a unique tirpipe number.";
     };
-    visitTirpipes(
-        in_subject,
-        [&]( const TirvanaAnalogBoardConfig& in_board ) {
-            if ( !setTaken.insert( in_board.getTirpipe() ).second )
-                out_findings.push_back( { true, in_board.getId(), std::nullopt,
-                                          "Analog board \"" + std::to_string( in_board.getId() ) + "\"" +
-                                              describe( in_board.getTirpipe() ) } );
-        },
-        [&]( const TirvanaDigitalInterfaceConfig& in_interface ) {
-            if ( !setTaken.insert( in_interface.getTirpipe() ).second )
-                addFinding<DigitalInterfaceConfig>( in_interface, "Digital Interface",
-                                                    describe( in_interface.getTirpipe() ), out_findings );
-        } );
+    for ( const auto& [uBoardId, hBoard] : in_subject.config.getAnalogBoardsConfig() ) {
+        const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() );
+        if ( pBoard && !taken.take( pBoard->getTirpipe() ) )
+            out_findings.push_back(
+                { true, uBoardId, std::nullopt,
+                  "Analog board \"" + std::to_string( uBoardId ) + "\"" + describe( pBoard->getTirpipe() ) } );
+    }
+    for ( const DigitalInterfaceConfig* const pDigitalInterface : in_subject.vecDigitalInterfaces ) {
+        // A virtual span has no tirpipe number.
+        const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( pDigitalInterface );
+        if ( pInterface && !taken.take( pInterface->getTirpipe() ) )
+            addFinding( *pDigitalInterface, "Digital Interface", describe( pInterface->getTirpipe() ), out_findings );
+    }
 }
 
 /// @param in_vecConfigured the interfaces that have call control, gathered in one sweep over the groups: to ask group

@@ -26,7 +26,7 @@ void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexc
 }
 
 unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept {
-    if ( isInOwnDocument( in_pElement ) && in_pElement->_private )
+    if ( isInOwnDocument( in_pElement ) )
         return reinterpret_cast<std::uintptr_t>( in_pElement->_private );
     const long nLine = xmlGetLineNo( const_cast<xmlNode*>( in_pElement ) );
     return nLine > 0 ? static_cast<unsigned long long>( nLine ) : 0;
