@@ -25,12 +25,12 @@
 #include "Floor.h"
 #include "QuietLog.h"
 #include "callcontrol/CallControlConfigXmlSerializer.h"
+#include "document/LibXml2.h"
+#include "document/XmlDocumentReader.h"
 #include "hardware/BoardConfigXmlSerializer.h"
 #include "hardware/ProviderConfigXmlSerializer.h"
 #include "loading/XmlConfig.h"
 #include "physical/InterfacePhysicalConfigXmlSerializer.h"
-#include "xml/LibXml2.h"
-#include "xml/XmlDocumentReader.h"
 
 using namespace Velquin;
 using namespace Velquin::Pstn;

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "xml/Number.h"
+#include "reading/Number.h"
 
 namespace Velquin::Pstn {
 

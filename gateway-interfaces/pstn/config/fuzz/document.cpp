@@ -15,10 +15,10 @@
 #include "FuzzTarget.h"
 #include "QuietLog.h"
 #include "TemporaryFile.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementPosition.h"
-#include "xml/LibXml2.h"
-#include "xml/XmlDocumentReader.h"
+#include "document/ElementPosition.h"
+#include "document/LibXml2.h"
+#include "document/XmlDocumentReader.h"
+#include "reading/ChildElements.h"
 
 using namespace Velquin::Pstn;
 

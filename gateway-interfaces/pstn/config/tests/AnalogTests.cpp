@@ -6,8 +6,8 @@
 #include "analog/AnalogDisconnectSupervisionConfigXmlSerializer.h"
 #include "analog/AnalogFxoConfigXmlSerializer.h"
 #include "analog/AnalogFxsConfigXmlSerializer.h"
+#include "document/LibXml2.h"
 #include "hardware/BoardConfig.h"
-#include "xml/LibXml2.h"
 
 // Analog call control: what its readers and containers refuse, and what they let pass.
 

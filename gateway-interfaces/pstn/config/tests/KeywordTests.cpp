@@ -11,7 +11,12 @@
 #include "LogCapture.h"
 #include "ModelText.h"
 #include "NumberCheck.h"
-#include "xml/Keywords.h"
+#include "physical/TirvanaAnalogInterfacePhysicalConfig.h"
+#include "physical/audio/HardwareAcousticEchoCancellationConfig.h"
+#include "physical/audio/HardwareBackgroundNoiseAttenuationConfig.h"
+#include "physical/audio/HardwareDtmfRemovalConfig.h"
+#include "physical/audio/HardwareEchoCancellationConfig.h"
+#include "physical/audio/HardwareLevelControlConfig.h"
 
 // The keywords of the format, each read from a document, and the numbers behind them; numbers in attributes.
 

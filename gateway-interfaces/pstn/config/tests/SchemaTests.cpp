@@ -8,8 +8,8 @@
 #include "ConfigTest.h"
 #include "DocumentPath.h"
 #include "KeywordRows.h"
-#include "xml/ChildElements.h"
-#include "xml/LibXml2.h"
+#include "document/LibXml2.h"
+#include "reading/ChildElements.h"
 
 // The schema of the format: it agrees with the library's keywords and with the examples, and stops what the readers
 // would pass over.

@@ -2,8 +2,8 @@
 
 #include <velquin/UniqueObjPtr.h>
 
-#include "xml/ElementReader.h"
-#include "xml/NotImplemented.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

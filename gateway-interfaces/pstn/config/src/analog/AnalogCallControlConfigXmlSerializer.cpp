@@ -5,8 +5,8 @@
 
 #include "analog/AnalogFxoConfigXmlSerializer.h"
 #include "analog/AnalogFxsConfigXmlSerializer.h"
-#include "xml/ElementReader.h"
-#include "xml/NotImplemented.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -4,7 +4,7 @@
 #include <velquin/TSHandle.h>
 
 #include "analog/AnalogCallControlConfig.h"
-#include "xml/XmlNodeFwd.h"
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 

@@ -6,10 +6,9 @@
 #include <velquin/XML.h>
 
 #include "analog/AnalogWording.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

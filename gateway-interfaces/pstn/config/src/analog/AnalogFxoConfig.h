@@ -4,6 +4,7 @@
 
 #include "analog/AnalogDisconnectSupervisionConfig.h"
 #include "analog/AppliedAnalogCallControlConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -183,5 +184,49 @@ private:
     TSHandle<AnalogDisconnectSupervisionConfig> m_hDisconnectSupervisionConfig;
     unsigned int m_uOnHookMinimumDurationMs = 0;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto FXO_NOTIFY_CONDITION =
+    keywordTable<AnalogFxoConfig::InboundCallHandlingConfig::NotifyCondition>( {
+        { "ON-FIRST-RING", AnalogFxoConfig::InboundCallHandlingConfig::NotifyCondition::ON_FIRST_RING },
+        { "ON-CALLER-ID", AnalogFxoConfig::InboundCallHandlingConfig::NotifyCondition::ON_CALLER_ID },
+        { "AFTER-N-RING", AnalogFxoConfig::InboundCallHandlingConfig::NotifyCondition::AFTER_N_RING },
+    } );
+inline constexpr auto FXO_INBOUND_CONNECT_CONDITION =
+    keywordTable<AnalogFxoConfig::InboundCallHandlingConfig::ConnectCondition>( {
+        { "ON-OUTBOUNDSIDE-NOTIFIED",
+          AnalogFxoConfig::InboundCallHandlingConfig::ConnectCondition::ON_OUTBOUNDSIDE_NOTIFIED },
+        { "ON-OUTBOUNDSIDE-CONNECTED",
+          AnalogFxoConfig::InboundCallHandlingConfig::ConnectCondition::ON_OUTBOUNDSIDE_CONNECTED },
+        { "ON-OUTBOUNDSIDE-MEDIA-AVAILABLE",
+          AnalogFxoConfig::InboundCallHandlingConfig::ConnectCondition::ON_OUTBOUNDSIDE_MEDIA_AVAILABLE },
+    } );
+inline constexpr auto FXO_CALLER_ID_TYPE = keywordTable<AnalogFxoConfig::InboundCallHandlingConfig::CallerIdType>( {
+    { "BT-Bellcore-FSK-SDMF-MDMF",
+      AnalogFxoConfig::InboundCallHandlingConfig::CallerIdType::BT_BELLCORE_FSK_SDMF_MDMF },
+} );
+inline constexpr auto FXO_CONNECT_SUPERVISION =
+    keywordTable<AnalogFxoConfig::OutboundCallHandlingConfig::ConnectSupervision>( {
+        { "AFTER-DIALING-DESTINATION-NUMBER",
+          AnalogFxoConfig::OutboundCallHandlingConfig::ConnectSupervision::AFTER_DIALING_DESTINATION_NUMBER },
+        { "ON-VOICE", AnalogFxoConfig::OutboundCallHandlingConfig::ConnectSupervision::ON_VOICE },
+        { "ON-BATTERY-POLARITY-INVERSION",
+          AnalogFxoConfig::OutboundCallHandlingConfig::ConnectSupervision::ON_BATTERY_POLARITY_INVERSION },
+        { "ON-REMOTE-RING-STOPPED",
+          AnalogFxoConfig::OutboundCallHandlingConfig::ConnectSupervision::ON_REMOTE_RING_STOPPED },
+    } );
+inline constexpr auto FXO_OUTBOUND_CONNECT_CONDITION =
+    keywordTable<AnalogFxoConfig::OutboundCallHandlingConfig::ConnectCondition>( {
+        { "ON-OUTBOUNDSIDE-CONNECTED",
+          AnalogFxoConfig::OutboundCallHandlingConfig::ConnectCondition::ON_OUTBOUNDSIDE_CONNECTED },
+        { "ON-OUTBOUNDSIDE-NOTIFIED",
+          AnalogFxoConfig::OutboundCallHandlingConfig::ConnectCondition::ON_OUTBOUNDSIDE_NOTIFIED },
+        { "ON-INBOUNDSIDE-NOTIFICATION",
+          AnalogFxoConfig::OutboundCallHandlingConfig::ConnectCondition::ON_INBOUNDSIDE_NOTIFICATION },
+    } );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -11,8 +11,7 @@
 #include "analog/AnalogInterfaceRefReader.h"
 #include "analog/AnalogWording.h"
 #include "loading/XmlConfig.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

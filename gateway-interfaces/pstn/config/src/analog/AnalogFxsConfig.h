@@ -3,6 +3,7 @@
 #include <string>
 
 #include "analog/AppliedAnalogCallControlConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -140,5 +141,20 @@ private:
     unsigned int m_uRegretTimeMs = 0;
     OutOfServiceBehavior m_eOutOfServiceBehavior = OutOfServiceBehavior::NONE;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto FXS_OUT_OF_SERVICE_BEHAVIOR = keywordTable<AnalogFxsConfig::OutOfServiceBehavior>( {
+    { "REORDER", AnalogFxsConfig::OutOfServiceBehavior::REORDER },
+    { "NONE", AnalogFxsConfig::OutOfServiceBehavior::NONE },
+} );
+inline constexpr auto FXS_NOTIFICATION_MODE = keywordTable<AnalogFxsConfig::DisconnectAnswerNotificationConfig::Mode>( {
+    { "NONE", AnalogFxsConfig::DisconnectAnswerNotificationConfig::Mode::NONE },
+    { "POLARITY-REVERSAL", AnalogFxsConfig::DisconnectAnswerNotificationConfig::Mode::POLARITY_REVERSAL },
+    { "CURRENT-DISCONNECT", AnalogFxsConfig::DisconnectAnswerNotificationConfig::Mode::CURRENT_DISCONNECT },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

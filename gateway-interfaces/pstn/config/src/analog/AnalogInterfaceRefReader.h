@@ -7,9 +7,9 @@
 
 #include "callcontrol/BChannelRangeConfig.h"
 #include "callcontrol/CallControlConfig.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
-#include "xml/InterfaceReference.h"
+#include "hardware/InterfaceReference.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
 
 namespace Velquin::Pstn {
 

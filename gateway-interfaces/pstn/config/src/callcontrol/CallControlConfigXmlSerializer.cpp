@@ -5,9 +5,9 @@
 #include "analog/AnalogCallControlConfigXmlSerializer.h"
 #include "callcontrol/ChannelGroupConfigXmlSerializer.h"
 #include "callcontrol/isdn/IsdnConfigXmlSerializer.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
-#include "xml/NotImplemented.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -6,6 +6,7 @@
 #include <velquin/PSTNChannel.h>
 
 #include "callcontrol/LessThanComparatorForBChannelRangeConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -44,5 +45,20 @@ private:
     HuntingScheme m_eOutboundHuntingScheme = LINEAR;
     BChannelRanges m_setBChannelRanges;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto CHANNEL_DIRECTION = keywordTable<PSTNChannel::Direction>( {
+    { "IN", PSTNChannel::IN },
+    { "OUT", PSTNChannel::OUT },
+    { "BIDIR", PSTNChannel::BIDIR },
+} );
+inline constexpr auto HUNTING_SCHEME = keywordTable<ChannelGroupConfig::HuntingScheme>( {
+    { "LINEAR", ChannelGroupConfig::LINEAR },
+    { "REVERSE_LINEAR", ChannelGroupConfig::REVERSE_LINEAR },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

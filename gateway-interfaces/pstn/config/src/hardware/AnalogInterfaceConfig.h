@@ -6,6 +6,7 @@
 
 #include "hardware/InterfaceConfig.h"
 #include "physical/AnalogInterfacePhysicalConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -43,5 +44,15 @@ private:
     std::string m_strPhoneNumber;
     std::string m_strCallerName;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto ANALOG_MEDIA_TYPE = keywordTable<AnalogInterfaceConfig::MediaType>( {
+    { "FXO", AnalogInterfaceConfig::MediaType::FXO },
+    { "FXS", AnalogInterfaceConfig::MediaType::FXS },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -6,9 +6,8 @@
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/AnalogInterfaceConfig.h"
-#include "xml/ElementReader.h"
-#include "xml/ElementWriter.h"
-#include "xml/Keywords.h"
+#include "reading/ElementReader.h"
+#include "reading/ElementWriter.h"
 
 namespace Velquin::Pstn {
 

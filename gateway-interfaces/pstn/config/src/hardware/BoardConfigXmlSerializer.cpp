@@ -2,9 +2,9 @@
 
 #include <velquin/UniqueObjPtr.h>
 
-#include "xml/ElementPosition.h"
-#include "xml/ElementReader.h"
-#include "xml/ElementWriter.h"
+#include "document/ElementPosition.h"
+#include "reading/ElementReader.h"
+#include "reading/ElementWriter.h"
 
 namespace Velquin::Pstn {
 

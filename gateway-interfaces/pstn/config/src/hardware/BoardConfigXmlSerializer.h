@@ -3,7 +3,7 @@
 #include <velquin/Object.h>
 
 #include "hardware/BoardConfig.h"
-#include "xml/XmlNodeFwd.h"
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 

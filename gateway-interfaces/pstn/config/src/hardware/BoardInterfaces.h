@@ -4,7 +4,7 @@
 #include <velquin/Finding.h>
 
 #include "hardware/InterfaceKind.h"
-#include "xml/XmlNodeFwd.h"
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 

@@ -2,10 +2,10 @@
 
 #include <velquin/UniqueObjPtr.h>
 
+#include "document/ElementPosition.h"
 #include "hardware/BoardConfig.h"
-#include "xml/ElementPosition.h"
-#include "xml/ElementReader.h"
-#include "xml/ElementWriter.h"
+#include "reading/ElementReader.h"
+#include "reading/ElementWriter.h"
 
 namespace Velquin::Pstn {
 

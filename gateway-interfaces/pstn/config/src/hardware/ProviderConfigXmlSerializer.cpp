@@ -1,6 +1,6 @@
 #include "hardware/ProviderConfigXmlSerializer.h"
 
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

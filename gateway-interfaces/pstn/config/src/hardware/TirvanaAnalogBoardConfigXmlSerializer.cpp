@@ -6,9 +6,9 @@
 
 #include "hardware/BoardInterfaces.h"
 #include "hardware/TirvanaAnalogBoardConfig.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
-#include "xml/ElementWriter.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+#include "reading/ElementWriter.h"
 
 namespace Velquin::Pstn {
 

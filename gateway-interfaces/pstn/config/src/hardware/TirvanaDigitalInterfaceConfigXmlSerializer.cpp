@@ -8,8 +8,8 @@
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/TirvanaDigitalInterfaceConfig.h"
-#include "xml/ElementReader.h"
-#include "xml/ElementWriter.h"
+#include "reading/ElementReader.h"
+#include "reading/ElementWriter.h"
 
 namespace Velquin::Pstn {
 

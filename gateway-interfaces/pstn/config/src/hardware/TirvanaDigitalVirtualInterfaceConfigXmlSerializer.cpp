@@ -5,8 +5,8 @@
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/TirvanaDigitalVirtualInterfaceConfig.h"
-#include "xml/ElementReader.h"
-#include "xml/NotImplemented.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -3,7 +3,7 @@
 #include <velquin/Object.h>
 
 #include "hardware/TirvanaThreadGroupConfig.h"
-#include "xml/XmlNodeFwd.h"
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string_view>
 
-#include "xml/ChildElements.h"
-#include "xml/ElementPosition.h"
-#include "xml/LibXml2.h"
+#include "document/ElementPosition.h"
+#include "document/LibXml2.h"
+#include "reading/ChildElements.h"
 
 namespace Velquin::Pstn {
 

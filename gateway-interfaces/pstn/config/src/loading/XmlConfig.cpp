@@ -12,20 +12,20 @@
 #include <velquin/XML.h>
 
 #include "callcontrol/CallControlConfigXmlSerializer.h"
+#include "document/InputFile.h"
+#include "document/LibXml2.h"
+#include "document/LibXml2Errors.h"
+#include "document/SchemaAdvisor.h"
+#include "document/XmlDocumentReader.h"
 #include "hardware/BoardConfigXmlSerializer.h"
 #include "hardware/ProviderConfigXmlSerializer.h"
 #include "loading/CrossChecks.h"
 #include "loading/ModelLocator.h"
 #include "loading/PSTNConfigParamDefs.h"
 #include "physical/InterfacePhysicalConfigXmlSerializer.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
-#include "xml/ElementWriter.h"
-#include "xml/InputFile.h"
-#include "xml/LibXml2.h"
-#include "xml/LibXml2Errors.h"
-#include "xml/SchemaAdvisor.h"
-#include "xml/XmlDocumentReader.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+#include "reading/ElementWriter.h"
 
 namespace Velquin::Pstn {
 

@@ -4,7 +4,7 @@
 
 #include "physical/ApplyTo.h"
 #include "physical/CountryMap.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

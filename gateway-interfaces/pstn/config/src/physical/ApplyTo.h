@@ -2,10 +2,10 @@
 
 #include <velquin/Assertion.h>
 
+#include "hardware/InterfaceReference.h"
 #include "loading/XmlConfig.h"
 #include "physical/PhysicalWording.h"
-#include "xml/ChildElements.h"
-#include "xml/InterfaceReference.h"
+#include "reading/ChildElements.h"
 
 namespace Velquin::Pstn {
 

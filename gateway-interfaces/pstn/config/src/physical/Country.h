@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reading/KeywordTable.h"
+
 // The countries and regions in which the settings of analog lines differ, by their names in a configuration. TBR21 is
 // the common European standard (ETSI TBR 21).
 #define PSTN_CONFIG_COUNTRIES( X )                                                                                     \
@@ -91,5 +93,16 @@ public:
 #undef PSTN_CONFIG_COUNTRY
     };
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto COUNTRY = keywordTable<Country::Type>( {
+#define PSTN_CONFIG_COUNTRY( name ) { #name, Country::name },
+    PSTN_CONFIG_COUNTRIES( PSTN_CONFIG_COUNTRY )
+#undef PSTN_CONFIG_COUNTRY
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -1,7 +1,6 @@
 #include "physical/CountryMap.h"
 
 #include "Singleton.h"
-#include "xml/Keywords.h"
 
 namespace Velquin::Pstn {
 

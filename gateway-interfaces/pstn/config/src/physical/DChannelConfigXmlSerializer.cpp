@@ -5,9 +5,8 @@
 #include <velquin/GlobalConfig.h>
 #include <velquin/UniqueObjPtr.h>
 
-#include "xml/ElementReader.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

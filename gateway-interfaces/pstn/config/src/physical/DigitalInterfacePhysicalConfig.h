@@ -4,6 +4,7 @@
 
 #include "physical/DChannelConfig.h"
 #include "physical/InterfacePhysicalConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -95,5 +96,58 @@ private:
     E1Termination m_eE1Termination = E1Termination::E1_120ohm;
     TSHandle<DChannelConfig> m_hDChannelConfig;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto FRAMING = keywordTable<DigitalInterfacePhysicalConfig::FramingType>( {
+    { "ESF", DigitalInterfacePhysicalConfig::FramingType::ESF },
+    { "ESF_Japan", DigitalInterfacePhysicalConfig::FramingType::ESF_Japan },
+    { "D4", DigitalInterfacePhysicalConfig::FramingType::D4 },
+    { "CRC4", DigitalInterfacePhysicalConfig::FramingType::CRC4 },
+    { "NonCRC4", DigitalInterfacePhysicalConfig::FramingType::NonCRC4 },
+} );
+inline constexpr auto LINE_ENCODING = keywordTable<DigitalInterfacePhysicalConfig::LineEncodingType>( {
+    { "AMI", DigitalInterfacePhysicalConfig::LineEncodingType::AMI },
+    { "B8ZS", DigitalInterfacePhysicalConfig::LineEncodingType::B8ZS },
+    { "HDB3", DigitalInterfacePhysicalConfig::LineEncodingType::HDB3 },
+} );
+inline constexpr auto DIGITAL_CLOCKING = keywordTable<DigitalInterfacePhysicalConfig::ClockingMode>( {
+    { "TERMINAL", DigitalInterfacePhysicalConfig::ClockingMode::TERMINAL },
+    { "NETWORK", DigitalInterfacePhysicalConfig::ClockingMode::NETWORK },
+} );
+inline constexpr auto LOOPBACK_MODE = keywordTable<DigitalInterfacePhysicalConfig::LoopbackMode>( {
+    { "DISABLED", DigitalInterfacePhysicalConfig::LoopbackMode::DISABLED },
+} );
+inline constexpr auto RECEIVER_SENSITIVITY = keywordTable<DigitalInterfacePhysicalConfig::RxSensitivity>( {
+    { "12dB", DigitalInterfacePhysicalConfig::RxSensitivity::RX_12dB },
+    { "18dB", DigitalInterfacePhysicalConfig::RxSensitivity::RX_18dB },
+    { "30dB", DigitalInterfacePhysicalConfig::RxSensitivity::RX_30dB },
+    { "36dB", DigitalInterfacePhysicalConfig::RxSensitivity::RX_36dB },
+    { "43dB", DigitalInterfacePhysicalConfig::RxSensitivity::RX_43dB },
+} );
+inline constexpr auto E1_SIGNALING = keywordTable<DigitalInterfacePhysicalConfig::E1Signaling>( {
+    { "NONE", DigitalInterfacePhysicalConfig::E1Signaling::NONE },
+    { "CAS", DigitalInterfacePhysicalConfig::E1Signaling::CAS },
+    { "CCS", DigitalInterfacePhysicalConfig::E1Signaling::CCS },
+} );
+inline constexpr auto E1_TERMINATION = keywordTable<DigitalInterfacePhysicalConfig::E1Termination>( {
+    { "75ohm", DigitalInterfacePhysicalConfig::E1Termination::E1_75ohm },
+    { "120ohm", DigitalInterfacePhysicalConfig::E1Termination::E1_120ohm },
+} );
+inline constexpr auto LINE_BUILD_OUT = keywordTable<DigitalInterfacePhysicalConfig::LBOMode>( {
+    { "0dB", DigitalInterfacePhysicalConfig::LBOMode::LBO_0dB },
+    { "-7.5dB", DigitalInterfacePhysicalConfig::LBOMode::LBO_minus7_5dB },
+    { "-15dB", DigitalInterfacePhysicalConfig::LBOMode::LBO_minus15dB },
+    { "-22.5dB", DigitalInterfacePhysicalConfig::LBOMode::LBO_minus22_5dB },
+    { "0-110feet", DigitalInterfacePhysicalConfig::LBOMode::LBO_0_110feet },
+    { "110-220feet", DigitalInterfacePhysicalConfig::LBOMode::LBO_110_220feet },
+    { "220-330feet", DigitalInterfacePhysicalConfig::LBOMode::LBO_220_330feet },
+    { "330-440feet", DigitalInterfacePhysicalConfig::LBOMode::LBO_330_440feet },
+    { "440-550feet", DigitalInterfacePhysicalConfig::LBOMode::LBO_440_550feet },
+    { "550-660feet", DigitalInterfacePhysicalConfig::LBOMode::LBO_550_660feet },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -7,8 +7,7 @@
 #include "physical/ApplyTo.h"
 #include "physical/DChannelConfigXmlSerializer.h"
 #include "physical/DigitalInterfacePhysicalConfig.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -4,7 +4,7 @@
 
 #include "physical/PhysicalWording.h"
 #include "physical/audio/AudioConfigXmlSerializer.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

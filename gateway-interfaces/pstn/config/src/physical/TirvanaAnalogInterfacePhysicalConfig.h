@@ -1,6 +1,7 @@
 #pragma once
 
 #include "physical/AnalogInterfacePhysicalConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -45,5 +46,15 @@ private:
     unsigned int m_uFxoBatteryDebounce = 64;
     unsigned int m_uFxoBatteryThreshold = 3;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto ANALOG_CLOCKING = keywordTable<TirvanaAnalogInterfacePhysicalConfig::ClockingMode>( {
+    { "INTERNAL", TirvanaAnalogInterfacePhysicalConfig::ClockingMode::INTERNAL },
+    { "EXTERNAL", TirvanaAnalogInterfacePhysicalConfig::ClockingMode::EXTERNAL },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -8,8 +8,7 @@
 #include "physical/PhysicalWording.h"
 #include "physical/TirvanaAnalogInterfacePhysicalConfig.h"
 #include "physical/audio/TirvanaAudioConfigXmlSerializer.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -7,7 +7,7 @@
 
 #include "physical/TirvanaDigitalInterfacePhysicalConfig.h"
 #include "physical/audio/TirvanaAudioConfigXmlSerializer.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -3,7 +3,7 @@
 #include <velquin/TSHandle.h>
 
 #include "callcontrol/CallControlConfig.h"
-#include "xml/ElementReader.h"
+#include "reading/ElementReader.h"
 
 namespace Velquin::Pstn {
 

@@ -4,6 +4,7 @@
 
 #include "PstnConfigClass.h"
 #include "PstnConfigExport.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -81,5 +82,42 @@ private:
     CallerNameLocationType m_eCallerNameLocation = CallerNameLocationType::DISABLED;
     unsigned int m_uFacilityDelayMs = 0;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto TERMINATION = keywordTable<IsdnCommonConfig::TerminationType>( {
+    { "TERMINAL", IsdnCommonConfig::TerminationType::TERMINAL },
+    { "NETWORK", IsdnCommonConfig::TerminationType::NETWORK },
+} );
+inline constexpr auto SWITCH_VARIANT = keywordTable<IsdnCommonConfig::SwitchVariantType>( {
+    { "ETSI", IsdnCommonConfig::SwitchVariantType::ETSI },
+    { "EuroISDN", IsdnCommonConfig::SwitchVariantType::ETSI },
+    { "DMS100", IsdnCommonConfig::SwitchVariantType::DMS100 },
+    { "4ESS", IsdnCommonConfig::SwitchVariantType::SWITCH_4ESS },
+    { "5ESS", IsdnCommonConfig::SwitchVariantType::SWITCH_5ESS },
+    { "NI2", IsdnCommonConfig::SwitchVariantType::NI2 },
+} );
+inline constexpr auto B_CHANNEL_NEGOTIATION = keywordTable<IsdnCommonConfig::BChannelNegociationType>( {
+    { "PREFERRED", IsdnCommonConfig::BChannelNegociationType::PREFERRED },
+    { "EXCLUSIVE", IsdnCommonConfig::BChannelNegociationType::EXCLUSIVE },
+} );
+inline constexpr auto TONES_GENERATION = keywordTable<IsdnCommonConfig::InbandProgressTonesGenerationType>( {
+    { "NEVER", IsdnCommonConfig::InbandProgressTonesGenerationType::NEVER },
+    { "ALWAYS", IsdnCommonConfig::InbandProgressTonesGenerationType::ALWAYS },
+    { "AS-NEEDED", IsdnCommonConfig::InbandProgressTonesGenerationType::AS_NEEDED },
+} );
+inline constexpr auto TONES_INDICATOR = keywordTable<IsdnCommonConfig::InbandProgressTonesIndicatorType>( {
+    { "PROGRESS", IsdnCommonConfig::InbandProgressTonesIndicatorType::PROGRESS },
+    { "ALERTING", IsdnCommonConfig::InbandProgressTonesIndicatorType::ALERTING },
+    { "BOTH", IsdnCommonConfig::InbandProgressTonesIndicatorType::BOTH },
+} );
+inline constexpr auto CALLER_NAME_LOCATION = keywordTable<IsdnCommonConfig::CallerNameLocationType>( {
+    { "DISABLED", IsdnCommonConfig::CallerNameLocationType::DISABLED },
+    { "IN-SETUP-MSG", IsdnCommonConfig::CallerNameLocationType::IN_SETUP_MSG },
+    { "IN-FACILITY-MSG", IsdnCommonConfig::CallerNameLocationType::IN_FACILITY_MSG },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -3,9 +3,8 @@
 #include <velquin/UniqueObjPtr.h>
 
 #include "callcontrol/CallControlConfig.h"
-#include "xml/ElementReader.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -3,7 +3,7 @@
 #include <velquin/TSHandle.h>
 
 #include "callcontrol/isdn/IsdnCommonConfig.h"
-#include "xml/XmlNodeFwd.h"
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 

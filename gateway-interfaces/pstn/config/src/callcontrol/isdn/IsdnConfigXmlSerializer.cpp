@@ -5,9 +5,9 @@
 
 #include "callcontrol/isdn/IsdnFasConfigXmlSerializer.h"
 #include "callcontrol/isdn/IsdnNFasConfigXmlSerializer.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
-#include "xml/NotImplemented.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

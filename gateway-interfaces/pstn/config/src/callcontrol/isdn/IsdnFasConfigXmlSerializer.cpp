@@ -7,11 +7,11 @@
 
 #include "callcontrol/isdn/IsdnBChannelRange.h"
 #include "callcontrol/isdn/IsdnFasConfig.h"
+#include "document/ElementPosition.h"
+#include "hardware/InterfaceReference.h"
 #include "loading/XmlConfig.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementPosition.h"
-#include "xml/InterfaceReference.h"
-#include "xml/NotImplemented.h"
+#include "reading/ChildElements.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

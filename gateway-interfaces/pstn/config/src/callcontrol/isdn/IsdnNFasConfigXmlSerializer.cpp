@@ -7,9 +7,9 @@
 
 #include "callcontrol/isdn/IsdnNfasConfig.h"
 #include "callcontrol/isdn/IsdnNfasGroupMemberConfigXmlSerializer.h"
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
-#include "xml/NotImplemented.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -3,6 +3,7 @@
 #include <velquin/TSHandle.h>
 
 #include "hardware/DigitalInterfaceConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -37,5 +38,16 @@ private:
     TSHandle<DigitalInterfaceConfig> m_hInterfaceConfig;
     DChannelMode m_eDChannelMode = DChannelMode::DISABLED;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto NFAS_D_CHANNEL_MODE = keywordTable<IsdnNfasGroupMemberConfig::DChannelMode>( {
+    { "DISABLED", IsdnNfasGroupMemberConfig::DChannelMode::DISABLED },
+    { "PRIMARY", IsdnNfasGroupMemberConfig::DChannelMode::PRIMARY },
+    { "BACKUP", IsdnNfasGroupMemberConfig::DChannelMode::BACKUP },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -4,11 +4,10 @@
 
 #include "callcontrol/isdn/IsdnBChannelRange.h"
 #include "callcontrol/isdn/IsdnNfasConfig.h"
+#include "hardware/InterfaceReference.h"
 #include "loading/XmlConfig.h"
-#include "xml/ChildElements.h"
-#include "xml/InterfaceReference.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/ChildElements.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

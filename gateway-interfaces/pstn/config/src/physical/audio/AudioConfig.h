@@ -13,6 +13,7 @@
 #include "physical/audio/DtmfRemovalConfig.h"
 #include "physical/audio/EchoCancellationConfig.h"
 #include "physical/audio/LevelControlConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -59,5 +60,15 @@ private:
     TSHandle<BackgroundNoiseAttenuationConfig> m_hBackgroundNoiseAttenuation;
     TSHandle<DtmfRemovalConfig> m_hDtmfRemoval;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto PCM_LAW = keywordTable<Media::Format::Type>( {
+    { "PCMU", Media::Format::PCMU },
+    { "PCMA", Media::Format::PCMA },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -11,8 +11,7 @@
 #include "physical/audio/DtmfRemovalConfigXmlSerializer.h"
 #include "physical/audio/EchoCancellationConfigXmlSerializer.h"
 #include "physical/audio/LevelControlConfigXmlSerializer.h"
-#include "xml/Keywords.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "xml/ElementReader.h"
+#include "reading/ElementReader.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "physical/audio/AcousticEchoCancellationConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -18,5 +19,15 @@ public:
 private:
     Mode m_eMode = Mode::NORMAL;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto ACOUSTIC_ECHO_CANCELLATION_MODE = keywordTable<HardwareAcousticEchoCancellationConfig::Mode>( {
+    { "NORMAL", HardwareAcousticEchoCancellationConfig::Mode::NORMAL },
+    { "DISABLED", HardwareAcousticEchoCancellationConfig::Mode::DISABLED },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -2,6 +2,7 @@
 
 #include "physical/audio/BackgroundNoiseAttenuationConfig.h"
 #include "physical/audio/VoiceDirection.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -30,5 +31,16 @@ private:
     Direction m_eDirection = Direction::ALL;
     int m_nAttenuation = 0;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto BACKGROUND_NOISE_ATTENUATION_MODE =
+    keywordTable<HardwareBackgroundNoiseAttenuationConfig::Mode>( {
+        { "ENABLED", HardwareBackgroundNoiseAttenuationConfig::Mode::ENABLED },
+        { "DISABLED", HardwareBackgroundNoiseAttenuationConfig::Mode::DISABLED },
+    } );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

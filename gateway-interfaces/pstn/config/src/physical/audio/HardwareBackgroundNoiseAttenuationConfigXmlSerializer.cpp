@@ -1,7 +1,6 @@
 #include "physical/audio/HardwareBackgroundNoiseAttenuationConfigXmlSerializer.h"
 
-#include "xml/ElementReader.h"
-#include "xml/Keywords.h"
+#include "reading/ElementReader.h"
 
 namespace Velquin::Pstn {
 

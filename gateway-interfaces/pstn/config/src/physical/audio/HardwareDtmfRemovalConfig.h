@@ -2,6 +2,7 @@
 
 #include "physical/audio/DtmfRemovalConfig.h"
 #include "physical/audio/VoiceDirection.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -25,5 +26,15 @@ private:
     Mode m_eMode = Mode::DISABLED;
     Direction m_eDirection = Direction::ALL;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto DTMF_REMOVAL_MODE = keywordTable<HardwareDtmfRemovalConfig::Mode>( {
+    { "ENABLED", HardwareDtmfRemovalConfig::Mode::ENABLED },
+    { "DISABLED", HardwareDtmfRemovalConfig::Mode::DISABLED },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

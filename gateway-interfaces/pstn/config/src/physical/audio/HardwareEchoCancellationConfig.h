@@ -1,6 +1,7 @@
 #pragma once
 
 #include "physical/audio/EchoCancellationConfig.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -35,5 +36,25 @@ private:
     unsigned int m_uTailDisplacement = 0;
     DoubleTalkBehavior m_eDoubleTalkBehavior = DoubleTalkBehavior::OPTIMAL;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto ECHO_CANCELLATION_MODE = keywordTable<HardwareEchoCancellationConfig::Mode>( {
+    { "NORMAL", HardwareEchoCancellationConfig::Mode::NORMAL },
+    { "SPEECH_RECOGNIZER_FRIENDLY", HardwareEchoCancellationConfig::Mode::SPEECH_RECOGNIZER_FRIENDLY },
+    { "DISABLED", HardwareEchoCancellationConfig::Mode::DISABLED },
+} );
+inline constexpr auto COMFORT_NOISE_MODE = keywordTable<HardwareEchoCancellationConfig::ComfortNoiseMode>( {
+    { "NORMAL", HardwareEchoCancellationConfig::ComfortNoiseMode::NORMAL },
+    { "DISABLED", HardwareEchoCancellationConfig::ComfortNoiseMode::DISABLED },
+} );
+inline constexpr auto DOUBLE_TALK_BEHAVIOR = keywordTable<HardwareEchoCancellationConfig::DoubleTalkBehavior>( {
+    { "OPTIMAL", HardwareEchoCancellationConfig::DoubleTalkBehavior::OPTIMAL },
+    { "MORE_RESIDUAL_ECHO", HardwareEchoCancellationConfig::DoubleTalkBehavior::MORE_RESIDUAL_ECHO },
+    { "MORE_CLIPPING", HardwareEchoCancellationConfig::DoubleTalkBehavior::MORE_CLIPPING },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

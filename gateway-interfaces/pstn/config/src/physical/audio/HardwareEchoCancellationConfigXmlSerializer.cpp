@@ -1,7 +1,6 @@
 #include "physical/audio/HardwareEchoCancellationConfigXmlSerializer.h"
 
-#include "xml/ElementReader.h"
-#include "xml/Keywords.h"
+#include "reading/ElementReader.h"
 
 namespace Velquin::Pstn {
 

@@ -2,6 +2,7 @@
 
 #include "physical/audio/LevelControlConfig.h"
 #include "physical/audio/VoiceDirection.h"
+#include "reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 
@@ -35,5 +36,16 @@ private:
     int m_nGain = 0;
     int m_nTargetLevel = 0;
 };
+
+/// The format's keywords for the enumerations above.
+namespace Keywords {
+
+inline constexpr auto LEVEL_CONTROL_MODE = keywordTable<HardwareLevelControlConfig::Mode>( {
+    { "MANUAL", HardwareLevelControlConfig::Mode::MANUAL },
+    { "AUTOMATIC", HardwareLevelControlConfig::Mode::AUTOMATIC },
+    { "DISABLED", HardwareLevelControlConfig::Mode::DISABLED },
+} );
+
+} // namespace Keywords
 
 } // namespace Velquin::Pstn

@@ -6,7 +6,7 @@
 
 #include "physical/audio/AudioWording.h"
 #include "physical/audio/TirvanaAudioConfig.h"
-#include "xml/NotImplemented.h"
+#include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 

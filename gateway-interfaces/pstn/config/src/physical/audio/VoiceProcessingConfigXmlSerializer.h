@@ -7,8 +7,8 @@
 #include <velquin/Object.h>
 #include <velquin/UniqueObjPtr.h>
 
-#include "xml/NotImplemented.h"
-#include "xml/XmlNodeFwd.h"
+#include "reading/NotImplemented.h"
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 

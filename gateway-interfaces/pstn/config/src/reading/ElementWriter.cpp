@@ -1,8 +1,8 @@
-#include "xml/ElementWriter.h"
+#include "reading/ElementWriter.h"
 
 #include <velquin/Finding.h>
 
-#include "xml/LibXml2.h"
+#include "document/LibXml2.h"
 
 namespace Velquin::Pstn {
 

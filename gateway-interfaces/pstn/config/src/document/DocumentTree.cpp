@@ -1,4 +1,4 @@
-#include "xml/DocumentTree.h"
+#include "document/DocumentTree.h"
 
 #include <algorithm>
 #include <new>
@@ -7,9 +7,9 @@
 
 #include <libxml/parserInternals.h>
 
-#include "xml/ChildElements.h"
-#include "xml/ElementPosition.h"
-#include "xml/LibXml2.h"
+#include "document/ElementPosition.h"
+#include "document/LibXml2.h"
+#include "reading/ChildElements.h"
 
 namespace Velquin::Pstn {
 

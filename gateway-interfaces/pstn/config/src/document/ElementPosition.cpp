@@ -1,9 +1,9 @@
-#include "xml/ElementPosition.h"
+#include "document/ElementPosition.h"
 
 #include <algorithm>
 #include <cstdint>
 
-#include "xml/LibXml2.h"
+#include "document/LibXml2.h"
 
 namespace Velquin::Pstn {
 

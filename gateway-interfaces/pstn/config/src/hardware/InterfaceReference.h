@@ -6,7 +6,7 @@
 #include <velquin/Finding.h>
 
 #include "hardware/InterfaceKind.h"
-#include "xml/ElementReader.h"
+#include "reading/ElementReader.h"
 
 namespace Velquin::Pstn {
 

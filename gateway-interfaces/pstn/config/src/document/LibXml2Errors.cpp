@@ -1,4 +1,4 @@
-#include "xml/LibXml2Errors.h"
+#include "document/LibXml2Errors.h"
 
 #include <algorithm>
 #include <cstdarg>
@@ -9,8 +9,8 @@
 #include <libxml/globals.h>
 #include <libxml/relaxng.h>
 
-#include "xml/ElementPosition.h"
-#include "xml/LibXml2.h"
+#include "document/ElementPosition.h"
+#include "document/LibXml2.h"
 
 namespace Velquin::Pstn {
 

@@ -1,4 +1,4 @@
-#include "xml/SchemaAdvisor.h"
+#include "document/SchemaAdvisor.h"
 
 #include <algorithm>
 #include <memory>
@@ -6,8 +6,8 @@
 #include <libxml/xmlregexp.h>
 #include <libxml/xmlschemastypes.h>
 
-#include "xml/ChildElements.h"
-#include "xml/ElementReader.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
 
 namespace Velquin::Pstn {
 

@@ -1,4 +1,4 @@
-#include "xml/ElementReader.h"
+#include "reading/ElementReader.h"
 
 #include <cstring>
 #include <utility>
@@ -6,7 +6,7 @@
 #include <velquin/Assertion.h>
 #include <velquin/XML.h>
 
-#include "xml/ElementPosition.h"
+#include "document/ElementPosition.h"
 
 namespace Velquin::Pstn {
 

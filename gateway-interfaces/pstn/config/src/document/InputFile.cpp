@@ -1,4 +1,4 @@
-#include "xml/InputFile.h"
+#include "document/InputFile.h"
 
 #include <cerrno>
 #include <filesystem>

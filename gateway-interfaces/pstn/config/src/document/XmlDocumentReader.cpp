@@ -1,4 +1,4 @@
-#include "xml/XmlDocumentReader.h"
+#include "document/XmlDocumentReader.h"
 
 #include <fstream>
 #include <new>
@@ -8,10 +8,10 @@
 #include <libxml/SAX2.h>
 #include <libxml/parserInternals.h>
 
-#include "xml/ElementPosition.h"
-#include "xml/InputFile.h"
-#include "xml/LibXml2.h"
-#include "xml/LibXml2Errors.h"
+#include "document/ElementPosition.h"
+#include "document/InputFile.h"
+#include "document/LibXml2.h"
+#include "document/LibXml2Errors.h"
 
 namespace Velquin::Pstn {
 

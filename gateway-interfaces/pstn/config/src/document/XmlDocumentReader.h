@@ -2,7 +2,7 @@
 
 #include <velquin/Logger.h>
 
-#include "xml/DocumentTree.h"
+#include "document/DocumentTree.h"
 
 namespace Velquin::Pstn {
 

@@ -61,4 +61,13 @@ consteval KeywordTable<E, N> keywordTable( const KeywordEntry<E> ( &in_aEntries 
     return KeywordTable<E, N>( in_aEntries );
 }
 
+/// The format's keywords, one table for each enumeration; each stands beside its enumeration.
+namespace Keywords {
+
+inline constexpr auto TRUE_FALSE = keywordTable<bool>( { { "TRUE", true }, { "FALSE", false } } );
+inline constexpr auto YES_NO = keywordTable<bool>( { { "YES", true }, { "NO", false } } );
+inline constexpr auto ENABLED_DISABLED = keywordTable<bool>( { { "ENABLED", true }, { "DISABLED", false } } );
+
+} // namespace Keywords
+
 } // namespace Velquin::Pstn

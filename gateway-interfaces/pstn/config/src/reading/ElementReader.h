@@ -10,9 +10,9 @@
 
 #include <velquin/Finding.h>
 
-#include "xml/KeywordTable.h"
-#include "xml/LibXml2.h"
-#include "xml/Number.h"
+#include "document/LibXml2.h"
+#include "reading/KeywordTable.h"
+#include "reading/Number.h"
 
 namespace Velquin::Pstn {
 

@@ -1,4 +1,4 @@
-#include "xml/Number.h"
+#include "reading/Number.h"
 
 #include <algorithm>
 #include <charconv>
