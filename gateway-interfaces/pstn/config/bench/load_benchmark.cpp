@@ -155,7 +155,7 @@ void measureFloor( benchmark::State& inout_state, const Documents::Document& in_
     }
 }
 
-DocumentTreePtr parse( const Documents::Document& in_document ) {
+XmlDocumentPtr parse( const Documents::Document& in_document ) {
     static const Logger logger( "load_benchmark" );
     return readXmlDocument( in_document.strPath.c_str(), logger );
 }
@@ -176,11 +176,11 @@ void measureSchema( benchmark::State& inout_state ) {
 }
 
 void measureValidation( benchmark::State& inout_state, const Documents::Document& in_document ) {
-    const DocumentTreePtr pTree = parse( in_document );
+    const XmlDocumentPtr pDocument = parse( in_document );
     const XmlRelaxNGPtr pSchema = compileSchema();
     for ( [[maybe_unused]] auto _ : inout_state ) {
         const XmlRelaxNGValidCtxtPtr pContext( xmlRelaxNGNewValidCtxt( pSchema.get() ) );
-        if ( xmlRelaxNGValidateDoc( pContext.get(), pTree->getDocument() ) != 0 )
+        if ( xmlRelaxNGValidateDoc( pContext.get(), pDocument->get() ) != 0 )
             inout_state.SkipWithError( "not valid" );
     }
 }
@@ -188,10 +188,10 @@ void measureValidation( benchmark::State& inout_state, const Documents::Document
 /// The sections of a document, read one by one by the serializers that a load uses. A section needs those before it.
 enum class Section { PROVIDERS, BOARDS, PHYSICAL_CONFIGS, CALL_CONTROL };
 
-bool readSection( Section in_eSection, const DocumentTree& in_tree, XmlConfig& inout_config ) {
+bool readSection( Section in_eSection, const XmlDocument& in_document, XmlConfig& inout_config ) {
     constexpr const char* NAMES[] = { "providers", "boards", "physicalInterfaceConfigs", "callControl" };
     const XmlSerializerObjectFactory& factory = inout_config.getXmlSerializerObjectFactory();
-    xmlNode* pSection = xmlFirstElementChild( xmlDocGetRootElement( in_tree.getDocument() ) );
+    xmlNode* pSection = xmlFirstElementChild( in_document.getRoot() );
     while ( pSection && std::string_view( fromXml( pSection->name ) ) != NAMES[static_cast<int>( in_eSection )] )
         pSection = xmlNextElementSibling( pSection );
     if ( !pSection )
@@ -222,14 +222,14 @@ bool readSection( Section in_eSection, const DocumentTree& in_tree, XmlConfig& i
 
 template <Section eMeasured>
 void measureSection( benchmark::State& inout_state, const Documents::Document& in_document ) {
-    const DocumentTreePtr pTree = parse( in_document );
+    const XmlDocumentPtr pDocument = parse( in_document );
     for ( [[maybe_unused]] auto _ : inout_state ) {
         XmlConfig config;
         bool bRead = true;
         for ( int nSection = 0; nSection < static_cast<int>( eMeasured ); ++nSection )
-            bRead = bRead && readSection( static_cast<Section>( nSection ), *pTree, config );
+            bRead = bRead && readSection( static_cast<Section>( nSection ), *pDocument, config );
         const auto start = Clock::now();
-        bRead = bRead && readSection( eMeasured, *pTree, config );
+        bRead = bRead && readSection( eMeasured, *pDocument, config );
         inout_state.SetIterationTime( getSecondsSince( start ) );
         if ( !bRead )
             inout_state.SkipWithError( "not read" );

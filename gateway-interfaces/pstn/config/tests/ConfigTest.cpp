@@ -5,6 +5,7 @@
 #include <cctype>
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -18,6 +19,7 @@
 
 #include "LogCapture.h"
 #include "ModelText.h"
+#include "document/DocumentBuilder.h"
 
 namespace Velquin::Pstn::Test {
 
@@ -37,14 +39,18 @@ std::size_t findOnce( const std::string& in_strText, const std::string& in_strPa
     return uPosition;
 }
 
-/// The log goes nowhere, except where a test captures it.
-class QuietLog : public testing::Environment {
+/// The log goes nowhere, except where a test captures it, and documents are built as the program's caller chooses.
+class Surroundings : public testing::Environment {
 public:
     void SetUp() override {
+        const char* const szBuilder = std::getenv( "PSTN_TEST_BUILDER" );
+        if ( szBuilder && std::string( szBuilder ) == "native" ) {
+            ASSERT_TRUE( setDocumentBuilder( DocumentBuilder::NATIVE ) );
+        }
         log4cplus::Logger::getRoot().addAppender( log4cplus::SharedAppenderPtr( new log4cplus::NullAppender() ) );
     }
 };
-const testing::Environment* const QUIET_LOG = testing::AddGlobalTestEnvironment( new QuietLog() );
+const testing::Environment* const SURROUNDINGS = testing::AddGlobalTestEnvironment( new Surroundings() );
 
 std::map<std::string, std::vector<std::string>>& getRegisteredCases() {
     static std::map<std::string, std::vector<std::string>> s_mapCases;

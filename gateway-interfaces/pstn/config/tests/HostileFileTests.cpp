@@ -198,7 +198,7 @@ TEST( HostileFiles, ThatAreNoRegularFilesAreNotOpened ) {
         EXPECT_EQ( join( load( config, strPath, SCHEMA ).vecLines ),
                    join( { strCause, "ERROR XmlConfig: failed to parse XML file " + strPath } ) );
         EXPECT_EQ( join( load( config, DATA_FOLDER + std::string( "/complete.xml" ), strPath ).vecLines ),
-                   join( { strCause, "ERROR XmlConfig: failed to load the schema file : " + strPath } ) );
+                   join( { strCause, "ERROR XmlConfig: Failed to parse RelaxNG schema file " + strPath } ) );
         EXPECT_EQ( join( captureLines( [&] { config.load( strPath.c_str(), SCHEMA, true ); } ) ),
                    join( { "ERROR XmlConfig: failed to open PSTN configuration file: " + strPath } ) );
     }

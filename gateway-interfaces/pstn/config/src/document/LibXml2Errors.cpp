@@ -6,10 +6,9 @@
 #include <cstring>
 #include <utility>
 
-#include <libxml/globals.h>
 #include <libxml/relaxng.h>
 
-#include "document/ElementPosition.h"
+#include "document/Element.h"
 #include "document/LibXml2.h"
 
 namespace Velquin::Pstn {
@@ -145,7 +144,7 @@ LibXml2ErrorRoute::~LibXml2ErrorRoute() {
     xmlSetGenericErrorFunc( m_pOuterGenericContext, m_pOuterGenericError );
 }
 
-void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, xmlError* in_pError ) {
+void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, XmlErrorPtr in_pError ) {
     auto& route = *static_cast<LibXml2ErrorRoute*>( in_pRoute );
     route.m_bOutOfMemory = route.m_bOutOfMemory || in_pError->code == XML_ERR_NO_MEMORY;
     try {

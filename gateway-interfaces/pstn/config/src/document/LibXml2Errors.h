@@ -10,6 +10,8 @@
 
 #include <velquin/Finding.h>
 
+#include "document/LibXml2Compat.h"
+
 namespace Velquin::Pstn {
 
 /// Reports a finding about a file as a whole or a line of it: its message, with file and line in the log line too.
@@ -49,7 +51,7 @@ public:
     void reportWrongAttributes( std::string in_strName, xmlNode* in_pElement );
 
     /// A structured error callback of libxml2, whose context is a LibXml2ErrorRoute.
-    static void onStructuredError( void* in_pRoute, xmlError* in_pError );
+    static void onStructuredError( void* in_pRoute, XmlErrorPtr in_pError );
 
 private:
     void report( const xmlError& in_error );

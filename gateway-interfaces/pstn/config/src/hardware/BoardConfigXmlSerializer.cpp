@@ -2,7 +2,6 @@
 
 #include <velquin/UniqueObjPtr.h>
 
-#include "document/ElementPosition.h"
 #include "reading/ElementReader.h"
 #include "reading/ElementWriter.h"
 
@@ -27,7 +26,6 @@ BoardConfig* BoardConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConf
     if ( !reader.requireNumber( "ID", WHOLE_DECIMAL, uId ) )
         return nullptr;
     pBoardConfig->setId( uId );
-    setElementId( in_pElement, uId );
 
     AttributeText displayName;
     if ( !reader.requireText( "displayName", displayName ) )

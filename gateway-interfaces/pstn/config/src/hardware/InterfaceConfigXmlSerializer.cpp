@@ -2,7 +2,6 @@
 
 #include <velquin/UniqueObjPtr.h>
 
-#include "document/ElementPosition.h"
 #include "hardware/BoardConfig.h"
 #include "reading/ElementReader.h"
 #include "reading/ElementWriter.h"
@@ -30,7 +29,6 @@ InterfaceConfig* InterfaceConfigXmlSerializer::read( xmlNode* const in_pElement,
     if ( !reader.requireNumber( "ID", LEADING_DECIMAL, uId ) )
         return nullptr;
     pInterfaceConfig->setId( uId );
-    setElementId( in_pElement, uId );
 
     AttributeText displayName;
     if ( !reader.requireText( "displayName", displayName ) )

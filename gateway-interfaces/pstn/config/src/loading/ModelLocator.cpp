@@ -3,11 +3,21 @@
 #include <algorithm>
 #include <string_view>
 
-#include "document/ElementPosition.h"
-#include "document/LibXml2.h"
+#include "document/Element.h"
 #include "reading/ChildElements.h"
 
 namespace Velquin::Pstn {
+
+namespace {
+
+/// The identifier of a board or an interface, as its reader took it.
+unsigned int readId( const xmlNode* in_pElement, NumberPolicy in_ePolicy ) {
+    AttributeText id;
+    static_cast<void>( findAttribute( in_pElement, "ID", id ) );
+    return parseNumber<unsigned int>( id.view(), in_ePolicy ).value_or( 0 );
+}
+
+} // namespace
 
 ModelLocator::Place ModelLocator::find( bool in_bAnalog, unsigned int in_uBoardId,
                                         std::optional<unsigned int> in_uInterfaceId ) {
@@ -21,19 +31,19 @@ ModelLocator::Place ModelLocator::find( bool in_bAnalog, unsigned int in_uBoardI
         return { pBoard->pElement, strBoardPath };
     const auto [it, bNew] = m_mapInterfaces.try_emplace( pBoard->pElement );
     if ( bNew )
-        it->second = gather( pBoard->pElement );
+        it->second = gather( pBoard->pElement, NumberPolicy::LEADING );
     const Element* const pInterface = find( it->second, *in_uInterfaceId );
     return pInterface ? Place{ pInterface->pElement, composePath( strBoardPath, *pInterface ) } : Place{};
 }
 
-ModelLocator::Elements ModelLocator::gather( const xmlNode* in_pParent ) {
+ModelLocator::Elements ModelLocator::gather( const xmlNode* in_pParent, NumberPolicy in_ePolicy ) {
     // libxml2 would count the siblings again for each path.
     std::map<std::string_view, unsigned long> mapCounts;
     Elements elements;
     for ( const xmlNode* const pElement : ChildElements( in_pParent ) )
-        elements.push_back( { getElementId( pElement ), pElement, ++mapCounts[fromXml( pElement->name )] } );
+        elements.push_back( { readId( pElement, in_ePolicy ), pElement, ++mapCounts[getElementName( pElement )] } );
     for ( Element& element : elements ) {
-        if ( mapCounts[fromXml( element.pElement->name )] == 1 )
+        if ( mapCounts[getElementName( element.pElement )] == 1 )
             element.ulPosition = 0;
     }
     std::sort( elements.begin(), elements.end(),
@@ -50,9 +60,9 @@ const ModelLocator::Element* ModelLocator::find( const Elements& in_elements, un
 }
 
 std::string ModelLocator::composePath( const std::string& in_strParent, const Element& in_element ) {
-    if ( in_element.pElement->ns )
+    if ( hasNamespace( in_element.pElement ) )
         return getElementPath( in_element.pElement );
-    std::string strPath = in_strParent + "/" + fromXml( in_element.pElement->name );
+    std::string strPath = in_strParent + "/" + getElementName( in_element.pElement );
     if ( in_element.ulPosition != 0 )
         strPath.append( "[" ).append( std::to_string( in_element.ulPosition ) ).append( "]" );
     return strPath;
@@ -64,8 +74,8 @@ void ModelLocator::gatherBoards() {
     if ( !pBoards )
         return;
     m_strPathOfBoards = getElementPath( pBoards );
-    for ( const Element& board : gather( pBoards ) ) {
-        const bool bAnalog = std::string_view( fromXml( board.pElement->name ) ) == "tirvanaAnalogBoard";
+    for ( const Element& board : gather( pBoards, NumberPolicy::WHOLE ) ) {
+        const bool bAnalog = std::string_view( getElementName( board.pElement ) ) == "tirvanaAnalogBoard";
         ( bAnalog ? m_analogBoards : m_digitalBoards ).push_back( board );
     }
 }

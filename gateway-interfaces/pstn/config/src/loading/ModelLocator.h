@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include <libxml/tree.h>
+#include "reading/Number.h"
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 
@@ -31,7 +32,7 @@ private:
     };
     using Elements = std::vector<Element>; ///< ascending by identifier
 
-    static Elements gather( const xmlNode* in_pParent );
+    static Elements gather( const xmlNode* in_pParent, NumberPolicy in_ePolicy );
     static const Element* find( const Elements& in_elements, unsigned int in_uId );
     static std::string composePath( const std::string& in_strParent, const Element& in_element );
 

@@ -13,10 +13,8 @@
 
 #include "callcontrol/CallControlConfigXmlSerializer.h"
 #include "document/InputFile.h"
-#include "document/LibXml2.h"
 #include "document/LibXml2Errors.h"
-#include "document/SchemaAdvisor.h"
-#include "document/XmlDocumentReader.h"
+#include "document/ValidDocument.h"
 #include "hardware/BoardConfigXmlSerializer.h"
 #include "hardware/ProviderConfigXmlSerializer.h"
 #include "loading/CrossChecks.h"
@@ -59,43 +57,6 @@ void appendNumberedLine( std::string& inout_strText, unsigned long long in_ullLi
     inout_strText.append( ": " ).append( in_strLine ).append( "\n" );
 }
 
-/// Whether a schema draws in other files, which a load doesn't read.
-bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
-    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
-        const std::string_view strName = fromXml( pChild->name );
-        if ( strName == "include" || strName == "externalRef" ) {
-            const ReaderWording wording{ "", "" };
-            const ElementReader reader( pChild, in_logger, wording );
-            reader.reportDeclared( "The schema must stand in one file: element " + std::string( strName ), "." );
-            return true;
-        }
-        if ( refersToOtherFiles( pChild, in_logger ) )
-            return true;
-    }
-    return false;
-}
-
-/// Reports which attributes and children of the document the schema refuses or misses, where libxml2 named the element
-/// and where it didn't.
-void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xmlDoc* in_pDocument,
-             const Logger& in_logger ) {
-    SchemaAdvisor advisor( in_pSchema, in_logger );
-    for ( const auto& [strName, uTimes] : inout_route.getUnplaced() ) {
-        // Some of them may have been named by another error.
-        const std::size_t uMost = uTimes + inout_route.getElementsWithWrongAttributes().size();
-        const std::vector<xmlNode*> vecMisfits =
-            advisor.findMisfits( xmlDocGetRootElement( in_pDocument ), strName, uMost );
-        for ( xmlNode* const pElement : vecMisfits )
-            inout_route.reportWrongAttributes( strName, pElement );
-        if ( vecMisfits.empty() )
-            inout_route.reportWrongAttributes( strName, nullptr );
-    }
-    for ( xmlNode* const pElement : inout_route.getElementsWithWrongAttributes() )
-        advisor.adviseOnAttributes( pElement );
-    for ( xmlNode* const pElement : inout_route.getElementsWithWrongChildren() )
-        advisor.adviseOnChildren( pElement );
-}
-
 } // namespace
 
 /// What a load consists of. Shared by the copies of an XmlConfig; works for the one that is loading.
@@ -112,14 +73,11 @@ private:
     static const Logger& getLogger() { return XmlConfig::getLogger(); }
 
     static bool logContent( const char* in_szConfigFile );
-    /// Compiles the schema, and hands out its document for those who ask what it says.
-    static XmlRelaxNGPtr compileSchema( const char* in_szSchemaFile, DocumentTreePtr& out_pSchemaTree );
-    static DocumentTreePtr loadAndValidateXmlDocument( const char* in_szConfigFile, const char* in_szSchemaFile );
     template <class ReadEntry>
     static bool loadSection( const xmlNode* in_pRootNode, const char* in_szSection, const char* in_szSubject,
                              ReadEntry in_readEntry );
     bool loadProvidersConfig( const xmlNode* in_pRootNode );
-    bool loadBoardsConfig( const xmlNode* in_pRootNode, DocumentTree& inout_tree );
+    bool loadBoardsConfig( const xmlNode* in_pRootNode );
     bool loadInterfacePhysicalsConfig( const xmlNode* in_pRootNode );
     bool loadCallControlConfig( const xmlNode* in_pRootNode );
     bool crossCheck( const xmlNode* in_pRootNode ) const;
@@ -141,13 +99,13 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
 
     if ( in_bLogContent && !logContent( in_szConfigFile ) )
         return false;
-    const DocumentTreePtr pTree = loadAndValidateXmlDocument( in_szConfigFile, in_szSchemaFile );
-    if ( !pTree )
+    const XmlDocumentPtr pDocument = loadAndValidateXmlDocument( in_szConfigFile, in_szSchemaFile, getLogger() );
+    if ( !pDocument )
         return false;
-    const xmlNode* const pRootNode = xmlDocGetRootElement( pTree->getDocument() );
+    const xmlNode* const pRootNode = pDocument->getRoot();
     if ( !VELQUIN_ASSERT( pRootNode ) )
         return false;
-    return loadProvidersConfig( pRootNode ) && loadBoardsConfig( pRootNode, *pTree ) &&
+    return loadProvidersConfig( pRootNode ) && loadBoardsConfig( pRootNode ) &&
            loadInterfacePhysicalsConfig( pRootNode ) && loadCallControlConfig( pRootNode ) && crossCheck( pRootNode );
 }
 
@@ -174,67 +132,6 @@ bool XmlConfig::Impl::logContent( const char* in_szConfigFile ) {
     }
     getLogger().log( Logger::INFO_LEVEL, strText, __FILE__, __LINE__ );
     return true;
-}
-
-XmlRelaxNGPtr XmlConfig::Impl::compileSchema( const char* in_szSchemaFile, DocumentTreePtr& out_pSchemaTree ) {
-    VELQUIN_LOG_DEBUG( getLogger(), "Validating Relax-NG file (" << in_szSchemaFile << ")..." );
-    VELQUIN_LOG_DEBUG( getLogger(), "Creating RelaxNG parser context..." );
-    LibXml2ErrorRoute errorRoute( getLogger(), in_szSchemaFile );
-    out_pSchemaTree = readXmlDocument( in_szSchemaFile, getLogger() );
-    xmlDoc* const pDocument = out_pSchemaTree ? out_pSchemaTree->getDocument() : nullptr;
-    // The context works on a copy of the document.
-    const XmlRelaxNGParserCtxtPtr pParserContext( pDocument ? xmlRelaxNGNewDocParserCtxt( pDocument ) : nullptr );
-    if ( !pParserContext ) {
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to load the schema file : " << in_szSchemaFile );
-        return nullptr;
-    }
-    xmlRelaxNGSetParserStructuredErrors( pParserContext.get(), &LibXml2ErrorRoute::onStructuredError, &errorRoute );
-    VELQUIN_LOG_DEBUG( getLogger(), "Compiling RelaxNG schema file " << in_szSchemaFile << "..." );
-    XmlRelaxNGPtr pSchema;
-    if ( !refersToOtherFiles( reinterpret_cast<const xmlNode*>( pDocument ), getLogger() ) )
-        pSchema.reset( xmlRelaxNGParse( pParserContext.get() ) );
-    if ( errorRoute.isOutOfMemory() )
-        pSchema.reset();
-    if ( !pSchema )
-        VELQUIN_REPORT_ERROR( getLogger(), "Failed to parse RelaxNG schema file " << in_szSchemaFile );
-    return pSchema;
-}
-
-DocumentTreePtr XmlConfig::Impl::loadAndValidateXmlDocument( const char* in_szConfigFile,
-                                                             const char* in_szSchemaFile ) {
-    VELQUIN_TRACE_SCOPE( getLogger(), "Config::loadAndValidateXmlDocument" );
-    VELQUIN_LOG_DEBUG( getLogger(), "loading PSTN configuration \nPSTN Configuration XML file: "
-                                        << in_szConfigFile << "\nRelaxNG schema file: " << in_szSchemaFile );
-    DocumentTreePtr pSchemaTree;
-    const XmlRelaxNGPtr pSchema = compileSchema( in_szSchemaFile, pSchemaTree );
-    if ( !pSchema )
-        return nullptr;
-    const XmlRelaxNGValidCtxtPtr pValidationContext( xmlRelaxNGNewValidCtxt( pSchema.get() ) );
-    if ( !pValidationContext ) {
-        VELQUIN_REPORT_ERROR( getLogger(),
-                              "failed to create a XML validation context to validate file " << in_szConfigFile );
-        return nullptr;
-    }
-    LibXml2ErrorRoute errorRoute( getLogger(), in_szConfigFile );
-    xmlRelaxNGSetValidStructuredErrors( pValidationContext.get(), &LibXml2ErrorRoute::onStructuredError, &errorRoute );
-
-    DocumentTreePtr pTree = readXmlDocument( in_szConfigFile, getLogger() );
-    if ( !pTree ) {
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to parse XML file " << in_szConfigFile );
-        return nullptr;
-    }
-    xmlDoc* const pDocument = pTree->getDocument();
-    // Of a document that has a URL, libxml2 walks over all preceding siblings for every error.
-    XmlStringPtr pUrl( const_cast<xmlChar*>( std::exchange( pDocument->URL, nullptr ) ) );
-    const bool bValid = xmlRelaxNGValidateDoc( pValidationContext.get(), pDocument ) == 0;
-    pDocument->URL = pUrl.release();
-    if ( !bValid || errorRoute.isOutOfMemory() ) {
-        advise( errorRoute, pSchemaTree->getDocument(), pDocument, getLogger() );
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to validate PSTN configuration file "
-                                               << in_szConfigFile << " against schema " << in_szSchemaFile );
-        return nullptr;
-    }
-    return pTree;
 }
 
 /// Reads the entries of one section, in document order; a section that is absent or empty is valid.
@@ -272,9 +169,9 @@ bool XmlConfig::Impl::loadProvidersConfig( const xmlNode* in_pRootNode ) {
     return loadSection( in_pRootNode, "providers", "Configuration of the provider ", readEntry );
 }
 
-bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode, DocumentTree& inout_tree ) {
+bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode ) {
     VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::Impl::loadBoardsConfig" );
-    const auto readEntry = [this, &inout_tree]( xmlNode* in_pEntry, const char* in_szName ) {
+    const auto readEntry = [this]( xmlNode* in_pEntry, const char* in_szName ) {
         const TSHandle<BoardConfigXmlSerializer> pBoardConfigXmlSerializer(
             m_pFactory->newBoardConfigXmlSerializer( in_szName ) );
         if ( !VELQUIN_ASSERT( !pBoardConfigXmlSerializer.isNull() ) )
@@ -282,11 +179,7 @@ bool XmlConfig::Impl::loadBoardsConfig( const xmlNode* in_pRootNode, DocumentTre
         BoardConfig* const pBoardConfig = pBoardConfigXmlSerializer->read( in_pEntry, *m_pOwner );
         if ( !pBoardConfig )
             return Entry::CONTAINS_ERRORS;
-        if ( !m_pOwner->addBoardConfig( pBoardConfig ) )
-            return Entry::REFUSED;
-        // The model has what they say, and grows in the memory that they give back.
-        inout_tree.removeAttributes( in_pEntry );
-        return Entry::ATTACHED;
+        return m_pOwner->addBoardConfig( pBoardConfig ) ? Entry::ATTACHED : Entry::REFUSED;
     };
     return loadSection( in_pRootNode, "boards", "Configuration of the board ", readEntry );
 }
@@ -386,16 +279,12 @@ const XmlSerializerObjectFactory& XmlConfig::getXmlSerializerObjectFactory() con
 bool XmlConfig::writeXML( _xmlDoc* in_pDocument ) const try {
     VELQUIN_TRACE_SCOPE( getLogger(), "XmlConfig::writeXML" );
     const XML::LibraryScope library;
-    XmlNodePtr pNewRoot( in_pDocument ? xmlNewDocNode( in_pDocument, nullptr, toXml( "pstnConfig" ), nullptr )
-                                      : nullptr );
-    if ( !pNewRoot ) {
+    xmlNode* const pRoot = setRootElement( in_pDocument, "pstnConfig" );
+    if ( !pRoot ) {
         VELQUIN_REPORT_ERROR( getLogger(), "Can not create root element." );
         return false;
     }
-    xmlNode* const pRoot = pNewRoot.release();
-    XmlNodePtr( xmlDocSetRootElement( in_pDocument, pRoot ) ).reset(); // frees a root that was there before
-    xmlNode* const pBoards =
-        xmlNewProp( pRoot, toXml( "version" ), toXml( "2.3" ) ) ? addChildElement( pRoot, "boards" ) : nullptr;
+    xmlNode* const pBoards = addAttribute( pRoot, "version", "2.3" ) ? addChildElement( pRoot, "boards" ) : nullptr;
     if ( !pBoards ) {
         VELQUIN_REPORT_ERROR( getLogger(), "Can not add \"boards\" XML element." );
         return false;

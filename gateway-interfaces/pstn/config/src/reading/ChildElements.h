@@ -2,7 +2,7 @@
 
 #include <velquin/XML.h>
 
-#include <libxml/tree.h>
+#include "reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 

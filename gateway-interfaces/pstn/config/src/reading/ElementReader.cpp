@@ -1,12 +1,9 @@
 #include "reading/ElementReader.h"
 
-#include <cstring>
 #include <utility>
 
 #include <velquin/Assertion.h>
 #include <velquin/XML.h>
-
-#include "document/ElementPosition.h"
 
 namespace Velquin::Pstn {
 
@@ -39,33 +36,10 @@ private:
     std::string_view m_strValue;
 };
 
-const xmlAttr* findAttribute( const xmlNode* in_pElement, const char* in_szAttribute ) {
-    for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute; pAttribute = pAttribute->next ) {
-        const char* const szName = fromXml( pAttribute->name );
-        // Most names differ in their first letter, and a load asks for many.
-        if ( *szName == *in_szAttribute && !pAttribute->ns && std::strcmp( szName, in_szAttribute ) == 0 )
-            return pAttribute;
-    }
-    return nullptr;
-}
-
 } // namespace
 
 ReadResult AttributeReader::findText( const char* in_szAttribute, AttributeText& out_text ) const {
-    const xmlAttr* const pAttribute = findAttribute( m_pElement, in_szAttribute );
-    if ( !pAttribute )
-        return ReadResult::ABSENT;
-    const xmlNode* const pText = pAttribute->children;
-    out_text.m_pCopy.reset();
-    if ( !pText ) {
-        out_text.m_szText = "";
-    } else if ( !pText->next && pText->type == XML_TEXT_NODE ) {
-        out_text.m_szText = fromXml( pText->content );
-    } else {
-        out_text.m_pCopy.reset( xmlNodeListGetString( m_pElement->doc, pText, 1 ) );
-        out_text.m_szText = fromXml( out_text.m_pCopy.get() );
-    }
-    return ReadResult::READ;
+    return findAttribute( m_pElement, in_szAttribute, out_text ) ? ReadResult::READ : ReadResult::ABSENT;
 }
 
 bool AttributeReader::requireText( const char* in_szAttribute, AttributeText& out_text ) const {

@@ -6,11 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include <libxml/tree.h>
-
 #include <velquin/Finding.h>
 
-#include "document/LibXml2.h"
+#include "document/Element.h"
 #include "reading/KeywordTable.h"
 #include "reading/Number.h"
 
@@ -57,19 +55,6 @@ struct SourcePlace {
     }
 };
 
-/// The text of one attribute: in place in the document where it stands in one piece, else in a copy.
-class AttributeText {
-public:
-    const char* c_str() const noexcept { return m_szText; }
-    std::string_view view() const noexcept { return m_szText; }
-
-private:
-    friend class AttributeReader;
-
-    const char* m_szText = "";
-    XmlStringPtr m_pCopy;
-};
-
 /// Reads the attributes and children of one element. Every `require...` operation reports what is absent or wrong, in
 /// the reader's wording, and then yields false (or null): the caller only returns. Every `find...` operation says which
 /// of the three it was.
@@ -84,7 +69,7 @@ public:
     }
 
     xmlNode* getElement() const noexcept { return m_pElement; }
-    const char* getName() const noexcept { return fromXml( m_pElement->name ); }
+    const char* getName() const noexcept { return getElementName( m_pElement ); }
 
     ReadResult findText( const char* in_szAttribute, AttributeText& out_text ) const;
     bool requireText( const char* in_szAttribute, AttributeText& out_text ) const;

@@ -6,6 +6,13 @@
 
 namespace Velquin::Pstn {
 
+xmlNode* setRootElement( _xmlDoc* in_pDocument, const char* in_szName ) {
+    xmlNode* const pRoot = in_pDocument ? xmlNewDocNode( in_pDocument, nullptr, toXml( in_szName ), nullptr ) : nullptr;
+    if ( pRoot )
+        XmlNodePtr( xmlDocSetRootElement( in_pDocument, pRoot ) ).reset(); // frees the root that was there before
+    return pRoot;
+}
+
 xmlNode* addChildElement( xmlNode* in_pParent, const char* in_szName ) {
     if ( !in_pParent )
         return nullptr;
@@ -15,8 +22,12 @@ xmlNode* addChildElement( xmlNode* in_pParent, const char* in_szName ) {
     return pElement.release();
 }
 
+bool addAttribute( xmlNode* in_pElement, const char* in_szAttribute, const char* in_szValue ) {
+    return in_pElement && xmlNewProp( in_pElement, toXml( in_szAttribute ), toXml( in_szValue ) );
+}
+
 bool ElementWriter::addText( const char* in_szAttribute, const char* in_szValue ) const {
-    if ( m_pElement && xmlNewProp( m_pElement, toXml( in_szAttribute ), toXml( in_szValue ) ) )
+    if ( addAttribute( m_pElement, in_szAttribute, in_szValue ) )
         return true;
     VELQUIN_REPORT_ERROR( m_logger, "Failed to add " << in_szAttribute << " to board XML element." );
     return false;

@@ -2,14 +2,22 @@
 
 #include <string>
 
-#include <libxml/tree.h>
-
 #include <velquin/Logger.h>
+
+#include "reading/XmlNodeFwd.h"
+
+struct _xmlDoc;
 
 namespace Velquin::Pstn {
 
+/// Gives the document a new root element, in place of the one that it has; null when libxml2 can't. Nothing is logged.
+xmlNode* setRootElement( _xmlDoc* in_pDocument, const char* in_szName );
+
 /// Appends a new child element to the parent; null when libxml2 can't. Nothing is logged.
 xmlNode* addChildElement( xmlNode* in_pParent, const char* in_szName );
+
+/// False when libxml2 can't. Nothing is logged.
+bool addAttribute( xmlNode* in_pElement, const char* in_szAttribute, const char* in_szValue );
 
 /// Writes the attributes of one element. A failure is reported as "Failed to add " + attribute +
 /// " to board XML element.", and the result is false.

@@ -7,7 +7,7 @@
 
 #include "callcontrol/isdn/IsdnBChannelRange.h"
 #include "callcontrol/isdn/IsdnFasConfig.h"
-#include "document/ElementPosition.h"
+#include "document/Element.h"
 #include "hardware/InterfaceReference.h"
 #include "loading/XmlConfig.h"
 #include "reading/ChildElements.h"

@@ -1,0 +1,43 @@
+#include "document/DocumentBuilder.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <iterator>
+
+#include <libxml/parser.h>
+#include <libxml/xmlversion.h>
+
+namespace Velquin::Pstn {
+
+namespace {
+
+// A node that the headers know by another size than the libxml2 that runs would be read beyond its end: headers and
+// library must be of one version, and of one with which all tests ran.
+constexpr long TESTED_VERSIONS[] = { 20914, 21504 };
+
+bool areBlocksKnown() noexcept {
+    const long nRunning = std::strtol( xmlParserVersion, nullptr, 10 );
+    return nRunning == LIBXML_VERSION && std::count( std::begin( TESTED_VERSIONS ), std::end( TESTED_VERSIONS ), nRunning ) > 0;
+}
+
+std::atomic<DocumentBuilder>& getChoice() noexcept {
+    static std::atomic<DocumentBuilder> s_eBuilder{ areBlocksKnown() ? DocumentBuilder::BLOCKS
+                                                                     : DocumentBuilder::NATIVE };
+    return s_eBuilder;
+}
+
+} // namespace
+
+DocumentBuilder getDocumentBuilder() noexcept {
+    return getChoice().load( std::memory_order_relaxed );
+}
+
+bool setDocumentBuilder( DocumentBuilder in_eBuilder ) noexcept {
+    if ( in_eBuilder == DocumentBuilder::BLOCKS && !areBlocksKnown() )
+        return false;
+    getChoice().store( in_eBuilder, std::memory_order_relaxed );
+    return true;
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,71 @@
+#include "document/Element.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+namespace Velquin::Pstn {
+
+namespace {
+
+/// Marks the documents of this library: in others, what nodes leave to programs belongs to the program whose they are.
+char s_cOwnDocument;
+
+} // namespace
+
+const char* getElementName( const xmlNode* in_pElement ) noexcept {
+    return fromXml( in_pElement->name );
+}
+
+void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept {
+    in_pElement->doc->_private = &s_cOwnDocument;
+    in_pElement->_private = reinterpret_cast<void*>( static_cast<std::uintptr_t>( in_ullLine ) );
+    // For copies of the document, which libxml2's compiler of schemas works on.
+    in_pElement->line = static_cast<unsigned short>( std::min( in_ullLine, 65535ULL ) );
+}
+
+unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept {
+    if ( in_pElement->doc && in_pElement->doc->_private == &s_cOwnDocument )
+        return reinterpret_cast<std::uintptr_t>( in_pElement->_private );
+    const long nLine = xmlGetLineNo( const_cast<xmlNode*>( in_pElement ) );
+    return nLine > 0 ? static_cast<unsigned long long>( nLine ) : 0;
+}
+
+std::string getElementPath( const xmlNode* in_pElement ) {
+    return fromXml( XmlStringPtr( xmlGetNodePath( const_cast<xmlNode*>( in_pElement ) ) ).get() );
+}
+
+bool hasNamespace( const xmlNode* in_pElement ) noexcept {
+    return in_pElement->ns != nullptr;
+}
+
+bool isOfNamespace( const xmlNode* in_pElement, std::string_view in_strUri ) noexcept {
+    return in_pElement->ns && in_strUri == fromXml( in_pElement->ns->href );
+}
+
+const char* getElementFile( const xmlNode* in_pElement ) noexcept {
+    return in_pElement->doc ? fromXml( in_pElement->doc->URL ) : "";
+}
+
+bool findAttribute( const xmlNode* in_pElement, const char* in_szName, AttributeText& out_text ) {
+    for ( const xmlAttr* pAttribute = in_pElement->properties; pAttribute; pAttribute = pAttribute->next ) {
+        const char* const szName = fromXml( pAttribute->name );
+        // Most names differ in their first letter, and a load asks for many.
+        if ( *szName != *in_szName || pAttribute->ns || std::strcmp( szName, in_szName ) != 0 )
+            continue;
+        const xmlNode* const pText = pAttribute->children;
+        out_text.m_pCopy.reset();
+        if ( !pText ) {
+            out_text.m_szText = "";
+        } else if ( !pText->next && pText->type == XML_TEXT_NODE ) {
+            out_text.m_szText = fromXml( pText->content );
+        } else {
+            out_text.m_pCopy.reset( xmlNodeListGetString( in_pElement->doc, pText, 1 ) );
+            out_text.m_szText = fromXml( out_text.m_pCopy.get() );
+        }
+        return true;
+    }
+    return false;
+}
+
+} // namespace Velquin::Pstn
