@@ -4,6 +4,7 @@
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include <libxml/tree.h>
 #include <libxml/xmlerror.h>
@@ -112,12 +113,15 @@ bool XMLSTLDocOutputStreamableImpl::writeTo( std::ostream& inout_stream ) const 
     const bool bSaved = xmlSaveDoc( pContext.get(), pDocument.get() ) >= 0;
     const bool bClosed = xmlSaveClose( pContext.release() ) >= 0;
     errors.require( bSaved && bClosed );
+    // Where there is no memory for the encoding's name, some versions of libxml2 leave it out and say nothing.
+    const std::string_view strWritten( reinterpret_cast<const char*>( xmlBufferContent( pBuffer.get() ) ) );
+    if ( !strWritten.starts_with( "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" ) )
+        throw std::bad_alloc();
     // What isn't UTF-8 in the model is written as it is.
     if ( !xmlCheckUTF8( xmlBufferContent( pBuffer.get() ) ) )
         throw std::runtime_error( "a text is not UTF-8" );
 
-    inout_stream.write( reinterpret_cast<const char*>( xmlBufferContent( pBuffer.get() ) ),
-                        xmlBufferLength( pBuffer.get() ) );
+    inout_stream.write( strWritten.data(), static_cast<std::streamsize>( strWritten.size() ) );
     return !inout_stream.fail();
 }
 VELQUIN_CATCH_AND_RETURN( StreamableLog::getLogger(), false )

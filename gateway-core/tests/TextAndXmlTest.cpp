@@ -80,9 +80,11 @@ struct Streamable : XMLSTLDocOutputStreamableImpl {
 Streamable::Writer writeText( const char* in_szText ) {
     return [in_szText]( xmlDoc* in_pDocument ) {
         xmlNode* const pRoot = xmlNewDocNode( in_pDocument, nullptr, BAD_CAST "r", nullptr );
+        if ( !pRoot )
+            throw std::bad_alloc(); // which later versions of libxml2 don't tell
         xmlDocSetRootElement( in_pDocument, pRoot );
         xmlNewProp( xmlNewChild( pRoot, nullptr, BAD_CAST "a", nullptr ), BAD_CAST "t", BAD_CAST in_szText );
-        return pRoot != nullptr;
+        return true;
     };
 }
 

@@ -258,7 +258,7 @@ TEST( Loader, LogsNoContentBelowItsLevel ) {
 
 TEST( Loader, LeavesTheProgramsLibxml2Alone ) {
     int nErrors = 0;
-    const xmlStructuredErrorFunc countErrors = []( void* out_pCount, xmlError* ) {
+    const xmlStructuredErrorFunc countErrors = []( void* out_pCount, auto* ) { // const in later versions
         ++*static_cast<int*>( out_pCount );
     };
     xmlSetStructuredErrorFunc( &nErrors, countErrors );

@@ -18,7 +18,8 @@ constexpr long TESTED_VERSIONS[] = { 20914, 21504 };
 
 bool areBlocksKnown() noexcept {
     const long nRunning = std::strtol( xmlParserVersion, nullptr, 10 );
-    return nRunning == LIBXML_VERSION && std::count( std::begin( TESTED_VERSIONS ), std::end( TESTED_VERSIONS ), nRunning ) > 0;
+    return nRunning == LIBXML_VERSION &&
+           std::count( std::begin( TESTED_VERSIONS ), std::end( TESTED_VERSIONS ), nRunning ) > 0;
 }
 
 std::atomic<DocumentBuilder>& getChoice() noexcept {

@@ -14,26 +14,8 @@ TError* getErrorOf( void ( * )( void*, TError* ) );
 /// An error as libxml2 hands it to its structured callbacks: const since 2.12.
 using XmlErrorPtr = decltype( getErrorOf( xmlStructuredErrorFunc{} ) );
 
-/// The document that the context builds, for callbacks of its parse.
-inline xmlDoc* getDocument( xmlParserCtxt* in_pContext ) noexcept {
-#if LIBXML_VERSION >= 21400
-    return xmlCtxtGetDocument( in_pContext );
-#else
-    return in_pContext->myDoc;
-#endif
-}
-
-/// The innermost element that libxml2's own functions have begun.
-inline xmlNode* getOpenElement( xmlParserCtxt* in_pContext ) noexcept {
-#if LIBXML_VERSION >= 21500
-    return xmlCtxtGetNode( in_pContext );
-#else
-    return in_pContext->node;
-#endif
-}
-
-// Before 2.12, libxml2 compares each attribute of a tag and each namespace in scope with all others, and that before any
-// callback hears of the first. Later versions find them by a hash; what callbacks are told is early enough.
+// Before 2.12, libxml2 compares each attribute of a tag and each namespace in scope with all others, and that before
+// any callback hears of the first. Later versions find them by a hash; what callbacks are told is early enough.
 
 /// How many attributes the tag at hand has so far, about: libxml2 doubles the room for them.
 inline int countAttributes( [[maybe_unused]] const xmlParserCtxt& in_context ) noexcept {
@@ -49,7 +31,7 @@ inline int countNamespaces( [[maybe_unused]] const xmlParserCtxt& in_context ) n
 #if LIBXML_VERSION >= 21200
     return 0;
 #else
-    return in_context.nsNr / 2; // prefix and URI
+    return in_context.nsNr / 2;        // prefix and URI
 #endif
 }
 

@@ -116,15 +116,15 @@ void onStartElement( void* in_pContext, const xmlChar* in_szName, const xmlChar*
         }
         auto* const pContext = static_cast<xmlParserCtxt*>( in_pContext );
         if ( inout_state.pBlocks ) {
-            inout_state.pBlocks->startElement( getDocument( pContext ),
+            inout_state.pBlocks->startElement( pContext->myDoc,
                                                { in_szName, in_szPrefix, in_szUri, in_nNamespaces, in_aszNamespaces,
                                                  in_nAttributes - in_nDefaulted, in_aszAttributes },
                                                getLine( pContext ) );
         } else {
             xmlSAX2StartElementNs( pContext, in_szName, in_szPrefix, in_szUri, in_nNamespaces, in_aszNamespaces,
                                    in_nAttributes, in_nDefaulted, in_aszAttributes );
-            if ( xmlNode* const pElement = getOpenElement( pContext ) )
-                setElementLine( pElement, getLine( pContext ) );
+            if ( pContext->node )
+                setElementLine( pContext->node, getLine( pContext ) );
         }
     } );
 }
