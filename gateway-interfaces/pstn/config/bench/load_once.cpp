@@ -1,6 +1,7 @@
-// Loads a configuration once: load_once FILE SCHEMA [--log-content|--memory]
+// Loads a configuration once: load_once FILE SCHEMA [--log-content|--memory|--native]
 // To be run under callgrind with --toggle-collect=runLoad. --log-content turns the log of the file's content on, at
-// INFO. --memory prints the bytes of heap that the loaded model holds, after a first load that warms up.
+// INFO. --memory prints the bytes of heap that the loaded model holds, after a first load that warms up. --native lets
+// libxml2 itself build the document.
 // Exit code 0: loaded; 1: not loaded; 2: wrong usage.
 
 #include <iostream>
@@ -11,6 +12,7 @@
 #endif
 
 #include "QuietLog.h"
+#include "document/DocumentBuilder.h"
 #include "loading/XmlConfig.h"
 
 using namespace Velquin::Pstn;
@@ -41,12 +43,15 @@ extern "C" bool runLoad( const char* in_szConfigFile, const char* in_szSchemaFil
 
 int main( int argc, char** argv ) {
     const std::string_view strMode = argc == 4 ? argv[3] : "";
-    if ( argc < 3 || argc > 4 || ( argc == 4 && strMode != "--log-content" && strMode != "--memory" ) ) {
-        std::cerr << "usage: load_once FILE SCHEMA [--log-content|--memory]\n";
-        return 2;
-    }
     const bool bLogContent = strMode == "--log-content";
     const bool bMemory = strMode == "--memory";
+    const bool bNative = strMode == "--native";
+    if ( argc < 3 || argc > 4 || ( argc == 4 && !bLogContent && !bMemory && !bNative ) ) {
+        std::cerr << "usage: load_once FILE SCHEMA [--log-content|--memory|--native]\n";
+        return 2;
+    }
+    if ( bNative && !setDocumentBuilder( DocumentBuilder::NATIVE ) )
+        return 2;
     const QuietLog log( bLogContent ? log4cplus::INFO_LOG_LEVEL : log4cplus::WARN_LOG_LEVEL );
     if ( bMemory && !runLoad( argv[1], argv[2], false, false ) )
         return 1;
