@@ -1,7 +1,5 @@
 #include "loading/XmlConfig.h"
 
-#include <charconv>
-#include <cstring>
 #include <string>
 #include <utility>
 
@@ -12,11 +10,11 @@
 #include <velquin/XML.h>
 
 #include "callcontrol/CallControlConfigXmlSerializer.h"
-#include "document/InputFile.h"
 #include "document/LibXml2Errors.h"
 #include "document/ValidDocument.h"
 #include "hardware/BoardConfigXmlSerializer.h"
 #include "hardware/ProviderConfigXmlSerializer.h"
+#include "loading/ContentLog.h"
 #include "loading/CrossChecks.h"
 #include "loading/ModelLocator.h"
 #include "loading/PSTNConfigParamDefs.h"
@@ -48,15 +46,6 @@ private:
     const char* m_szFile;
 };
 
-/// Appends the line with its number in front, right-aligned in a field of six.
-void appendNumberedLine( std::string& inout_strText, unsigned long long in_ullLine, std::string_view in_strLine ) {
-    char szNumber[20];
-    const auto [pEnd, eError] = std::to_chars( std::begin( szNumber ), std::end( szNumber ), in_ullLine );
-    const auto uDigits = static_cast<std::size_t>( pEnd - szNumber );
-    inout_strText.append( uDigits < 6 ? 6 - uDigits : 0, ' ' ).append( szNumber, uDigits );
-    inout_strText.append( ": " ).append( in_strLine ).append( "\n" );
-}
-
 } // namespace
 
 /// What a load consists of. Shared by the copies of an XmlConfig; works for the one that is loading.
@@ -72,7 +61,6 @@ private:
 
     static const Logger& getLogger() { return XmlConfig::getLogger(); }
 
-    static bool logContent( const char* in_szConfigFile );
     template <class ReadEntry>
     static bool loadSection( const xmlNode* in_pRootNode, const char* in_szSection, const char* in_szSubject,
                              ReadEntry in_readEntry );
@@ -97,7 +85,7 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
     const auto restoreOwner = [this, pOuter = m_pOwner]( XmlConfig* ) { m_pOwner = pOuter; };
     const std::unique_ptr<XmlConfig, decltype( restoreOwner )> pOwner( m_pOwner = &in_owner, restoreOwner );
 
-    if ( in_bLogContent && !logContent( in_szConfigFile ) )
+    if ( in_bLogContent && !logContent( in_szConfigFile, getLogger() ) )
         return false;
     const XmlDocumentPtr pDocument = loadAndValidateXmlDocument( in_szConfigFile, in_szSchemaFile, getLogger() );
     if ( !pDocument )
@@ -107,31 +95,6 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
         return false;
     return loadProvidersConfig( pRootNode ) && loadBoardsConfig( pRootNode ) &&
            loadInterfacePhysicalsConfig( pRootNode ) && loadCallControlConfig( pRootNode ) && crossCheck( pRootNode );
-}
-
-bool XmlConfig::Impl::logContent( const char* in_szConfigFile ) {
-    std::ifstream stream;
-    if ( !openInputFile( in_szConfigFile, stream, std::ios::in ).empty() ) {
-        Finding finding;
-        finding.eKind = Finding::Kind::UNREADABLE_FILE;
-        finding.strText = std::string( "failed to open PSTN configuration file: " ) + in_szConfigFile;
-        reportFinding( getLogger(), std::move( finding ), __FILE__, __LINE__ );
-        return false;
-    }
-    if ( !getLogger().isEnabledFor( Logger::INFO_LEVEL ) )
-        return true;
-    std::string strText = std::string( "PSTN configuration: " ) + in_szConfigFile + "\n";
-    char szLine[2048];
-    // A longer line comes in pieces, which all have its number.
-    for ( unsigned long long ullLine = 1; stream.getline( szLine, sizeof( szLine ) ) || stream.gcount() > 0; ) {
-        appendNumberedLine( strText, ullLine, szLine );
-        if ( stream.fail() && !stream.eof() && !stream.bad() )
-            stream.clear();
-        else
-            ++ullLine;
-    }
-    getLogger().log( Logger::INFO_LEVEL, strText, __FILE__, __LINE__ );
-    return true;
 }
 
 /// Reads the entries of one section, in document order; a section that is absent or empty is valid.
