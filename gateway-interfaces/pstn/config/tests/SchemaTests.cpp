@@ -8,6 +8,7 @@
 #include "ConfigTest.h"
 #include "DocumentPath.h"
 #include "KeywordRows.h"
+#include "ModelText.h"
 #include "document/LibXml2.h"
 #include "reading/ChildElements.h"
 
@@ -127,6 +128,51 @@ TEST( Schema, LetsTheExamplesPass ) {
         ++uExamples;
     }
     EXPECT_EQ( uExamples, 5U );
+}
+
+// ---- What the schema takes
+
+/// Exchanges two elements that stand beside each other.
+void exchange( xmlNode* in_pFirst, xmlNode* in_pSecond ) {
+    xmlAddPrevSibling( in_pFirst, in_pSecond );
+}
+
+TEST( Schema, TakesChildrenInAnyOrderThatMeansNothing ) {
+    const std::string strComplete = std::string( DATA_FOLDER ) + "/complete.xml";
+    XmlConfig complete;
+    ASSERT_TRUE( load( complete, strComplete, SCHEMA ).bValid );
+    const XmlDocPtr pDocument = parse( strComplete );
+    std::vector<xmlNode*> vecElements{ xmlDocGetRootElement( pDocument.get() ) };
+    std::set<std::string> setRefused; // of both orders of neighbours, the one that isn't the document's
+    for ( std::size_t u = 0; u < vecElements.size(); ++u ) {
+        std::vector<xmlNode*> vecChildren;
+        for ( xmlNode* const pChild : ChildElements( vecElements[u] ) )
+            vecChildren.push_back( pChild );
+        vecElements.insert( vecElements.end(), vecChildren.begin(), vecChildren.end() );
+        for ( std::size_t v = 1; v < vecChildren.size(); ++v ) {
+            const std::string strFirst = fromXml( vecChildren[v - 1]->name );
+            const std::string strSecond = fromXml( vecChildren[v]->name );
+            if ( strFirst == strSecond )
+                continue;
+            exchange( vecChildren[v - 1], vecChildren[v] );
+            xmlChar* pText = nullptr;
+            xmlDocDumpMemory( pDocument.get(), &pText, nullptr );
+            exchange( vecChildren[v], vecChildren[v - 1] );
+            const TemporaryFile file( fromXml( XmlStringPtr( pText ).get() ) );
+            XmlConfig config;
+            if ( !load( config, file.getPath(), SCHEMA ).bValid )
+                setRefused.insert( strSecond + " before " + strFirst );
+            else
+                EXPECT_EQ( Fuzz::describeModel( config ), Fuzz::describeModel( complete ) ) << strSecond;
+        }
+    }
+    EXPECT_EQ( join( setRefused ), "analogFxsConfig before analogFxoConfig\n"
+                                   "applyTo before disconnectSupervision\n"
+                                   "boards before providers\n"
+                                   "callControl before physicalInterfaceConfigs\n"
+                                   "disconnectSupervision before outboundCallHandling\n"
+                                   "outboundCallHandling before inboundCallHandling\n"
+                                   "physicalInterfaceConfigs before boards\n" );
 }
 
 // ---- What the schema stops

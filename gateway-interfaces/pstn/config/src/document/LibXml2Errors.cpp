@@ -29,12 +29,6 @@ std::string toOneLine( const char* in_szMessage ) {
     return strLine;
 }
 
-void reportMessage( const Logger& in_logger, int in_nLevel, const char* in_szMessage, Finding in_finding ) {
-    in_finding.nLevel = in_nLevel;
-    in_finding.strMessage = toOneLine( in_szMessage );
-    reportInFile( in_logger, std::move( in_finding ) );
-}
-
 // libxml2 prints through here, in pieces, what it has no structured error for.
 void onGenericError( void* in_pRoute, const char* in_szFormat, ... ) {
     char szText[1024];
@@ -52,10 +46,22 @@ bool isAboutAttributes( const xmlError& in_error ) {
            ( in_error.code == XML_RELAXNG_ERR_ATTRVALID || in_error.code == XML_RELAXNG_ERR_INVALIDATTR );
 }
 
+bool isAboutContent( const xmlError& in_error ) {
+    return in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_CONTENTVALID;
+}
+
 /// Whether libxml2 misses a child element, without a name for it.
 bool isAboutMissingChild( const xmlError& in_error ) {
     return in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_NOELEM &&
            *fromXml( toXml( in_error.str1 ) ) == '\0';
+}
+
+/// Whether more is said by the error about the content of an element that follows: an interleave gives up at the first
+/// child that it doesn't expect, and misses those behind it.
+bool isInInterleave( const xmlError& in_error ) {
+    return in_error.domain == XML_FROM_RELAXNGV &&
+           ( in_error.code == XML_RELAXNG_ERR_INTERSEQ || in_error.code == XML_RELAXNG_ERR_INTEREXTRA ||
+             ( in_error.code == XML_RELAXNG_ERR_NOELEM && !isAboutMissingChild( in_error ) ) );
 }
 
 /// The name of the element that an error about attributes is about.
@@ -78,12 +84,40 @@ xmlNode* getElement( const xmlError& in_error ) {
     return pNode;
 }
 
+/// The child at which an interleave gave up: of an element whose content fails, libxml2 tells the name and hands over
+/// that child, or the element where there is none. Null when the error isn't about that.
+xmlNode* getUnexpectedChild( const xmlError& in_error ) {
+    xmlNode* const pElement = isAboutContent( in_error ) ? getElement( in_error ) : nullptr;
+    return pElement && in_error.str1 && std::strcmp( fromXml( pElement->name ), in_error.str1 ) != 0 ? pElement
+                                                                                                     : nullptr;
+}
+
 /// The element that may miss a child, at the end of its children or in front of one that is not expected.
 xmlNode* getParentOfMissing( const xmlError& in_error ) {
     xmlNode* const pElement = getElement( in_error );
-    if ( pElement && in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_ELEMWRONG )
+    if ( getUnexpectedChild( in_error ) ||
+         ( pElement && in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_ELEMWRONG ) )
         return pElement->parent;
-    return isAboutMissingChild( in_error ) ? pElement : nullptr;
+    return isAboutMissingChild( in_error ) || isAboutContent( in_error ) ? pElement : nullptr;
+}
+
+bool isText( const xmlNode* in_pNode ) {
+    return ( in_pNode->type == XML_TEXT_NODE || in_pNode->type == XML_CDATA_SECTION_NODE ) &&
+           xmlIsBlankNode( in_pNode ) == 0;
+}
+
+/// libxml2's message; of an interleave, in the words that libxml2 has for other content.
+std::string getMessage( const xmlError& in_error ) {
+    if ( isAboutMissingChild( in_error ) )
+        return "Expecting an element, got nothing"; // libxml2 leaves a hole where it has no name
+    if ( const xmlNode* const pChild = getUnexpectedChild( in_error ) )
+        return std::string( "Did not expect element " ) + fromXml( pChild->name ) + " there";
+    const xmlNode* const pElement = isAboutContent( in_error ) ? getElement( in_error ) : nullptr;
+    for ( const xmlNode* pChild = pElement ? pElement->children : nullptr; pChild; pChild = pChild->next ) {
+        if ( isText( pChild ) )
+            return std::string( "Did not expect text in element " ) + fromXml( pElement->name ) + " content";
+    }
+    return toOneLine( in_error.message );
 }
 
 bool contains( const std::vector<xmlNode*>& in_vecElements, const xmlNode* in_pElement ) {
@@ -121,11 +155,9 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
             finding.strFile = szFile;
     }
     const bool bLast = ++inout_uErrors > MAX_ERRORS;
-    // libxml2 leaves a hole where it has no name.
-    const char* const szMessage =
-        isAboutMissingChild( in_error ) ? "Expecting an element, got nothing" : in_error.message;
-    reportMessage( in_logger, bLast ? Logger::ERROR_LEVEL : in_nLevel,
-                   bLast ? "Too many errors, this one and the rest are not listed" : szMessage, std::move( finding ) );
+    finding.nLevel = bLast ? Logger::ERROR_LEVEL : in_nLevel;
+    finding.strMessage = bLast ? "Too many errors, this one and the rest are not listed" : getMessage( in_error );
+    reportInFile( in_logger, std::move( finding ) );
 }
 
 LibXml2ErrorRoute::LibXml2ErrorRoute( const Logger& in_logger, std::string in_strFile )
@@ -148,6 +180,8 @@ void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, XmlErrorPtr in_pErro
     auto& route = *static_cast<LibXml2ErrorRoute*>( in_pRoute );
     route.m_bOutOfMemory = route.m_bOutOfMemory || in_pError->code == XML_ERR_NO_MEMORY;
     try {
+        if ( isInInterleave( *in_pError ) )
+            return;
         if ( in_pError->node || !isAboutAttributes( *in_pError ) )
             route.report( *in_pError );
         else if ( unsigned int& uTimes = route.m_mapUnplaced[fromXml( toXml( getElementName( *in_pError ) ) )];
@@ -180,6 +214,8 @@ void LibXml2ErrorRoute::report( const xmlError& in_error ) {
     appendElement( m_vecWrongChildren, getParentOfMissing( in_error ) );
     if ( isAboutAttributes( in_error ) )
         appendElement( m_vecWrongAttributes, getElement( in_error ) );
+    // An optional child with wrong attributes is one that an interleave doesn't expect.
+    appendElement( m_vecWrongAttributes, getUnexpectedChild( in_error ) );
 }
 
 } // namespace Velquin::Pstn

@@ -185,13 +185,15 @@ std::string SchemaAdvisor::getHint( const Rule& in_rule, const char* in_szValue 
     const auto& vecValues = in_rule.vecValues;
     if ( in_rule.bAnyValue || std::find( vecValues.begin(), vecValues.end(), in_szValue ) != vecValues.end() )
         return {};
-    std::string strHint = describe( vecValues );
+    std::string strHint; // of the first type, which is the one to name
     for ( const xmlNode* const pData : in_rule.vecData ) {
-        strHint = getHintOfData( pData, in_szValue );
+        const std::string strHintOfData = getHintOfData( pData, in_szValue );
+        if ( strHintOfData.empty() )
+            return {};
         if ( strHint.empty() )
-            break;
+            strHint = strHintOfData;
     }
-    return strHint;
+    return strHint.empty() ? describe( vecValues ) : strHint;
 }
 
 /// What the content of a pattern requires of the children of the element and doesn't find, by their names.
@@ -214,13 +216,23 @@ std::vector<std::string> SchemaAdvisor::findMissing( const xmlNode* in_pPattern,
         return { strName };
     }
     if ( isPattern( in_pPattern, "choice" ) ) {
-        std::string strAlternatives;
+        // Those alternatives count that miss least. Several orders of the same elements are one.
+        std::vector<std::vector<std::string>> vecLeast;
         for ( const xmlNode* const pAlternative : ChildElements( in_pPattern ) ) {
-            const std::vector<std::string> vecMissing = findMissing( pAlternative, in_pElement );
+            std::vector<std::string> vecMissing = findMissing( pAlternative, in_pElement );
             if ( vecMissing.empty() )
                 return {};
-            strAlternatives.append( strAlternatives.empty() ? "" : " or " ).append( vecMissing.front() );
+            std::sort( vecMissing.begin(), vecMissing.end() );
+            if ( !vecLeast.empty() && vecMissing.size() < vecLeast.front().size() )
+                vecLeast.clear();
+            if ( vecLeast.empty() || vecMissing.size() == vecLeast.front().size() )
+                merge( vecLeast, { vecMissing } );
         }
+        if ( vecLeast.size() == 1 )
+            return vecLeast.front();
+        std::string strAlternatives;
+        for ( const std::vector<std::string>& vecMissing : vecLeast )
+            strAlternatives.append( strAlternatives.empty() ? "" : " or " ).append( vecMissing.front() );
         return { strAlternatives };
     }
     if ( !isPattern( in_pPattern, "ref" ) )
