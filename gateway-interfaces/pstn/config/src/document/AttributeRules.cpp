@@ -1,0 +1,220 @@
+#include "document/AttributeRules.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <libxml/xmlregexp.h>
+#include <libxml/xmlschemastypes.h>
+
+#include "document/Element.h"
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+
+namespace Velquin::Pstn {
+
+namespace {
+
+constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
+
+std::string describe( const std::vector<std::string>& in_vecValues ) {
+    std::string strText = in_vecValues.size() == 1 ? "The only valid value is " : "Valid values are ";
+    for ( std::size_t u = 0; u < in_vecValues.size(); ++u ) {
+        if ( u > 0 )
+            strText += u + 1 == in_vecValues.size() ? " and " : ", ";
+        strText += in_vecValues[u];
+    }
+    strText += '.';
+    return strText;
+}
+
+struct RegexpDeleter {
+    void operator()( xmlRegexp* in_p ) const noexcept { xmlRegFreeRegexp( in_p ); }
+};
+
+bool matches( const char* in_szValue, const std::string& in_strPattern ) {
+    const std::unique_ptr<xmlRegexp, RegexpDeleter> pRegexp( xmlRegexpCompile( toXml( in_strPattern.c_str() ) ) );
+    return !pRegexp || xmlRegexpExec( pRegexp.get(), toXml( in_szValue ) ) != 0;
+}
+
+/// What a data type takes.
+std::string describeDataType( const std::string& in_strType ) {
+    if ( in_strType == "unsignedInt" || in_strType == "unsignedLong" )
+        return std::string( DECIMAL_HINT );
+    if ( in_strType == "int" )
+        return "The value must be a whole number from -2147483648 to 2147483647.";
+    if ( in_strType == "decimal" )
+        return "The value must be a real number.";
+    return "The value must be of type " + in_strType + '.';
+}
+
+/// What a `data` pattern wants other than the value; empty when it takes it, as far as type and pattern tell.
+std::string getHintOfData( const xmlNode* in_pData, const char* in_szValue ) {
+    const std::string strType = getPatternAttribute( in_pData, "type" );
+    xmlSchemaType* const pType =
+        xmlSchemaGetPredefinedType( toXml( strType.c_str() ), toXml( "http://www.w3.org/2001/XMLSchema" ) );
+    if ( xmlSchemaValidatePredefinedType( pType, toXml( in_szValue ), nullptr ) > 0 )
+        return describeDataType( strType );
+    for ( const xmlNode* const pParameter : ChildElements( in_pData, "param" ) ) {
+        if ( getPatternAttribute( pParameter, "name" ) != "pattern" )
+            continue;
+        const std::string strPattern = fromXml( XmlStringPtr( xmlNodeGetContent( pParameter ) ).get() );
+        if ( !matches( in_szValue, strPattern ) )
+            return "The value must match " + strPattern;
+    }
+    return {};
+}
+
+} // namespace
+
+AttributeRules::AttributeRules( SchemaPatterns& in_patterns, const SchemaPatterns::Patterns& in_vecPatterns,
+                                const xmlNode* in_pElement )
+    : m_patterns( in_patterns ), m_pElement( in_pElement ) {
+    for ( const xmlNode* const pPattern : in_vecPatterns )
+        collectAttributes( pPattern, in_vecPatterns.size() == 1, m_rules );
+    // Half the rules would accuse attributes that are right.
+    m_bKnown = !m_patterns.isLost() && !in_vecPatterns.empty();
+}
+
+std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
+    std::vector<Fault> vecFaults;
+    if ( !m_bKnown )
+        return vecFaults;
+    for ( const auto& [strName, rule] : m_rules ) {
+        AttributeText text;
+        if ( !findAttribute( m_pElement, strName.c_str(), text ) ) {
+            if ( rule.bRequired )
+                vecFaults.push_back( { strName, {} } );
+        } else if ( std::string strHint = getHint( rule, text.c_str() ); !strHint.empty() ) {
+            vecFaults.push_back( { strName, std::move( strHint ) } );
+        }
+    }
+    // A file of attributes only gets no line for each of them.
+    unsigned int uUnknown = 0;
+    for ( const xmlAttr* pAttribute = m_pElement->properties;
+          pAttribute && uUnknown < MAX_UNKNOWN_ATTRIBUTES; pAttribute = pAttribute->next ) {
+        const char* const szName = fromXml( pAttribute->name );
+        if ( pAttribute->ns || m_rules.contains( szName ) )
+            continue;
+        vecFaults.push_back( { szName, "The element has no such attribute." } );
+        ++uUnknown;
+    }
+    return vecFaults;
+}
+
+/// What the rule wants other than the value; empty when it takes it.
+std::string AttributeRules::getHint( const Rule& in_rule, const char* in_szValue ) {
+    const auto& vecValues = in_rule.vecValues;
+    if ( in_rule.bAnyValue || std::find( vecValues.begin(), vecValues.end(), in_szValue ) != vecValues.end() )
+        return {};
+    std::string strHint; // of the first type, which is the one to name
+    for ( const xmlNode* const pData : in_rule.vecData ) {
+        const std::string strHintOfData = getHintOfData( pData, in_szValue );
+        if ( strHintOfData.empty() )
+            return {};
+        if ( strHint.empty() )
+            strHint = strHintOfData;
+    }
+    return strHint.empty() ? describe( vecValues ) : strHint;
+}
+
+/// The attributes directly in the content of a pattern.
+void AttributeRules::collectAttributes( const xmlNode* in_pPattern, bool in_bRequired,
+                                       Rules& out_rules ) {
+    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
+        collectFrom( pChild, in_bRequired, out_rules );
+}
+
+/// The attributes that a pattern contributes to the element in whose content it stands.
+void AttributeRules::collectFrom( const xmlNode* in_pPattern, bool in_bRequired,
+                                 Rules& out_rules ) {
+    const SchemaPatterns::Step step( m_patterns );
+    if ( m_patterns.isLost() )
+        return;
+    if ( isPattern( in_pPattern, "attribute" ) ) {
+        Rule& rule = out_rules[getPatternAttribute( in_pPattern, "name" )];
+        rule.bRequired = rule.bRequired || in_bRequired;
+        collectValues( in_pPattern, rule );
+        rule.bAnyValue = rule.bAnyValue || ( rule.vecValues.empty() && rule.vecData.empty() );
+    } else if ( isPattern( in_pPattern, "ref" ) ) {
+        for ( const xmlNode* const pDefinition : m_patterns.getDefinitions( in_pPattern ) )
+            collectAttributes( pDefinition, in_bRequired, out_rules );
+    } else if ( isPattern( in_pPattern, "choice" ) ) {
+        collectChoice( in_pPattern, in_bRequired, out_rules );
+    } else if ( !isPattern( in_pPattern, "element" ) ) {
+        const bool bOptional = isPattern( in_pPattern, "optional" ) || isPattern( in_pPattern, "zeroOrMore" );
+        collectAttributes( in_pPattern, in_bRequired && !bOptional, out_rules );
+    }
+}
+
+/// Whether the element has one of the rule's keywords, or has none and needs none.
+bool AttributeRules::agrees( const std::string& in_strAttribute,
+                            const Rule& in_rule ) const {
+    AttributeText text;
+    if ( !findAttribute( m_pElement, in_strAttribute.c_str(), text ) )
+        return !in_rule.bRequired;
+    return std::find( in_rule.vecValues.begin(), in_rule.vecValues.end(), text.view() ) != in_rule.vecValues.end();
+}
+
+/// Whether each has a rule of that kind for the attribute.
+bool AttributeRules::haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
+                             bool ( Rule::*in_has )() const noexcept ) {
+    return std::all_of( in_vecRules.begin(), in_vecRules.end(), [&]( const Rules& in_rules ) {
+        const auto it = in_rules.find( in_strAttribute );
+        return it != in_rules.end() && ( it->second.*in_has )();
+    } );
+}
+
+/// Of alternatives, those are meant with which the element agrees most, in the attributes that have keywords in each of
+/// them. What all that are meant require is required.
+void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired,
+                                   Rules& out_rules ) {
+    std::vector<Rules> vecAlternatives;
+    for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) )
+        collectFrom( pAlternative, true, vecAlternatives.emplace_back() );
+    std::vector<Rules> vecMeant;
+    std::ptrdiff_t nMost = 0;
+    for ( const Rules& rules : vecAlternatives ) {
+        const auto nAgreeing = std::count_if( rules.begin(), rules.end(), [&]( const auto& in_entry ) {
+            return haveAll( vecAlternatives, in_entry.first, &Rule::hasKeywordsOnly ) &&
+                   agrees( in_entry.first, in_entry.second );
+        } );
+        if ( nAgreeing > nMost )
+            vecMeant.clear();
+        if ( nAgreeing >= nMost )
+            vecMeant.push_back( rules );
+        nMost = std::max( nMost, nAgreeing );
+    }
+    for ( const Rules& rules : vecMeant ) {
+        for ( const auto& [strName, rule] : rules ) {
+            Rule& merged = out_rules[strName];
+            merged.bRequired = merged.bRequired || ( in_bRequired && haveAll( vecMeant, strName, &Rule::isRequired ) );
+            merged.bAnyValue = merged.bAnyValue || rule.bAnyValue;
+            merge( merged.vecValues, rule.vecValues );
+            merge( merged.vecData, rule.vecData );
+        }
+    }
+}
+
+/// The values that an attribute takes.
+void AttributeRules::collectValues( const xmlNode* in_pPattern, Rule& out_rule ) {
+    const SchemaPatterns::Step step( m_patterns );
+    if ( m_patterns.isLost() )
+        return;
+    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
+        if ( isPattern( pChild, "value" ) ) {
+            const XmlStringPtr pValue( xmlNodeGetContent( pChild ) );
+            merge( out_rule.vecValues, { fromXml( pValue.get() ) } );
+        } else if ( isPattern( pChild, "ref" ) ) {
+            for ( const xmlNode* const pDefinition : m_patterns.getDefinitions( pChild ) )
+                collectValues( pDefinition, out_rule );
+        } else if ( isPattern( pChild, "data" ) ) {
+            merge( out_rule.vecData, { pChild } );
+        } else if ( isPattern( pChild, "text" ) ) {
+            out_rule.bAnyValue = true;
+        } else {
+            collectValues( pChild, out_rule );
+        }
+    }
+}
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "document/SchemaPatterns.h"
+
+namespace Velquin::Pstn {
+
+/// What a schema says of the attributes of one element.
+class AttributeRules {
+public:
+    /// An attribute that is missing, or has a value that the hint replaces.
+    struct Fault {
+        std::string strAttribute;
+        std::string strHint; ///< empty when it is missing
+    };
+
+    /// @param in_vecPatterns the element's
+    AttributeRules( SchemaPatterns& in_patterns, const SchemaPatterns::Patterns& in_vecPatterns,
+                    const xmlNode* in_pElement );
+
+    /// What is wrong with the attributes of the element; nothing where the schema can't be followed.
+    std::vector<Fault> findFaults() const;
+
+private:
+    /// What the schema says of one attribute.
+    struct Rule {
+        bool bRequired = false;
+        bool bAnyValue = false;
+        std::vector<std::string> vecValues;
+        SchemaPatterns::Patterns vecData; ///< `data` patterns: what takes a value that is not listed
+
+        bool isRequired() const noexcept { return bRequired; }
+        bool hasKeywordsOnly() const noexcept { return !bAnyValue && vecData.empty(); }
+    };
+    using Rules = std::map<std::string, Rule, std::less<>>;
+
+    static bool haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
+                         bool ( Rule::*in_has )() const noexcept );
+    static std::string getHint( const Rule& in_rule, const char* in_szValue );
+    bool agrees( const std::string& in_strAttribute, const Rule& in_rule ) const;
+    void collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules );
+    void collectFrom( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules );
+    void collectChoice( const xmlNode* in_pChoice, bool in_bRequired, Rules& out_rules );
+    void collectValues( const xmlNode* in_pPattern, Rule& out_rule );
+
+    SchemaPatterns& m_patterns;
+    const xmlNode* m_pElement;
+    Rules m_rules;
+    bool m_bKnown = false;
+};
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,148 @@
+#include "document/SchemaPatterns.h"
+
+#include <algorithm>
+
+#include <velquin/XML.h>
+
+#include "document/Element.h"
+#include "reading/ChildElements.h"
+
+namespace Velquin::Pstn {
+
+namespace {
+
+// Far beyond what describes one element, and soon reached by a schema that never ends.
+constexpr unsigned int MAX_STEPS = 20'000;
+constexpr unsigned int MAX_DEPTH = 500;
+
+} // namespace
+
+std::string getPatternAttribute( const xmlNode* in_pPattern, const char* in_szName ) {
+    AttributeText text;
+    static_cast<void>( findAttribute( in_pPattern, in_szName, text ) );
+    return text.c_str();
+}
+
+bool isPattern( const xmlNode* in_pNode, std::string_view in_strName ) {
+    return in_strName == getElementName( in_pNode );
+}
+
+SchemaPatterns::SchemaPatterns( const xmlDoc* in_pSchema ) {
+    for ( const xmlNode* const pChild : ChildElements( xmlDocGetRootElement( in_pSchema ) ) ) {
+        if ( isPattern( pChild, "define" ) )
+            m_mapDefinitions[getPatternAttribute( pChild, "name" )].push_back( pChild );
+        else if ( isPattern( pChild, "start" ) )
+            m_mapDefinitions[""].push_back( pChild );
+    }
+}
+
+SchemaPatterns::Step::Step( SchemaPatterns& in_patterns ) : m_patterns( in_patterns ) {
+    m_patterns.m_bLost = m_patterns.m_bLost || ++m_patterns.m_uSteps > MAX_STEPS || m_patterns.m_uDepth >= MAX_DEPTH;
+    ++m_patterns.m_uDepth;
+}
+
+std::vector<std::string> SchemaPatterns::findMissingChildren( const xmlNode* in_pElement ) {
+    beginElement();
+    std::vector<std::string> vecMissing;
+    for ( const xmlNode* const pPattern : find( in_pElement ) ) {
+        vecMissing = findMissingAmong( pPattern, in_pElement );
+        if ( vecMissing.empty() )
+            break;
+    }
+    return vecMissing;
+}
+
+/// What the content of a pattern requires of the children of the element and doesn't find, by their names.
+std::vector<std::string> SchemaPatterns::findMissingAmong( const xmlNode* in_pPattern, const xmlNode* in_pElement ) {
+    std::vector<std::string> vecMissing;
+    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
+        merge( vecMissing, findMissing( pChild, in_pElement ) );
+    return vecMissing;
+}
+
+/// What a pattern requires of the children of the element in whose content it stands, alternatives as one text.
+std::vector<std::string> SchemaPatterns::findMissing( const xmlNode* in_pPattern, const xmlNode* in_pElement ) {
+    const Step step( *this );
+    if ( m_bLost || isPattern( in_pPattern, "optional" ) || isPattern( in_pPattern, "zeroOrMore" ) )
+        return {};
+    if ( isPattern( in_pPattern, "element" ) ) {
+        const std::string strName = getPatternAttribute( in_pPattern, "name" );
+        if ( strName.empty() || XML::findFirstElement( in_pElement, strName.c_str() ) )
+            return {};
+        return { strName };
+    }
+    if ( isPattern( in_pPattern, "choice" ) ) {
+        // Those alternatives count that miss least. Several orders of the same elements are one.
+        std::vector<std::vector<std::string>> vecLeast;
+        for ( const xmlNode* const pAlternative : ChildElements( in_pPattern ) ) {
+            std::vector<std::string> vecMissing = findMissing( pAlternative, in_pElement );
+            if ( vecMissing.empty() )
+                return {};
+            std::sort( vecMissing.begin(), vecMissing.end() );
+            if ( !vecLeast.empty() && vecMissing.size() < vecLeast.front().size() )
+                vecLeast.clear();
+            if ( vecLeast.empty() || vecMissing.size() == vecLeast.front().size() )
+                merge( vecLeast, { vecMissing } );
+        }
+        if ( vecLeast.size() == 1 )
+            return vecLeast.front();
+        std::string strAlternatives;
+        for ( const std::vector<std::string>& vecMissing : vecLeast )
+            strAlternatives.append( strAlternatives.empty() ? "" : " or " ).append( vecMissing.front() );
+        return { strAlternatives };
+    }
+    if ( !isPattern( in_pPattern, "ref" ) )
+        return findMissingAmong( in_pPattern, in_pElement );
+    std::vector<std::string> vecMissing;
+    for ( const xmlNode* const pDefinition : getDefinitions( in_pPattern ) )
+        merge( vecMissing, findMissingAmong( pDefinition, in_pElement ) );
+    return vecMissing;
+}
+
+/// The patterns of the element, found from the root down.
+const SchemaPatterns::Patterns& SchemaPatterns::find( const xmlNode* in_pElement ) {
+    const xmlNode* const pParent = in_pElement->parent;
+    return find( pParent->type == XML_ELEMENT_NODE ? find( pParent ) : getDefinitions( nullptr ),
+                         in_pElement );
+}
+
+/// The patterns of the element, which its parent's hold.
+const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecParents,
+                                                            const xmlNode* in_pElement ) {
+    const char* const szName = getElementName( in_pElement );
+    const auto [it, bNew] = m_mapPatterns.try_emplace( { in_vecParents, szName } );
+    if ( bNew ) {
+        std::set<const xmlNode*> setSeen;
+        for ( const xmlNode* const pParent : in_vecParents )
+            collectElements( pParent, szName, setSeen, it->second );
+    }
+    return it->second;
+}
+
+/// The `element` patterns of that name directly in the content of a pattern.
+void SchemaPatterns::collectElements( const xmlNode* in_pPattern, std::string_view in_strName,
+                                     std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns ) {
+    const Step step( *this );
+    if ( m_bLost || !inout_setSeen.insert( in_pPattern ).second )
+        return;
+    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
+        if ( isPattern( pChild, "element" ) ) {
+            if ( getPatternAttribute( pChild, "name" ) == in_strName )
+                out_vecPatterns.push_back( pChild );
+        } else if ( isPattern( pChild, "ref" ) ) {
+            for ( const xmlNode* const pDefinition : getDefinitions( pChild ) )
+                collectElements( pDefinition, in_strName, inout_setSeen, out_vecPatterns );
+        } else {
+            collectElements( pChild, in_strName, inout_setSeen, out_vecPatterns );
+        }
+    }
+}
+
+/// What a reference refers to; the start of the grammar for none.
+const SchemaPatterns::Patterns& SchemaPatterns::getDefinitions( const xmlNode* in_pRef ) const {
+    static const Patterns s_vecNone;
+    const auto it = m_mapDefinitions.find( in_pRef ? getPatternAttribute( in_pRef, "name" ) : "" );
+    return it == m_mapDefinitions.end() ? s_vecNone : it->second;
+}
+
+} // namespace Velquin::Pstn
