@@ -1,7 +1,7 @@
+#include "EndOfMemory.h"
 #include "LogCapture.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -86,29 +86,7 @@ TEST( MemAccount, TheListMergesNamesAndForgetsWhatIsGone ) {
 } // namespace
 } // namespace Velquin::Test
 
-#if defined( __has_feature )
-#if __has_feature( thread_sanitizer )
-#define MEMORY_IS_THE_SANITIZERS // whose operator new can't be replaced
-#endif
-#endif
 #ifndef MEMORY_IS_THE_SANITIZERS
-
-static thread_local bool t_bMemoryEnded = false;
-
-void* operator new( std::size_t in_uBytes, const std::nothrow_t& ) noexcept {
-    return t_bMemoryEnded ? nullptr : std::malloc( in_uBytes ? in_uBytes : 1 );
-}
-void* operator new( std::size_t in_uBytes ) {
-    if ( void* const pBlock = operator new( in_uBytes, std::nothrow ) )
-        return pBlock;
-    throw std::bad_alloc();
-}
-void operator delete( void* in_pBlock ) noexcept {
-    std::free( in_pBlock );
-}
-void operator delete( void* in_pBlock, std::size_t ) noexcept {
-    std::free( in_pBlock );
-}
 
 namespace Velquin::Test {
 namespace {
