@@ -90,8 +90,8 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
     }
     // A file of attributes only gets no line for each of them.
     unsigned int uUnknown = 0;
-    for ( const xmlAttr* pAttribute = m_pElement->properties;
-          pAttribute && uUnknown < MAX_UNKNOWN_ATTRIBUTES; pAttribute = pAttribute->next ) {
+    for ( const xmlAttr* pAttribute = m_pElement->properties; pAttribute && uUnknown < MAX_UNKNOWN_ATTRIBUTES;
+          pAttribute = pAttribute->next ) {
         const char* const szName = fromXml( pAttribute->name );
         if ( pAttribute->ns || m_rules.contains( szName ) )
             continue;
@@ -118,15 +118,13 @@ std::string AttributeRules::getHint( const Rule& in_rule, const char* in_szValue
 }
 
 /// The attributes directly in the content of a pattern.
-void AttributeRules::collectAttributes( const xmlNode* in_pPattern, bool in_bRequired,
-                                       Rules& out_rules ) {
+void AttributeRules::collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules ) {
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
         collectFrom( pChild, in_bRequired, out_rules );
 }
 
 /// The attributes that a pattern contributes to the element in whose content it stands.
-void AttributeRules::collectFrom( const xmlNode* in_pPattern, bool in_bRequired,
-                                 Rules& out_rules ) {
+void AttributeRules::collectFrom( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules ) {
     const SchemaPatterns::Step step( m_patterns );
     if ( m_patterns.isLost() )
         return;
@@ -147,8 +145,7 @@ void AttributeRules::collectFrom( const xmlNode* in_pPattern, bool in_bRequired,
 }
 
 /// Whether the element has one of the rule's keywords, or has none and needs none.
-bool AttributeRules::agrees( const std::string& in_strAttribute,
-                            const Rule& in_rule ) const {
+bool AttributeRules::agrees( const std::string& in_strAttribute, const Rule& in_rule ) const {
     AttributeText text;
     if ( !findAttribute( m_pElement, in_strAttribute.c_str(), text ) )
         return !in_rule.bRequired;
@@ -157,7 +154,7 @@ bool AttributeRules::agrees( const std::string& in_strAttribute,
 
 /// Whether each has a rule of that kind for the attribute.
 bool AttributeRules::haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
-                             bool ( Rule::*in_has )() const noexcept ) {
+                              bool ( Rule::*in_has )() const noexcept ) {
     return std::all_of( in_vecRules.begin(), in_vecRules.end(), [&]( const Rules& in_rules ) {
         const auto it = in_rules.find( in_strAttribute );
         return it != in_rules.end() && ( it->second.*in_has )();
@@ -166,8 +163,7 @@ bool AttributeRules::haveAll( const std::vector<Rules>& in_vecRules, const std::
 
 /// Of alternatives, those are meant with which the element agrees most, in the attributes that have keywords in each of
 /// them. What all that are meant require is required.
-void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired,
-                                   Rules& out_rules ) {
+void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired, Rules& out_rules ) {
     std::vector<Rules> vecAlternatives;
     for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) )
         collectFrom( pAlternative, true, vecAlternatives.emplace_back() );

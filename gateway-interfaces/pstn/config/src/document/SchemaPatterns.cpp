@@ -102,13 +102,11 @@ std::vector<std::string> SchemaPatterns::findMissing( const xmlNode* in_pPattern
 /// The patterns of the element, found from the root down.
 const SchemaPatterns::Patterns& SchemaPatterns::find( const xmlNode* in_pElement ) {
     const xmlNode* const pParent = in_pElement->parent;
-    return find( pParent->type == XML_ELEMENT_NODE ? find( pParent ) : getDefinitions( nullptr ),
-                         in_pElement );
+    return find( pParent->type == XML_ELEMENT_NODE ? find( pParent ) : getDefinitions( nullptr ), in_pElement );
 }
 
 /// The patterns of the element, which its parent's hold.
-const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecParents,
-                                                            const xmlNode* in_pElement ) {
+const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecParents, const xmlNode* in_pElement ) {
     const char* const szName = getElementName( in_pElement );
     const auto [it, bNew] = m_mapPatterns.try_emplace( { in_vecParents, szName } );
     if ( bNew ) {
@@ -121,7 +119,7 @@ const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecPare
 
 /// The `element` patterns of that name directly in the content of a pattern.
 void SchemaPatterns::collectElements( const xmlNode* in_pPattern, std::string_view in_strName,
-                                     std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns ) {
+                                      std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns ) {
     const Step step( *this );
     if ( m_bLost || !inout_setSeen.insert( in_pPattern ).second )
         return;
