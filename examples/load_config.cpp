@@ -5,7 +5,7 @@
 #include <log4cplus/configurator.h>
 #include <log4cplus/initializer.h>
 
-#include "loading/XmlConfig.h"
+#include <velquin/pstn/PstnConfig.h>
 
 using namespace Velquin;
 using namespace Velquin::Pstn;

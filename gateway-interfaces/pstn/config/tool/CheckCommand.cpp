@@ -5,11 +5,11 @@
 #include <utility>
 
 #include <velquin/GlobalConfig.h>
+#include <velquin/pstn/loading/PSTNConfigParamDefs.h>
+#include <velquin/pstn/loading/XmlConfig.h>
 
 #include "FindingPrinter.h"
 #include "ToolLog.h"
-#include "loading/PSTNConfigParamDefs.h"
-#include "loading/XmlConfig.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <velquin/Object.h>
 #include <velquin/TSHandle.h>
 
-#include "analog/AnalogCallControlCommonConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "AnalogCallControlCommonConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -2,11 +2,11 @@
 
 #include <velquin/Object.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
-#include "analog/AnalogFxoConfig.h"
-#include "analog/AnalogFxsConfig.h"
-#include "callcontrol/NumberedConfigs.h"
+#include "../PstnConfigClass.h"
+#include "../PstnConfigExport.h"
+#include "../callcontrol/NumberedConfigs.h"
+#include "AnalogFxoConfig.h"
+#include "AnalogFxsConfig.h"
 
 namespace Velquin::Pstn {
 

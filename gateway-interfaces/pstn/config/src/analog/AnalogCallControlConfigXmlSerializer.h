@@ -3,8 +3,8 @@
 #include <velquin/Object.h>
 #include <velquin/TSHandle.h>
 
-#include "analog/AnalogCallControlConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "AnalogCallControlConfig.h"
 
 namespace Velquin::Pstn {
 

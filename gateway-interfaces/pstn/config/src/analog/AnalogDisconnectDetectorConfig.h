@@ -6,8 +6,8 @@
 
 #include <velquin/Object.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
+#include "../PstnConfigClass.h"
+#include "../PstnConfigExport.h"
 
 namespace Velquin::Pstn {
 

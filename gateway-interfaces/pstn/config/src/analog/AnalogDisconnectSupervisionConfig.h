@@ -6,9 +6,9 @@
 #include <velquin/Object.h>
 #include <velquin/TSHandle.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
-#include "analog/AnalogDisconnectDetectorConfig.h"
+#include "../PstnConfigClass.h"
+#include "../PstnConfigExport.h"
+#include "AnalogDisconnectDetectorConfig.h"
 
 namespace Velquin::Pstn {
 

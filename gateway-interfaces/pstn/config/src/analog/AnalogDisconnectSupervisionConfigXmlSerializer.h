@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "analog/AnalogDisconnectSupervisionConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "AnalogDisconnectSupervisionConfig.h"
 
 namespace Velquin::Pstn {
 

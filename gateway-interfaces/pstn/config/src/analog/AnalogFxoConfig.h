@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "analog/AnalogDisconnectSupervisionConfig.h"
-#include "analog/AppliedAnalogCallControlConfig.h"
-#include "reading/KeywordTable.h"
+#include "../reading/KeywordTable.h"
+#include "AnalogDisconnectSupervisionConfig.h"
+#include "AppliedAnalogCallControlConfig.h"
 
 namespace Velquin::Pstn {
 

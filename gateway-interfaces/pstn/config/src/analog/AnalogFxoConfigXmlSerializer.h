@@ -2,8 +2,8 @@
 
 #include <velquin/LimitedObjPtr.h>
 
-#include "analog/AnalogCallControlCommonConfigXmlSerializer.h"
-#include "analog/AnalogFxoConfig.h"
+#include "AnalogCallControlCommonConfigXmlSerializer.h"
+#include "AnalogFxoConfig.h"
 
 namespace Velquin::Pstn {
 

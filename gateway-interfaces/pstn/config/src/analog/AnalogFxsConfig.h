@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "analog/AppliedAnalogCallControlConfig.h"
-#include "reading/KeywordTable.h"
+#include "../reading/KeywordTable.h"
+#include "AppliedAnalogCallControlConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/LimitedObjPtr.h>
 
-#include "analog/AnalogCallControlCommonConfigXmlSerializer.h"
-#include "analog/AnalogFxsConfig.h"
+#include "AnalogCallControlCommonConfigXmlSerializer.h"
+#include "AnalogFxsConfig.h"
 
 namespace Velquin::Pstn {
 

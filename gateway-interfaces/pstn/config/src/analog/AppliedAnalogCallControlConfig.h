@@ -4,8 +4,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "analog/AnalogCallControlCommonConfig.h"
-#include "hardware/AnalogInterfaceConfig.h"
+#include "../hardware/AnalogInterfaceConfig.h"
+#include "AnalogCallControlCommonConfig.h"
 
 namespace Velquin::Pstn {
 

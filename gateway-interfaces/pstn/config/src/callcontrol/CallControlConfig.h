@@ -5,9 +5,9 @@
 
 #include <velquin/TSHandle.h>
 
-#include "analog/AnalogCallControlConfig.h"
-#include "callcontrol/ChannelGroupConfig.h"
-#include "callcontrol/isdn/IsdnConfig.h"
+#include "../analog/AnalogCallControlConfig.h"
+#include "ChannelGroupConfig.h"
+#include "isdn/IsdnConfig.h"
 
 namespace Velquin::Pstn {
 

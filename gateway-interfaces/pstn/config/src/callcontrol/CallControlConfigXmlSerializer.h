@@ -2,8 +2,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "callcontrol/CallControlConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "CallControlConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -5,8 +5,8 @@
 
 #include <velquin/PSTNChannel.h>
 
-#include "callcontrol/LessThanComparatorForBChannelRangeConfig.h"
-#include "reading/KeywordTable.h"
+#include "../reading/KeywordTable.h"
+#include "LessThanComparatorForBChannelRangeConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "callcontrol/ChannelGroupConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "ChannelGroupConfig.h"
 
 namespace Velquin::Pstn {
 

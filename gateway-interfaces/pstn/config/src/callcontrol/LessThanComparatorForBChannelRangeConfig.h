@@ -2,8 +2,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "PstnConfigExport.h"
-#include "callcontrol/BChannelRangeConfig.h"
+#include "../PstnConfigExport.h"
+#include "BChannelRangeConfig.h"
 
 namespace Velquin::Pstn {
 

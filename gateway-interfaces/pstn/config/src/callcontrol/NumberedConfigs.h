@@ -6,7 +6,7 @@
 #include <velquin/Finding.h>
 #include <velquin/TSHandle.h>
 
-#include "AppendUnique.h"
+#include "../AppendUnique.h"
 
 namespace Velquin::Pstn {
 

@@ -4,9 +4,9 @@
 
 #include <velquin/TSHandle.h>
 
-#include "hardware/AnalogInterfaceConfig.h"
-#include "hardware/BoardConfig.h"
-#include "hardware/InterfaceMap.h"
+#include "AnalogInterfaceConfig.h"
+#include "BoardConfig.h"
+#include "InterfaceMap.h"
 
 namespace Velquin::Pstn {
 

@@ -4,9 +4,9 @@
 
 #include <velquin/TSHandle.h>
 
-#include "hardware/InterfaceConfig.h"
-#include "physical/AnalogInterfacePhysicalConfig.h"
-#include "reading/KeywordTable.h"
+#include "../physical/AnalogInterfacePhysicalConfig.h"
+#include "../reading/KeywordTable.h"
+#include "InterfaceConfig.h"
 
 namespace Velquin::Pstn {
 

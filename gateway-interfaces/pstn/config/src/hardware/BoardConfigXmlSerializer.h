@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "hardware/BoardConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "BoardConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -7,10 +7,10 @@
 
 #include <velquin/TSHandle.h>
 
-#include "callcontrol/CallControlConfig.h"
-#include "hardware/AnalogBoardConfig.h"
-#include "hardware/DigitalBoardConfig.h"
-#include "hardware/ProviderConfig.h"
+#include "../callcontrol/CallControlConfig.h"
+#include "AnalogBoardConfig.h"
+#include "DigitalBoardConfig.h"
+#include "ProviderConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -4,9 +4,9 @@
 
 #include <velquin/TSHandle.h>
 
-#include "hardware/BoardConfig.h"
-#include "hardware/DigitalInterfaceConfig.h"
-#include "hardware/InterfaceMap.h"
+#include "BoardConfig.h"
+#include "DigitalInterfaceConfig.h"
+#include "InterfaceMap.h"
 
 namespace Velquin::Pstn {
 

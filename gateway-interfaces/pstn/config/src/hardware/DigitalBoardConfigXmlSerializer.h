@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/BoardConfigXmlSerializer.h"
+#include "BoardConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

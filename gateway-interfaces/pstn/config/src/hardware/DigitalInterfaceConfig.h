@@ -2,8 +2,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "hardware/InterfaceConfig.h"
-#include "physical/DigitalInterfacePhysicalConfig.h"
+#include "../physical/DigitalInterfacePhysicalConfig.h"
+#include "InterfaceConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/InterfaceConfigXmlSerializer.h"
+#include "InterfaceConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -5,8 +5,8 @@
 #include <velquin/LimitedObjPtr.h>
 #include <velquin/Object.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
+#include "../PstnConfigClass.h"
+#include "../PstnConfigExport.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "hardware/InterfaceConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "InterfaceConfig.h"
 
 namespace Velquin::Pstn {
 

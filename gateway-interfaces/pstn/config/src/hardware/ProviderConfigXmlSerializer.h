@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "hardware/ProviderConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "ProviderConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/AnalogBoardConfig.h"
+#include "AnalogBoardConfig.h"
 
 namespace Velquin::Pstn {
 

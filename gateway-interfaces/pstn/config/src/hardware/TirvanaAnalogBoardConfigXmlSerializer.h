@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hardware/AnalogBoardConfigXmlSerializer.h"
-#include "hardware/TirvanaAnalogInterfaceConfigXmlSerializer.h"
+#include "AnalogBoardConfigXmlSerializer.h"
+#include "TirvanaAnalogInterfaceConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

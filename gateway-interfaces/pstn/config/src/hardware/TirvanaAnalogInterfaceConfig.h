@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/AnalogInterfaceConfig.h"
+#include "AnalogInterfaceConfig.h"
 
 namespace Velquin::Pstn {
 

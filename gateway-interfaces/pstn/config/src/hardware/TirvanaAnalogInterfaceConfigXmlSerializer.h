@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/AnalogInterfaceConfigXmlSerializer.h"
+#include "AnalogInterfaceConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

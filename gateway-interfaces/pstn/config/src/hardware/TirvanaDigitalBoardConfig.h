@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hardware/DigitalBoardConfig.h"
-#include "hardware/TirvanaDigitalInterfaceConfig.h"
+#include "DigitalBoardConfig.h"
+#include "TirvanaDigitalInterfaceConfig.h"
 
 namespace Velquin::Pstn {
 

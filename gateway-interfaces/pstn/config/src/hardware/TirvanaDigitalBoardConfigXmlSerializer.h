@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hardware/DigitalBoardConfigXmlSerializer.h"
-#include "hardware/TirvanaDigitalInterfaceConfigXmlSerializer.h"
+#include "DigitalBoardConfigXmlSerializer.h"
+#include "TirvanaDigitalInterfaceConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/DigitalInterfaceConfig.h"
+#include "DigitalInterfaceConfig.h"
 
 namespace Velquin::Pstn {
 

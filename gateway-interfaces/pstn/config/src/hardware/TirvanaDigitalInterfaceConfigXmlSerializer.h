@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/DigitalInterfaceConfigXmlSerializer.h"
+#include "DigitalInterfaceConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

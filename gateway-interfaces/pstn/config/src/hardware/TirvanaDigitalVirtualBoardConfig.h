@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/DigitalBoardConfig.h"
+#include "DigitalBoardConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hardware/DigitalBoardConfigXmlSerializer.h"
-#include "hardware/TirvanaDigitalVirtualInterfaceConfigXmlSerializer.h"
+#include "DigitalBoardConfigXmlSerializer.h"
+#include "TirvanaDigitalVirtualInterfaceConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

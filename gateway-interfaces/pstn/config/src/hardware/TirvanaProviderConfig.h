@@ -1,7 +1,7 @@
 #pragma once
 
-#include "hardware/ProviderConfig.h"
-#include "hardware/TirvanaThreadGroupConfig.h"
+#include "ProviderConfig.h"
+#include "TirvanaThreadGroupConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "hardware/ProviderConfigXmlSerializer.h"
+#include "ProviderConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -3,8 +3,8 @@
 #include <velquin/Object.h>
 #include <velquin/Priority.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
+#include "../PstnConfigClass.h"
+#include "../PstnConfigExport.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "hardware/TirvanaThreadGroupConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "TirvanaThreadGroupConfig.h"
 
 namespace Velquin::Pstn {
 

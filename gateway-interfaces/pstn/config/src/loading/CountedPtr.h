@@ -5,7 +5,7 @@
 
 #include <velquin/MemAccount.h>
 
-#include "PstnConfigExport.h"
+#include "../PstnConfigExport.h"
 
 namespace Velquin::Pstn {
 

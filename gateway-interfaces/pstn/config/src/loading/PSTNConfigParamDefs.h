@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "PstnConfigExport.h"
+#include "../PstnConfigExport.h"
 
 namespace Velquin::Pstn {
 
@@ -10,7 +10,7 @@ template <class T>
 class Singleton;
 
 /// The global parameters that this library reads and declares.
-class PSTNConfigParamDefs {
+class VELQUIN_PSTN_CONFIG_EXPORT PSTNConfigParamDefs {
 public:
     struct Definition {
         const char* szName;

@@ -3,9 +3,9 @@
 #include <velquin/ROConfiguration.h>
 #include <velquin/XMLDocOutputStreamable.h>
 
-#include "hardware/Config.h"
-#include "loading/CountedPtr.h"
-#include "loading/XmlSerializerObjectFactory.h"
+#include "../hardware/Config.h"
+#include "CountedPtr.h"
+#include "XmlSerializerObjectFactory.h"
 
 namespace Velquin::Pstn {
 

@@ -4,8 +4,8 @@
 
 #include <velquin/LimitedObjPtr.h>
 
-#include "physical/Country.h"
-#include "physical/InterfacePhysicalConfig.h"
+#include "Country.h"
+#include "InterfacePhysicalConfig.h"
 
 namespace Velquin::Pstn {
 

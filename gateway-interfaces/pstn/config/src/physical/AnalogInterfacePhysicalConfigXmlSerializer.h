@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/AnalogInterfacePhysicalConfig.h"
-#include "physical/InterfacePhysicalConfigXmlSerializer.h"
+#include "AnalogInterfacePhysicalConfig.h"
+#include "InterfacePhysicalConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reading/KeywordTable.h"
+#include "../reading/KeywordTable.h"
 
 // The countries and regions in which the settings of analog lines differ, by their names in a configuration. TBR21 is
 // the common European standard (ETSI TBR 21).

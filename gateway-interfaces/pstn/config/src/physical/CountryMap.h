@@ -3,8 +3,8 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "PstnConfigExport.h"
-#include "physical/Country.h"
+#include "../PstnConfigExport.h"
+#include "Country.h"
 
 namespace Velquin::Pstn {
 

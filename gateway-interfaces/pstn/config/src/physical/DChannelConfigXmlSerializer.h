@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "physical/DChannelConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "DChannelConfig.h"
 
 namespace Velquin::Pstn {
 

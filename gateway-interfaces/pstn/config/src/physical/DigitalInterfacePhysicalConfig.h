@@ -2,9 +2,9 @@
 
 #include <velquin/TSHandle.h>
 
-#include "physical/DChannelConfig.h"
-#include "physical/InterfacePhysicalConfig.h"
-#include "reading/KeywordTable.h"
+#include "../reading/KeywordTable.h"
+#include "DChannelConfig.h"
+#include "InterfacePhysicalConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "physical/InterfacePhysicalConfigXmlSerializer.h"
+#include "InterfacePhysicalConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

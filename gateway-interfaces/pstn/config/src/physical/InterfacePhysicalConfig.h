@@ -5,9 +5,9 @@
 #include <velquin/Object.h>
 #include <velquin/TSHandle.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
-#include "physical/audio/AudioConfig.h"
+#include "../PstnConfigClass.h"
+#include "../PstnConfigExport.h"
+#include "audio/AudioConfig.h"
 
 namespace Velquin::Pstn {
 

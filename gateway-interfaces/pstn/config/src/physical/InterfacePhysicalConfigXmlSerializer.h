@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "physical/InterfacePhysicalConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../reading/XmlNodeFwd.h"
+#include "InterfacePhysicalConfig.h"
 
 namespace Velquin::Pstn {
 

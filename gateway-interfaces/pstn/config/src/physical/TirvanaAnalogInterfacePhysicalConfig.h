@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/AnalogInterfacePhysicalConfig.h"
-#include "reading/KeywordTable.h"
+#include "../reading/KeywordTable.h"
+#include "AnalogInterfacePhysicalConfig.h"
 
 namespace Velquin::Pstn {
 

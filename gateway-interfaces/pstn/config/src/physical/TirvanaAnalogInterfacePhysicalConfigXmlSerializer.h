@@ -1,6 +1,6 @@
 #pragma once
 
-#include "physical/AnalogInterfacePhysicalConfigXmlSerializer.h"
+#include "AnalogInterfacePhysicalConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "physical/DigitalInterfacePhysicalConfig.h"
+#include "DigitalInterfacePhysicalConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "physical/DigitalInterfacePhysicalConfigXmlSerializer.h"
+#include "DigitalInterfacePhysicalConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

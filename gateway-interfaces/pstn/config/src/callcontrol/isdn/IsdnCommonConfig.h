@@ -2,9 +2,9 @@
 
 #include <velquin/Object.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
-#include "reading/KeywordTable.h"
+#include "../../PstnConfigClass.h"
+#include "../../PstnConfigExport.h"
+#include "../../reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "callcontrol/isdn/IsdnCommonConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../../reading/XmlNodeFwd.h"
+#include "IsdnCommonConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "callcontrol/NumberedConfigs.h"
-#include "callcontrol/isdn/IsdnFasConfig.h"
-#include "callcontrol/isdn/IsdnNfasConfig.h"
+#include "../NumberedConfigs.h"
+#include "IsdnFasConfig.h"
+#include "IsdnNfasConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "callcontrol/isdn/IsdnConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../../reading/XmlNodeFwd.h"
+#include "IsdnConfig.h"
 
 namespace Velquin::Pstn {
 

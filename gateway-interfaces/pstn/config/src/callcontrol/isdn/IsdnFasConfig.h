@@ -4,8 +4,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "callcontrol/isdn/IsdnCommonConfig.h"
-#include "hardware/DigitalInterfaceConfig.h"
+#include "../../hardware/DigitalInterfaceConfig.h"
+#include "IsdnCommonConfig.h"
 
 namespace Velquin::Pstn {
 

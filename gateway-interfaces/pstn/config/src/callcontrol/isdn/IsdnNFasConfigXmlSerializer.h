@@ -1,6 +1,6 @@
 #pragma once
 
-#include "callcontrol/isdn/IsdnCommonConfigXmlSerializer.h"
+#include "IsdnCommonConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -6,8 +6,8 @@
 #include <velquin/LimitedObjPtr.h>
 #include <velquin/TSHandle.h>
 
-#include "callcontrol/isdn/IsdnCommonConfig.h"
-#include "callcontrol/isdn/IsdnNfasGroupMemberConfig.h"
+#include "IsdnCommonConfig.h"
+#include "IsdnNfasGroupMemberConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "hardware/DigitalInterfaceConfig.h"
-#include "reading/KeywordTable.h"
+#include "../../hardware/DigitalInterfaceConfig.h"
+#include "../../reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/TSHandle.h>
 
-#include "callcontrol/isdn/IsdnNfasGroupMemberConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../../reading/XmlNodeFwd.h"
+#include "IsdnNfasGroupMemberConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/AcousticEchoCancellationConfig.h"
-#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+#include "AcousticEchoCancellationConfig.h"
+#include "VoiceProcessingConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

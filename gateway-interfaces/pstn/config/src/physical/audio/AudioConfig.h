@@ -6,14 +6,14 @@
 #include <velquin/Object.h>
 #include <velquin/TSHandle.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
-#include "physical/audio/AcousticEchoCancellationConfig.h"
-#include "physical/audio/BackgroundNoiseAttenuationConfig.h"
-#include "physical/audio/DtmfRemovalConfig.h"
-#include "physical/audio/EchoCancellationConfig.h"
-#include "physical/audio/LevelControlConfig.h"
-#include "reading/KeywordTable.h"
+#include "../../PstnConfigClass.h"
+#include "../../PstnConfigExport.h"
+#include "../../reading/KeywordTable.h"
+#include "AcousticEchoCancellationConfig.h"
+#include "BackgroundNoiseAttenuationConfig.h"
+#include "DtmfRemovalConfig.h"
+#include "EchoCancellationConfig.h"
+#include "LevelControlConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "physical/audio/AudioConfig.h"
-#include "reading/XmlNodeFwd.h"
+#include "../../reading/XmlNodeFwd.h"
+#include "AudioConfig.h"
 
 namespace Velquin::Pstn {
 

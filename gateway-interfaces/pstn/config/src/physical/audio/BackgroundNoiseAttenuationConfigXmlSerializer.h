@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/BackgroundNoiseAttenuationConfig.h"
-#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+#include "BackgroundNoiseAttenuationConfig.h"
+#include "VoiceProcessingConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/DtmfRemovalConfig.h"
-#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+#include "DtmfRemovalConfig.h"
+#include "VoiceProcessingConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/EchoCancellationConfig.h"
-#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+#include "EchoCancellationConfig.h"
+#include "VoiceProcessingConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/AcousticEchoCancellationConfig.h"
-#include "reading/KeywordTable.h"
+#include "../../reading/KeywordTable.h"
+#include "AcousticEchoCancellationConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/AcousticEchoCancellationConfigXmlSerializer.h"
-#include "physical/audio/HardwareAcousticEchoCancellationConfig.h"
+#include "AcousticEchoCancellationConfigXmlSerializer.h"
+#include "HardwareAcousticEchoCancellationConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "physical/audio/BackgroundNoiseAttenuationConfig.h"
-#include "physical/audio/VoiceDirection.h"
-#include "reading/KeywordTable.h"
+#include "../../reading/KeywordTable.h"
+#include "BackgroundNoiseAttenuationConfig.h"
+#include "VoiceDirection.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/BackgroundNoiseAttenuationConfigXmlSerializer.h"
-#include "physical/audio/HardwareBackgroundNoiseAttenuationConfig.h"
+#include "BackgroundNoiseAttenuationConfigXmlSerializer.h"
+#include "HardwareBackgroundNoiseAttenuationConfig.h"
 
 namespace Velquin::Pstn {
 

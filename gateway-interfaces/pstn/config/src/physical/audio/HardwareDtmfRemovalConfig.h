@@ -1,8 +1,8 @@
 #pragma once
 
-#include "physical/audio/DtmfRemovalConfig.h"
-#include "physical/audio/VoiceDirection.h"
-#include "reading/KeywordTable.h"
+#include "../../reading/KeywordTable.h"
+#include "DtmfRemovalConfig.h"
+#include "VoiceDirection.h"
 
 namespace Velquin::Pstn {
 

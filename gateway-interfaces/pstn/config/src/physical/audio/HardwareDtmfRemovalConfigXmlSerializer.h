@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/DtmfRemovalConfigXmlSerializer.h"
-#include "physical/audio/HardwareDtmfRemovalConfig.h"
+#include "DtmfRemovalConfigXmlSerializer.h"
+#include "HardwareDtmfRemovalConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/EchoCancellationConfig.h"
-#include "reading/KeywordTable.h"
+#include "../../reading/KeywordTable.h"
+#include "EchoCancellationConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/EchoCancellationConfigXmlSerializer.h"
-#include "physical/audio/HardwareEchoCancellationConfig.h"
+#include "EchoCancellationConfigXmlSerializer.h"
+#include "HardwareEchoCancellationConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "physical/audio/LevelControlConfig.h"
-#include "physical/audio/VoiceDirection.h"
-#include "reading/KeywordTable.h"
+#include "../../reading/KeywordTable.h"
+#include "LevelControlConfig.h"
+#include "VoiceDirection.h"
 
 namespace Velquin::Pstn {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/HardwareLevelControlConfig.h"
-#include "physical/audio/LevelControlConfigXmlSerializer.h"
+#include "HardwareLevelControlConfig.h"
+#include "LevelControlConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -2,8 +2,8 @@
 
 #include <velquin/Object.h>
 
-#include "PstnConfigClass.h"
-#include "PstnConfigExport.h"
+#include "../../PstnConfigClass.h"
+#include "../../PstnConfigExport.h"
 
 namespace Velquin::Pstn {
 

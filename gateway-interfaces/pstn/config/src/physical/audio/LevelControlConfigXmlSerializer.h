@@ -1,7 +1,7 @@
 #pragma once
 
-#include "physical/audio/LevelControlConfig.h"
-#include "physical/audio/VoiceProcessingConfigXmlSerializer.h"
+#include "LevelControlConfig.h"
+#include "VoiceProcessingConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "physical/audio/AudioConfig.h"
+#include "AudioConfig.h"
 
 namespace Velquin::Pstn {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "physical/audio/AudioConfigXmlSerializer.h"
+#include "AudioConfigXmlSerializer.h"
 
 namespace Velquin::Pstn {
 

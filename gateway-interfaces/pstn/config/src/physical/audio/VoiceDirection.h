@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reading/KeywordTable.h"
+#include "../../reading/KeywordTable.h"
 
 namespace Velquin::Pstn {
 

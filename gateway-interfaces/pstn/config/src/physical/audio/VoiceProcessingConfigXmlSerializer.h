@@ -7,8 +7,8 @@
 #include <velquin/Object.h>
 #include <velquin/UniqueObjPtr.h>
 
-#include "reading/NotImplemented.h"
-#include "reading/XmlNodeFwd.h"
+#include "../../reading/NotImplemented.h"
+#include "../../reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 
