@@ -1,0 +1,1 @@
+#error "a header of the library includes a header of the program"
