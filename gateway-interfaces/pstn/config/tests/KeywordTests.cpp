@@ -104,7 +104,7 @@ std::string swapCase( std::string in_strText ) {
 }
 
 bool hasLine( const XmlConfig& in_config, const std::string& in_strLine ) {
-    return ( "\n" + Fuzz::describeModel( in_config ) ).find( "\n" + in_strLine + "\n" ) != std::string::npos;
+    return ( "\n" + describeModel( in_config ) ).find( "\n" + in_strLine + "\n" ) != std::string::npos;
 }
 
 } // namespace

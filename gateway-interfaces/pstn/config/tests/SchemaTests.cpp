@@ -163,7 +163,7 @@ TEST( Schema, TakesChildrenInAnyOrderThatMeansNothing ) {
             if ( !load( config, file.getPath(), SCHEMA ).bValid )
                 setRefused.insert( strSecond + " before " + strFirst );
             else
-                EXPECT_EQ( Fuzz::describeModel( config ), Fuzz::describeModel( complete ) ) << strSecond;
+                EXPECT_EQ( describeModel( config ), describeModel( complete ) ) << strSecond;
         }
     }
     EXPECT_EQ( join( setRefused ), "analogFxsConfig before analogFxoConfig\n"

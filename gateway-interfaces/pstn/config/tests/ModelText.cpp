@@ -24,7 +24,7 @@
 #include "physical/audio/HardwareLevelControlConfig.h"
 #include "physical/audio/TirvanaAudioConfig.h"
 
-namespace Velquin::Pstn::Fuzz {
+namespace Velquin::Pstn {
 
 namespace {
 
@@ -417,4 +417,4 @@ std::string describeModel( const Config& in_config ) {
     return stream.str();
 }
 
-} // namespace Velquin::Pstn::Fuzz
+} // namespace Velquin::Pstn
