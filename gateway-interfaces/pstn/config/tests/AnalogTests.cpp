@@ -68,26 +68,24 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( AnalogDisconnectSupervisionConfig().addDisconnectDetector( nullptr ) );
           EXPECT_FALSE( AnalogDisconnectDetectorConfig().parseSequence( nullptr ) );
       },
-      { assertion( "!pFxoConfig.isNull()", "AnalogCallControlConfig" ),
-        assertion( "!pFxsConfig.isNull()", "AnalogCallControlConfig" ),
-        assertion( "!pDetectorConfig.isNull()", "AnalogDisconnectSupervisionConfig" ),
-        assertion( "in_szSequence != nullptr", "AnalogDisconnectDetectorConfig" ) } },
+      assertions(
+          "AnalogCallControlConfig: !pFxoConfig.isNull(), !pFxsConfig.isNull(); AnalogDisconnectSupervisionConfig: "
+          "!pDetectorConfig.isNull(); AnalogDisconnectDetectorConfig: in_szSequence != nullptr" ) },
     { "AnalogOfOtherClass",
       [] {
           expectNotRead( Making<AnalogFxoConfigXmlSerializer, AnalogFxsConfig>() );
           expectNotRead( Making<AnalogFxsConfigXmlSerializer, AnalogFxoConfig>() );
           expectNotRead( AnalogCallControlCommonConfigXmlSerializer() );
       },
-      { assertion( "!pFxoConfig.isNull()", "AnalogFxoConfigXmlSerializer" ),
-        assertion( "!pFxsConfig.isNull()", "AnalogFxsConfigXmlSerializer" ),
-        assertion( "! pCommonConfig.isNull()", "AnalogCallControlCommonConfigXmlSerializer" ) } },
+      assertions( "AnalogFxoConfigXmlSerializer: !pFxoConfig.isNull(); AnalogFxsConfigXmlSerializer: "
+                  "!pFxsConfig.isNull(); AnalogCallControlCommonConfigXmlSerializer: ! pCommonConfig.isNull()" ) },
     { "AnalogEntryOfNoConfig",
       [] {
           expectEntryNotRead<AnalogFxoConfigXmlSerializer, AnalogFxoConfig>();
           expectEntryNotRead<AnalogFxsConfigXmlSerializer, AnalogFxsConfig>();
       },
-      { assertion( "!in_pFxoConfig.isNull()", "AnalogFxoConfigXmlSerializer" ),
-        assertion( "!in_pFxsConfig.isNull()", "AnalogFxsConfigXmlSerializer" ) } },
+      assertions( "AnalogFxoConfigXmlSerializer: !in_pFxoConfig.isNull(); AnalogFxsConfigXmlSerializer: "
+                  "!in_pFxsConfig.isNull()" ) },
     // The vector ends with its first fault.
     { "FxoOfNull", &expectNullRefused<AnalogFxoConfig>, { NULL_INTERFACE, NULL_INTERFACE, NULL_UNIQUE_ID } },
     { "FxsOfNull", &expectNullRefused<AnalogFxsConfig>, { NULL_INTERFACE, NULL_INTERFACE, NULL_UNIQUE_ID } },

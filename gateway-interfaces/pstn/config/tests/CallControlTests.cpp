@@ -56,10 +56,8 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( config.getAnalogConfig().isNull() ) << "what was there is gone";
           EXPECT_TRUE( config.getChannelGroupsConfig().empty() );
       },
-      { assertion( "in_pNewChannelGroupConfig", "CallControlConfig" ),
-        assertion( "!pIsdnConfig.isNull()", "CallControlConfig" ),
-        assertion( "!pAnalogConfig.isNull()", "CallControlConfig" ),
-        assertion( "in_szId != nullptr", "CallControlConfig" ) } },
+      assertions( "CallControlConfig: in_pNewChannelGroupConfig, !pIsdnConfig.isNull(), !pAnalogConfig.isNull(), "
+                  "in_szId != nullptr" ) },
     { "CallControlKeepsFirstGroupOfAnId",
       [] {
           CallControlConfig config;
@@ -84,8 +82,8 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( group.addBChannelRangeConfig( new BChannelRangeConfig() ) );
           EXPECT_TRUE( group.getBChannelRangeConfig().empty() );
       },
-      { assertion( "in_szText != nullptr", "Text" ), assertion( "in_pNewBChannelRangeConfig", "ChannelGroupConfig" ),
-        assertion( "!hNewBChannelRangeConfig->getInterfaceConfig().isNull()", "ChannelGroupConfig" ) } },
+      assertions( "Text: in_szText != nullptr; ChannelGroupConfig: in_pNewBChannelRangeConfig, "
+                  "!hNewBChannelRangeConfig->getInterfaceConfig().isNull()" ) },
     { "BChannelRangeRefusesNull",
       [] {
           const Span span( 1 );
@@ -104,10 +102,8 @@ const std::vector<CallCase> CALLS{
           EXPECT_EQ( hRange->getFxoConfig().get(), &fxo );
           EXPECT_EQ( hRange->getFxsConfig().get(), &fxs );
       },
-      { assertion( "!in_pInterfaceConfig.isNull()", "BChannelRangeConfig" ),
-        assertion( "!in_pIsdnCommonConfig.isNull()", "BChannelRangeConfig" ),
-        assertion( "!in_pFxoConfig.isNull()", "BChannelRangeConfig" ),
-        assertion( "!in_pFxsConfig.isNull()", "BChannelRangeConfig" ) } },
+      assertions( "BChannelRangeConfig: !in_pInterfaceConfig.isNull(), !in_pIsdnCommonConfig.isNull(), "
+                  "!in_pFxoConfig.isNull(), !in_pFxsConfig.isNull()" ) },
     { "BChannelRangeOverlap",
       [] {
           const Span span( 1 );

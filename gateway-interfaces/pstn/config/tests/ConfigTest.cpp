@@ -104,7 +104,6 @@ void TestDocument::editElement( const Edit& in_edit ) {
                                          : setAttribute( strTag, ( *it )[2], ( *it )[3] );
         strNew = strTag + strElement.substr( tag.uLength );
     }
-    EXPECT_NE( strNew, strElement ) << in_edit.strFrom << ' ' << in_edit.strTo;
     m_strText.replace( tag.uBegin, strElement.size(), strNew );
 }
 
@@ -269,14 +268,11 @@ void addRows( Record& in_record, Record& in_texts, const Chains& in_mapChains, s
         one.bValid = in_bValid;
         return one;
     };
-    const auto addRefusal = [&]( std::string in_strWhat, const char* in_szHow, const Edit& in_edit,
-                                 char in_cText, const std::vector<std::string>& in_vecRow ) {
-        const std::map<std::string, std::string> mapReplacements{ { "{attribute}", in_strWhat },
-                                                                  { "{hint}", in_vecRow[3] },
-                                                                  { "{line}", "{line:" + strPath + "}" },
-                                                                  { "{name}", strElement },
-                                                                  { "{path}", strPath },
-                                                                  { "{value}", in_vecRow[2] } };
+    const auto addRefusal = [&]( std::string in_strWhat, const char* in_szHow, const Edit& in_edit, char in_cText,
+                                 const std::vector<std::string>& in_vecRow ) {
+        const std::map<std::string, std::string> mapReplacements{
+            { "{attribute}", in_strWhat }, { "{hint}", in_vecRow[3] }, { "{line}", "{line:" + strPath + "}" },
+            { "{name}", strElement },      { "{path}", strPath },      { "{value}", in_vecRow[2] } };
         in_strWhat[0] = static_cast<char>( std::toupper( in_strWhat[0] ) );
         LoadCase& one = add( in_strWhat + in_szHow, in_edit, !in_texts.mapLines['='].empty() );
         one.vecChanges = in_texts.mapLines['='];
@@ -326,8 +322,8 @@ std::vector<LoadCase> readCases( const std::string& in_strFile ) {
             if ( vecWords.size() > 2 )
                 vecLines.insert( vecLines.end(), mapChains[vecWords[2]].begin(), mapChains[vecWords[2]].end() );
         } else {
-            vecCases.push_back( { vecWords[1], record.vecEdits, vecWords[2] == "valid", record.mapLines['>'],
-                                  record.mapLines['='] } );
+            vecCases.push_back(
+                { vecWords[1], record.vecEdits, vecWords[2] == "valid", record.mapLines['>'], record.mapLines['='] } );
             addChain( record, mapChains, vecCases.back() );
         }
     }
@@ -431,6 +427,17 @@ std::string assertion( const std::string& in_strExpression, const std::string& i
     return "ERROR marovane.core.Assertion: Assertion failed: " + in_strExpression + ", file " + in_strFile + ", line N";
 }
 
+std::vector<std::string> assertions( const std::string& in_strAll ) {
+    static const std::regex s_part( R"((?:(\w+): )?([^,;]+)(?:[,;] |$))" );
+    std::vector<std::string> vecLines;
+    std::string strFile;
+    for ( std::sregex_iterator it( in_strAll.begin(), in_strAll.end(), s_part ), end; it != end; ++it ) {
+        strFile = ( *it )[1].matched ? ( *it )[1].str() : strFile;
+        vecLines.push_back( assertion( ( *it )[2], strFile ) );
+    }
+    return vecLines;
+}
+
 std::string join( const std::vector<std::string>& in_vecLines ) {
     std::string strText;
     for ( const std::string& strLine : in_vecLines )
@@ -449,12 +456,11 @@ std::vector<TCase> registerCases( std::vector<TCase> in_vecCases ) {
 template std::vector<LoadCase> registerCases( std::vector<LoadCase> );
 template std::vector<CallCase> registerCases( std::vector<CallCase> );
 
-std::vector<std::string> getLinesOfCase( const std::string& in_strName ) {
-    const auto it = getRegisteredCases().find( in_strName );
-    if ( it != getRegisteredCases().end() )
-        return it->second;
-    ADD_FAILURE() << "no case is called " << in_strName;
-    return {};
+std::string getLinesOfCases() {
+    std::string strLines;
+    for ( const auto& [strName, vecLines] : getRegisteredCases() )
+        strLines += join( vecLines );
+    return strLines;
 }
 
 } // namespace Velquin::Pstn::Test

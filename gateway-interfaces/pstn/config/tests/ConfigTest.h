@@ -122,8 +122,9 @@ void check( const CallCase& in_case );
 /// the two that differ only in such words, and have some, become the same.
 void takeWordsOfLibXml2( std::vector<std::string>& inout_vecExpected, const std::vector<std::string>& in_vecLines );
 
-/// Expected lines of assertions.
+/// Expected lines of assertions; of several, "FILE: EXPRESSION, EXPRESSION; FILE: ...".
 std::string assertion( const std::string& in_strExpression, const std::string& in_strFile );
+std::vector<std::string> assertions( const std::string& in_strAll );
 
 /// Lines as one text, so that a difference shows as a diff.
 std::string join( const std::vector<std::string>& in_vecLines );
@@ -131,8 +132,8 @@ std::string join( const std::vector<std::string>& in_vecLines );
 /// Every text of the library must be provoked by a case: a table registers its cases for the list of texts.
 template <class TCase>
 std::vector<TCase> registerCases( std::vector<TCase> in_vecCases );
-/// The lines of the case of that name, unexpanded; fails the test when there is none.
-std::vector<std::string> getLinesOfCase( const std::string& in_strName );
+/// The lines of all of them, unexpanded.
+std::string getLinesOfCases();
 
 inline std::string nameOf( const testing::TestParamInfo<LoadCase>& in_info ) {
     return in_info.param.strName;

@@ -82,10 +82,9 @@ const std::vector<CallCase> CALLS{
           EXPECT_TRUE( config.getProviderConfig( nullptr ).isNull() );
           EXPECT_EQ( config.getCallControlConfig().get(), pCallControl ) << "what was there is gone";
       },
-      { assertion( "in_pNewProviderConfig", "Config" ), assertion( "in_pNewBoardConfig", "Config" ),
-        assertion( "in_pNewAnalogBoardConfig", "Config" ), assertion( "in_pNewDigitalBoardConfig", "Config" ),
-        assertion( "!pCallControlConfig.isNull()", "Config" ), assertion( "!in_hCallControlConfig.isNull()", "Config" ),
-        assertion( "in_szName != nullptr", "Config" ) } },
+      assertions(
+          "Config: in_pNewProviderConfig, in_pNewBoardConfig, in_pNewAnalogBoardConfig, in_pNewDigitalBoardConfig, "
+          "!pCallControlConfig.isNull(), !in_hCallControlConfig.isNull(), in_szName != nullptr" ) },
     { "ConfigKeepsFirstBoardOfAnId",
       [] {
           Config config;
@@ -137,16 +136,12 @@ const std::vector<CallCase> CALLS{
                         span.setPhysicalConfig( nullptr ) );
           EXPECT_STREQ( span.getUniqueId( true ), "" );
       },
-      { assertion( "!hBoardConfig.isNull()", "Config" ),
-        assertion( "in_pNewAnalogInterfaceConfig", "AnalogBoardConfig" ),
-        assertion( "in_pNewDigitalInterfaceConfig", "DigitalBoardConfig" ),
-        assertion( "out_vecAnalogInterfaceConfig.empty()", "AnalogBoardConfig" ),
-        assertion( "out_vecDigitalInterfaceConfig.empty()", "DigitalBoardConfig" ),
-        assertion( "in_szName != nullptr", "DisplayName" ), assertion( "in_szText != nullptr", "Text" ),
-        assertion( "!in_pBoardConfig.isNull()", "InterfaceConfig" ),
-        assertion( "!in_hPhysicalConfig.isNull()", "AnalogInterfaceConfig" ),
-        assertion( "!in_hPhysicalConfig.isNull()", "DigitalInterfaceConfig" ),
-        assertion( "!getBoardConfig().isNull()", "InterfaceConfig" ) } },
+      assertions(
+          "Config: !hBoardConfig.isNull(); AnalogBoardConfig: in_pNewAnalogInterfaceConfig; DigitalBoardConfig: "
+          "in_pNewDigitalInterfaceConfig; AnalogBoardConfig: out_vecAnalogInterfaceConfig.empty(); DigitalBoardConfig: "
+          "out_vecDigitalInterfaceConfig.empty(); DisplayName: in_szName != nullptr; Text: in_szText != nullptr; "
+          "InterfaceConfig: !in_pBoardConfig.isNull(); AnalogInterfaceConfig: !in_hPhysicalConfig.isNull(); "
+          "DigitalInterfaceConfig: !in_hPhysicalConfig.isNull(); InterfaceConfig: !getBoardConfig().isNull()" ) },
     { "InterfaceWithoutPhysicalConfig",
       [] {
           const TSHandle<BoardConfig> hBoard( newNamed<BoardConfig>( 1, "Span board" ) );

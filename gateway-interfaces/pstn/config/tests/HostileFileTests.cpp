@@ -40,6 +40,10 @@ struct HostileCase {
 std::vector<HostileCase> readHostileCases() {
     std::vector<HostileCase> vecCases;
     for ( Record& record : readRecords( "cases/hostile.files", "<>" ) ) {
+        if ( record.vecWords.back() == "parse" ) {
+            record.mapLines['>'].push_back( "ERROR XmlConfig: failed to parse XML file {file}" );
+            record.vecWords.pop_back();
+        }
         record.vecWords.resize( 4 );
         const std::string strTemplate = join( record.mapLines['<'] );
         vecCases.push_back( { record.vecWords[1], std::stoul( record.vecWords[2] ), record.vecWords[3],
@@ -131,10 +135,12 @@ TEST( HostileFiles, EndInClearLinesAndBoundedCost ) {
         expectBounded( cost, uBytes, one.uMemory );
         EXPECT_EQ( result.bValid, one.vecLines.empty() );
         EXPECT_EQ( result.vecLines.empty(), one.vecLines.empty() );
-        for ( std::size_t u = 0; u < one.vecLines.size() && u < result.vecLines.size(); ++u ) {
-            const std::string strExpected = TestDocument( "" ).expand( one.vecLines[u], file.getPath() );
-            EXPECT_EQ( result.vecLines[u].substr( 0, strExpected.size() ), strExpected );
-        }
+        std::vector<std::string> vecExpected;
+        for ( const std::string& strLine : one.vecLines )
+            vecExpected.push_back( TestDocument( "" ).expand( strLine, file.getPath() ) );
+        takeWordsOfLibXml2( vecExpected, result.vecLines );
+        for ( std::size_t u = 0; u < vecExpected.size() && u < result.vecLines.size(); ++u )
+            EXPECT_EQ( result.vecLines[u].substr( 0, vecExpected[u].size() ), vecExpected[u] );
         if ( one.strName != "FloodOfFaultsToCrossCheck" ) { // there each interface has its line
             EXPECT_LT( result.vecLines.size(), 500U );
         }

@@ -42,14 +42,11 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( IsdnNfasConfig().addMemberInterface( hMember ) ) << "a member without interface";
           EXPECT_FALSE( hMember->setInterfaceMember( nullptr ) );
       },
-      { assertion( "!pFasConfig.isNull()", "IsdnConfig" ), assertion( "!pNFasConfig.isNull()", "IsdnConfig" ),
-        assertion( "in_szUniqueId != nullptr", "IsdnConfig" ),
-        assertion( "!in_hDigitalInterface.isNull()", "IsdnFasConfig" ),
-        assertion( "in_szUniqueId != nullptr", "IsdnFasConfig" ),
-        assertion( "!in_hNfasGroupMember.isNull()", "IsdnNfasConfig" ),
-        assertion( "in_szUniqueId != nullptr", "IsdnNfasConfig" ),
-        assertion( "!in_hNfasGroupMember->getInterfaceConfig().isNull()", "IsdnNfasConfig" ),
-        assertion( "!in_hInterfaceConfig.isNull()", "IsdnNfasGroupMemberConfig" ) } },
+      assertions(
+          "IsdnConfig: !pFasConfig.isNull(), !pNFasConfig.isNull(), in_szUniqueId != nullptr; IsdnFasConfig: "
+          "!in_hDigitalInterface.isNull(), in_szUniqueId != nullptr; IsdnNfasConfig: !in_hNfasGroupMember.isNull(), "
+          "in_szUniqueId != nullptr, !in_hNfasGroupMember->getInterfaceConfig().isNull(); IsdnNfasGroupMemberConfig: "
+          "!in_hInterfaceConfig.isNull()" ) },
     { "IsdnWritesNothing",
       [] {
           EXPECT_FALSE( IsdnConfigXmlSerializer().write( nullptr, IsdnConfig() ) );
@@ -77,12 +74,10 @@ const std::vector<CallCase> CALLS{
           EXPECT_TRUE(
               IsdnNfasGroupMemberConfigXmlSerializer().read( hCallControl, nullptr, pElement, config ).isNull() );
       },
-      { assertion( "!pIsdnCommonConfig.isNull()", "IsdnCommonConfigXmlSerializer" ),
-        assertion( "!pIsdnCommonConfig.isNull()", "IsdnCommonConfigXmlSerializer" ),
-        assertion( "!pCommonConfig.isNull()", "IsdnFasConfigXmlSerializer" ),
-        assertion( "!pFasConfig.isNull()", "IsdnFasConfigXmlSerializer" ),
-        assertion( "!pNFasConfig.isNull()", "IsdnNFasConfigXmlSerializer" ),
-        assertion( "in_pNfasConfig", "IsdnNfasGroupMemberConfigXmlSerializer" ) } },
+      assertions(
+          "IsdnCommonConfigXmlSerializer: !pIsdnCommonConfig.isNull(), !pIsdnCommonConfig.isNull(); "
+          "IsdnFasConfigXmlSerializer: !pCommonConfig.isNull(), !pFasConfig.isNull(); IsdnNFasConfigXmlSerializer: "
+          "!pNFasConfig.isNull(); IsdnNfasGroupMemberConfigXmlSerializer: in_pNfasConfig" ) },
 };
 
 } // namespace

@@ -6,7 +6,6 @@
 #include <velquin/StringVector.h>
 
 #include "ConfigTest.h"
-#include "DocumentPath.h"
 #include "KeywordRows.h"
 #include "LogCapture.h"
 #include "ModelText.h"
@@ -24,19 +23,21 @@ namespace Velquin::Pstn::Test {
 
 std::vector<KeywordRow> getKeywordRows() {
     std::vector<KeywordRow> vecRows;
-    for ( Record& record : readRecords( "keywords.rows", "-+=?!" ) ) {
+    for ( Record& record : readRecords( "keywords.rows", "@?!" ) ) {
         KeywordRow& row = vecRows.emplace_back();
         row.strTable = record.vecWords[1];
         row.strPath = record.vecWords[2];
         row.strAttribute = record.vecWords[3];
         int nValue = std::stoi( record.vecWords[4] );
-        for ( auto it = record.vecWords.begin() + 5; it != record.vecWords.end(); ++it, ++nValue ) {
+        auto it = record.vecWords.begin() + 5;
+        for ( ; *it != "="; ++it, ++nValue ) {
             StringVector vecSynonyms;
             strTokenize( *it, vecSynonyms, '|' );
             for ( const std::string& strKeyword : vecSynonyms )
                 row.vecKeywords.emplace_back( strKeyword, nValue );
         }
-        row.strLine = record.mapLines['='].at( 0 );
+        while ( ++it != record.vecWords.end() )
+            row.strLine += *it + " ";
         row.vecNeeds = record.vecEdits;
         row.bReported = record.mapLines['?'].empty();
         for ( const char cMark : { '?', '!' } ) {
@@ -54,47 +55,25 @@ std::set<std::string_view> getKeywords( const TTable& in_table ) {
     return { in_table.getKeywords().begin(), in_table.getKeywords().end() };
 }
 
-#define TABLE( name ) std::pair( std::string( #name ), getKeywords( Keywords::name ) )
+template <class... TTables>
+std::map<std::string, std::set<std::string_view>> getTables( const std::pair<const char*, TTables>&... in_tables ) {
+    return { { in_tables.first, getKeywords( in_tables.second ) }... };
+}
+
+#define TABLE( name ) std::pair( #name, Keywords::name )
 /// The keywords of each table.
-const std::map<std::string, std::set<std::string_view>> TABLES{ TABLE( TRUE_FALSE ),
-                                                                TABLE( YES_NO ),
-                                                                TABLE( ENABLED_DISABLED ),
-                                                                TABLE( ANALOG_MEDIA_TYPE ),
-                                                                TABLE( FRAMING ),
-                                                                TABLE( LINE_ENCODING ),
-                                                                TABLE( DIGITAL_CLOCKING ),
-                                                                TABLE( LOOPBACK_MODE ),
-                                                                TABLE( RECEIVER_SENSITIVITY ),
-                                                                TABLE( E1_SIGNALING ),
-                                                                TABLE( E1_TERMINATION ),
-                                                                TABLE( LINE_BUILD_OUT ),
-                                                                TABLE( ANALOG_CLOCKING ),
-                                                                TABLE( COUNTRY ),
-                                                                TABLE( PCM_LAW ),
-                                                                TABLE( ECHO_CANCELLATION_MODE ),
-                                                                TABLE( COMFORT_NOISE_MODE ),
-                                                                TABLE( DOUBLE_TALK_BEHAVIOR ),
-                                                                TABLE( ACOUSTIC_ECHO_CANCELLATION_MODE ),
-                                                                TABLE( LEVEL_CONTROL_MODE ),
-                                                                TABLE( BACKGROUND_NOISE_ATTENUATION_MODE ),
-                                                                TABLE( DTMF_REMOVAL_MODE ),
-                                                                TABLE( VOICE_DIRECTION ),
-                                                                TABLE( CHANNEL_DIRECTION ),
-                                                                TABLE( HUNTING_SCHEME ),
-                                                                TABLE( TERMINATION ),
-                                                                TABLE( SWITCH_VARIANT ),
-                                                                TABLE( B_CHANNEL_NEGOTIATION ),
-                                                                TABLE( TONES_GENERATION ),
-                                                                TABLE( TONES_INDICATOR ),
-                                                                TABLE( CALLER_NAME_LOCATION ),
-                                                                TABLE( NFAS_D_CHANNEL_MODE ),
-                                                                TABLE( FXO_NOTIFY_CONDITION ),
-                                                                TABLE( FXO_INBOUND_CONNECT_CONDITION ),
-                                                                TABLE( FXO_CALLER_ID_TYPE ),
-                                                                TABLE( FXO_CONNECT_SUPERVISION ),
-                                                                TABLE( FXO_OUTBOUND_CONNECT_CONDITION ),
-                                                                TABLE( FXS_OUT_OF_SERVICE_BEHAVIOR ),
-                                                                TABLE( FXS_NOTIFICATION_MODE ) };
+const auto TABLES = getTables(
+    TABLE( TRUE_FALSE ), TABLE( YES_NO ), TABLE( ENABLED_DISABLED ), TABLE( ANALOG_MEDIA_TYPE ), TABLE( FRAMING ),
+    TABLE( LINE_ENCODING ), TABLE( DIGITAL_CLOCKING ), TABLE( LOOPBACK_MODE ), TABLE( RECEIVER_SENSITIVITY ),
+    TABLE( E1_SIGNALING ), TABLE( E1_TERMINATION ), TABLE( LINE_BUILD_OUT ), TABLE( ANALOG_CLOCKING ), TABLE( COUNTRY ),
+    TABLE( PCM_LAW ), TABLE( ECHO_CANCELLATION_MODE ), TABLE( COMFORT_NOISE_MODE ), TABLE( DOUBLE_TALK_BEHAVIOR ),
+    TABLE( ACOUSTIC_ECHO_CANCELLATION_MODE ), TABLE( LEVEL_CONTROL_MODE ), TABLE( BACKGROUND_NOISE_ATTENUATION_MODE ),
+    TABLE( DTMF_REMOVAL_MODE ), TABLE( VOICE_DIRECTION ), TABLE( CHANNEL_DIRECTION ), TABLE( HUNTING_SCHEME ),
+    TABLE( TERMINATION ), TABLE( SWITCH_VARIANT ), TABLE( B_CHANNEL_NEGOTIATION ), TABLE( TONES_GENERATION ),
+    TABLE( TONES_INDICATOR ), TABLE( CALLER_NAME_LOCATION ), TABLE( NFAS_D_CHANNEL_MODE ),
+    TABLE( FXO_NOTIFY_CONDITION ), TABLE( FXO_INBOUND_CONNECT_CONDITION ), TABLE( FXO_CALLER_ID_TYPE ),
+    TABLE( FXO_CONNECT_SUPERVISION ), TABLE( FXO_OUTBOUND_CONNECT_CONDITION ), TABLE( FXS_OUT_OF_SERVICE_BEHAVIOR ),
+    TABLE( FXS_NOTIFICATION_MODE ) );
 #undef TABLE
 
 std::string swapCase( std::string in_strText ) {
@@ -123,13 +102,10 @@ TEST( Keywords, AreThoseOfTheirTables ) {
 TEST( Keywords, AreReadExactly ) {
     const Velquin::Test::LogCapture quiet( Logger::ERROR_LEVEL );
     for ( const KeywordRow& row : getKeywordRows() ) {
-        const std::string strText = TestDocument().edit( row.vecNeeds ).getText();
-        const Tag tag = findTag( strText, row.strPath );
-        const std::string strTag = strText.substr( tag.uBegin, tag.uLength );
+        const TestDocument needed = TestDocument().edit( row.vecNeeds );
         const auto loadWith = [&]( XmlConfig& out_config, const std::string& in_strValue ) {
-            const TemporaryFile file( std::string( strText ).replace(
-                tag.uBegin, tag.uLength, setAttribute( strTag, row.strAttribute, in_strValue ) ) );
-            return load( out_config, file.getPath() );
+            const Edit value{ row.strPath, row.strAttribute + "=\"" + in_strValue + "\"" };
+            return load( out_config, TemporaryFile( TestDocument( needed ).edit( value ).getText() ).getPath() );
         };
         for ( const auto& [strKeyword, nValue] : row.vecKeywords ) {
             SCOPED_TRACE( row.strPath + "/@" + row.strAttribute + "=" + strKeyword );
@@ -137,7 +113,7 @@ TEST( Keywords, AreReadExactly ) {
             const LoadResult result = loadWith( config, strKeyword );
             EXPECT_EQ( join( result.vecLines ), "" );
             ASSERT_TRUE( result.bValid );
-            EXPECT_TRUE( hasLine( config, row.strLine + " = " + std::to_string( nValue ) ) );
+            EXPECT_TRUE( hasLine( config, row.strLine + "= " + std::to_string( nValue ) ) );
             for ( const std::string& strWrong : { swapCase( strKeyword ), strKeyword + " ", " " + strKeyword } ) {
                 SCOPED_TRACE( strWrong );
                 XmlConfig wrong;

@@ -59,11 +59,9 @@ TEST( Loader, FindsSectionsWhateverTheirOrder ) {
 TEST( Loader, RefusesSchemasThatAreNone ) {
     const std::string strGrammar = "<grammar xmlns=\"http://relaxng.org/ns/structure/1.0\">\n";
     for ( const auto& [strContent, strCause] :
-          { std::pair<std::string, std::string>(
-                "<grammar", "Couldn't find end of Start Tag grammar line 1 in file {file} at line 1." ),
-            { "<other/>", "xmlRelaxNGParse: schemas is empty in file {file}." },
-            { strGrammar + "<start><element name=\"a\"/></start></grammar>",
-              "xmlRelaxNGParseElement: element has no content in file {file} at line 2." },
+          { std::pair<std::string, std::string>( "<grammar", "{libxml2} in file {file} at line 1." ),
+            { "<other/>", "{libxml2} in file {file}." },
+            { strGrammar + "<start><element name=\"a\"/></start></grammar>", "{libxml2} in file {file} at line 2." },
             { strGrammar + "<start><externalRef href=\"x.rng\"/></start></grammar>",
               "The schema must stand in one file: element externalRef declared in file {file} at line 2." },
             { strGrammar + "<include href=\"http://127.0.0.1/x.rng\"/></grammar>",
@@ -74,9 +72,11 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
         const LoadResult result = load( config, DATA_FOLDER + std::string( "/complete.xml" ), schema.getPath() );
         EXPECT_EQ( testing::internal::GetCapturedStderr(), "" );
         EXPECT_FALSE( result.bValid );
-        EXPECT_EQ( join( result.vecLines ),
-                   join( { "ERROR XmlConfig: " + TestDocument( "" ).expand( strCause, schema.getPath() ),
-                           "ERROR XmlConfig: Failed to parse RelaxNG schema file " + schema.getPath() } ) );
+        std::vector<std::string> vecExpected{
+            "ERROR XmlConfig: " + TestDocument( "" ).expand( strCause, schema.getPath() ),
+            "ERROR XmlConfig: Failed to parse RelaxNG schema file " + schema.getPath() };
+        takeWordsOfLibXml2( vecExpected, result.vecLines );
+        EXPECT_EQ( join( result.vecLines ), join( vecExpected ) );
     }
 }
 

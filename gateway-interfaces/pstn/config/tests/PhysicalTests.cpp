@@ -89,9 +89,9 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( DigitalInterfacePhysicalConfig().setDChannelConfig( nullptr ) );
           EXPECT_FALSE( AnalogInterfacePhysicalConfig().addApplyToAnalogInterface( nullptr ) );
       },
-      { assertion( "!pAudioConfig.isNull()", "InterfacePhysicalConfig" ), assertion( "in_szText != nullptr", "Text" ),
-        assertion( "!pDChannelConfig.isNull()", "DigitalInterfacePhysicalConfig" ),
-        assertion( "!in_pAnalogInterface.isNull()", "AnalogInterfacePhysicalConfig" ) } },
+      assertions( "InterfacePhysicalConfig: !pAudioConfig.isNull(); Text: in_szText != nullptr; "
+                  "DigitalInterfacePhysicalConfig: !pDChannelConfig.isNull(); AnalogInterfacePhysicalConfig: "
+                  "!in_pAnalogInterface.isNull()" ) },
     { "AudioRefusesNull",
       [] {
           AudioConfig config;
@@ -100,11 +100,9 @@ const std::vector<CallCase> CALLS{
               config.setLevelControlConfig( nullptr ) || config.setBackgroundNoiseAttenuationConfig( nullptr ) ||
               config.setDtmfRemovalConfig( nullptr ) );
       },
-      { assertion( "!pEchoCancellationConfig.isNull()", "AudioConfig" ),
-        assertion( "!pAcousticEchoCancellationConfig.isNull()", "AudioConfig" ),
-        assertion( "!pLevelControlConfig.isNull()", "AudioConfig" ),
-        assertion( "!pBackgroundNoiseAttenuationConfig.isNull()", "AudioConfig" ),
-        assertion( "!pDtmfRemovalConfig.isNull()", "AudioConfig" ) } },
+      assertions( "AudioConfig: !pEchoCancellationConfig.isNull(), !pAcousticEchoCancellationConfig.isNull(), "
+                  "!pLevelControlConfig.isNull(), !pBackgroundNoiseAttenuationConfig.isNull(), "
+                  "!pDtmfRemovalConfig.isNull()" ) },
     noBlock<EchoCancellationConfigXmlSerializer>( "!pEchoCancellationConfig.isNull()" ),
     noBlock<AcousticEchoCancellationConfigXmlSerializer>( "!pAcousticEchoCancellationConfig.isNull()" ),
     noBlock<LevelControlConfigXmlSerializer>( "!pLevelControlConfig.isNull()" ),
@@ -131,12 +129,11 @@ const std::vector<CallCase> CALLS{
               ( WrongAudioXmlSerializer<TirvanaAudioConfigXmlSerializer, AudioConfig>().read( pAudio, config ) ) );
           EXPECT_FALSE( NoDChannel().read( pElement, config ) || NoEcho().read( pElement, config ) );
       },
-      { assertion( "!pAudioConfigXmlSerializer.isNull()", "InterfacePhysicalConfigXmlSerializer" ),
-        assertion( "!pAudioConfig.isNull()", "AudioConfigXmlSerializer" ),
-        assertion( "!pTirvanaAudioConfig.isNull()", "TirvanaAudioConfigXmlSerializer" ),
-        assertion( "!pDChannelConfig.isNull()", "DChannelConfigXmlSerializer" ),
-        assertion( "!pEchoCancellationConfig.isNull()", "EchoCancellationConfigXmlSerializer" ),
-        assertion( "!pHardwareConfig.isNull()", "HardwareEchoCancellationConfigXmlSerializer" ) } },
+      assertions( "InterfacePhysicalConfigXmlSerializer: !pAudioConfigXmlSerializer.isNull(); "
+                  "AudioConfigXmlSerializer: !pAudioConfig.isNull(); TirvanaAudioConfigXmlSerializer: "
+                  "!pTirvanaAudioConfig.isNull(); DChannelConfigXmlSerializer: !pDChannelConfig.isNull(); "
+                  "EchoCancellationConfigXmlSerializer: !pEchoCancellationConfig.isNull(); "
+                  "HardwareEchoCancellationConfigXmlSerializer: !pHardwareConfig.isNull()" ) },
 };
 
 } // namespace

@@ -6,7 +6,6 @@
 #include <velquin/XML.h>
 
 #include "ConfigTest.h"
-#include "DocumentPath.h"
 #include "KeywordRows.h"
 #include "ModelText.h"
 #include "document/LibXml2.h"

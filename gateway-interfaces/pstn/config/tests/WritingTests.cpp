@@ -131,9 +131,9 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( TirvanaAnalogBoardConfigXmlSerializer().write( nullptr, DigitalBoardConfig() ) );
           EXPECT_FALSE( AnalogInterfaceConfigXmlSerializer().write( nullptr, DigitalInterfaceConfig() ) );
       },
-      { assertion( "!pDigitalBoardConfig.isNull()", "TirvanaDigitalBoardConfigXmlSerializer" ),
-        assertion( "pAnalogBoardConfig", "TirvanaAnalogBoardConfigXmlSerializer" ),
-        assertion( "!pIfConfig.isNull()", "AnalogInterfaceConfigXmlSerializer" ) } },
+      assertions( "TirvanaDigitalBoardConfigXmlSerializer: !pDigitalBoardConfig.isNull(); "
+                  "TirvanaAnalogBoardConfigXmlSerializer: pAnalogBoardConfig; AnalogInterfaceConfigXmlSerializer: "
+                  "!pIfConfig.isNull()" ) },
     unwritable( "WritingOfDigitalBoardFails", &newBoard<TirvanaDigitalBoardConfig, DigitalInterfaceConfig>,
                 { assertion( "!pDigitalIfConfig.isNull()", "TirvanaDigitalInterfaceConfigXmlSerializer" ),
                   "ERROR TirvanaDigitalBoardConfigXmlSerializer: failed to serialize interface",
