@@ -254,7 +254,7 @@ void addChain( const Record& in_record, const Chains& in_mapChains, LoadCase& in
 /// The cases of an element: what is missing, wrong, or read.
 /// @param in_record "element NAME PATH [CHAIN]"
 void addRows( Record& in_record, Record& in_texts, const Chains& in_mapChains, std::vector<LoadCase>& out_vecCases ) {
-    static const std::regex s_row( R"((\S+)(?: = (.*?)(?: \| (.*?)(?: \| (.*))?)?)?)" );
+    static const std::regex s_row( R"(([\w< ]+?)(?: = (.*?)(?: \| (.*?)(?: \| (.*))?)?)?)" );
     const std::string strPath = in_record.vecWords[2];
     const std::string strLast = strPath.substr( strPath.rfind( '/' ) + 1 );
     const std::string strElement = strLast.substr( 0, strLast.find( '[' ) );
@@ -287,14 +287,18 @@ void addRows( Record& in_record, Record& in_texts, const Chains& in_mapChains, s
         for ( const std::string& strRow : in_record.mapLines[cMark] ) {
             std::smatch row;
             EXPECT_TRUE( std::regex_match( strRow, row, s_row ) ) << strRow;
-            const bool bElement = row[1].str().starts_with( '<' );
-            const std::string strWhat = row[1].str().substr( bElement ? 1 : 0 );
-            const Edit removal = bElement ? Edit{ strPath + "/" + strWhat, "-" } : Edit{ strPath, "-" + strWhat };
-            if ( cMark == '!' || cMark == ':' )
-                addRefusal( strWhat, "Missing", removal, '!', std::vector<std::string>( 5 ) );
-            if ( row[2].matched )
-                addRefusal( strWhat, "Wrong", { strPath, strWhat + "=\"" + row[2].str() + "\"" },
-                            cMark == '!' || cMark == '?' ? '?' : ';', { row.begin(), row.end() } );
+            StringVector vecAttributes;
+            strTokenize( row[1].str(), vecAttributes, ' ' );
+            for ( std::string& strWhat : vecAttributes ) {
+                const bool bElement = strWhat.starts_with( '<' );
+                strWhat.erase( 0, bElement ? 1 : 0 );
+                const Edit removal = bElement ? Edit{ strPath + "/" + strWhat, "-" } : Edit{ strPath, "-" + strWhat };
+                if ( cMark == '!' || cMark == ':' )
+                    addRefusal( strWhat, "Missing", removal, '!', std::vector<std::string>( 5 ) );
+                if ( row[2].matched )
+                    addRefusal( strWhat, "Wrong", { strPath, strWhat + "=\"" + row[2].str() + "\"" },
+                                cMark == '!' || cMark == '?' ? '?' : ';', { row.begin(), row.end() } );
+            }
         }
     }
     for ( const std::string& strRow : in_record.mapLines['='] ) {
