@@ -414,12 +414,26 @@ void check( const LoadCase& in_case ) {
 
 void takeWordsOfLibXml2( std::vector<std::string>& inout_vecExpected, const std::vector<std::string>& in_vecLines ) {
     static const std::string s_strWords = "{libxml2}";
-    for ( std::size_t u = 0; u < inout_vecExpected.size() && u < in_vecLines.size(); ++u ) {
-        const std::size_t uWords = inout_vecExpected[u].find( s_strWords );
-        if ( uWords != std::string::npos && in_vecLines[u].size() + s_strWords.size() > inout_vecExpected[u].size() &&
-             in_vecLines[u].starts_with( inout_vecExpected[u].substr( 0, uWords ) ) &&
-             in_vecLines[u].ends_with( inout_vecExpected[u].substr( uWords + s_strWords.size() ) ) )
-            inout_vecExpected[u] = in_vecLines[u];
+    for ( std::size_t u = 0; u < inout_vecExpected.size(); ++u ) {
+        const std::string strExpected = inout_vecExpected[u];
+        const std::size_t uWords = strExpected.find( s_strWords );
+        if ( uWords == std::string::npos )
+            continue;
+        std::vector<std::string> vecSaid;
+        for ( std::size_t uLine = u; uLine < in_vecLines.size(); ++uLine ) {
+            const std::string& strLine = in_vecLines[uLine];
+            if ( strLine.size() + s_strWords.size() <= strExpected.size() ||
+                 !strLine.starts_with( strExpected.substr( 0, uWords ) ) ||
+                 !strLine.ends_with( strExpected.substr( uWords + s_strWords.size() ) ) )
+                break;
+            vecSaid.push_back( strLine );
+        }
+        if ( vecSaid.empty() )
+            continue;
+        inout_vecExpected.erase( inout_vecExpected.begin() + static_cast<std::ptrdiff_t>( u ) );
+        inout_vecExpected.insert( inout_vecExpected.begin() + static_cast<std::ptrdiff_t>( u ), vecSaid.begin(),
+                                  vecSaid.end() );
+        u += vecSaid.size() - 1;
     }
 }
 
