@@ -1,6 +1,5 @@
 #include <velquin/Finding.h>
 
-#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -40,12 +39,6 @@ FindingWatch::FindingWatch( Callback in_callback )
 
 FindingWatch::~FindingWatch() {
     t_pWatch = m_pOuter;
-}
-
-void makePrintable( std::string& inout_strText ) noexcept {
-    std::replace_if(
-        inout_strText.begin(), inout_strText.end(),
-        []( char in_c ) { return static_cast<unsigned char>( in_c ) < 0x20 || in_c == 0x7f; }, '?' );
 }
 
 void reportFinding( const Logger& in_logger, Finding in_finding, const char* in_szFile, int in_nLine ) noexcept {

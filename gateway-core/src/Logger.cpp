@@ -1,5 +1,6 @@
 #include <velquin/Logger.h>
 
+#include <algorithm>
 #include <memory>
 
 #include <log4cplus/logger.h>
@@ -71,6 +72,12 @@ const Logger::Backend* Logger::getBackend() const noexcept {
     } catch ( ... ) {
         return nullptr;
     }
+}
+
+void makePrintable( std::string& inout_strText ) noexcept {
+    std::replace_if(
+        inout_strText.begin(), inout_strText.end(),
+        []( char in_c ) { return static_cast<unsigned char>( in_c ) < 0x20 || in_c == 0x7f; }, '?' );
 }
 
 } // namespace Velquin

@@ -47,6 +47,12 @@ TEST( Finding, StaysOnOneLine ) {
     EXPECT_THAT( findings.vecTexts, ElementsAre( "0: test value=a?ERROR b?\u00e9" ) );
 }
 
+TEST( Logger, KeepsTheLineBreaksOfLiteralsOnly ) {
+    const LogCapture log;
+    VELQUIN_LOG_DEBUG( s_logger, "one\n" << std::string( "a\nb" ) << '\n' << 2 );
+    EXPECT_THAT( log.getRecords(), ElementsAre( Record{ 10000, "test", "one\na?b?2" } ) );
+}
+
 TEST( Logger, NothingIsComposedBelowTheLevel ) {
     bool bComposed = false;
     for ( const int nLevel : { Logger::TRACE_LEVEL, Logger::WARNING_LEVEL } ) {

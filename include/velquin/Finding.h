@@ -75,10 +75,6 @@ private:
     FindingWatch* m_pOuter;
 };
 
-/// Puts a question mark for every control character, so that a text which holds values from a file stays on one line
-/// and can't pass for several.
-VELQUIN_CORE_EXPORT void makePrintable( std::string& inout_strText ) noexcept;
-
 /// Logs the finding's text, made printable, at its level and tells the watch of this thread. Logger name and, from the
 /// innermost place, what is still unknown of file, line and element are filled in.
 VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, Finding in_finding, const char* in_szFile,

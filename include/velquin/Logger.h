@@ -48,6 +48,33 @@ private:
     mutable std::atomic<Backend*> m_pBackend{ nullptr };
 };
 
+/// Puts a question mark for every control character, so that a text which holds values from a file stays on one line
+/// and can't pass for several.
+VELQUIN_CORE_EXPORT void makePrintable( std::string& inout_strText ) noexcept;
+
+/// Composes a log record of literals, which may have line breaks, and of values, which are made printable.
+class LogText {
+public:
+    template <std::size_t N>
+    LogText& operator<<( const char ( &in_szLiteral )[N] ) {
+        m_strText += in_szLiteral;
+        return *this;
+    }
+    template <class T>
+    LogText& operator<<( const T& in_value ) {
+        std::ostringstream value;
+        value << in_value;
+        std::string strValue = value.str();
+        makePrintable( strValue );
+        m_strText += strValue;
+        return *this;
+    }
+    const std::string& str() const noexcept { return m_strText; }
+
+private:
+    std::string m_strText;
+};
+
 } // namespace Velquin
 
 /// Declares the logger of a class: `getLogger()`, made at first use.
@@ -68,12 +95,12 @@ private:                                                                        
     }                                                                                                                  \
     static_assert( true )
 
-/// Logs what is streamed in the last argument. Nothing is composed when the level is off.
+/// Logs what is streamed in the last argument; see LogText. Nothing is composed when the level is off.
 #define VELQUIN_LOG( logger, nLevel, streamed )                                                                        \
     do {                                                                                                               \
         const ::Velquin::Logger& logTarget_ = ( logger );                                                              \
         if ( logTarget_.isEnabledFor( nLevel ) ) {                                                                     \
-            std::ostringstream logText_;                                                                               \
+            ::Velquin::LogText logText_;                                                                               \
             logText_ << streamed; /* NOLINT(bugprone-macro-parentheses): a chain of << */                              \
             logTarget_.log( nLevel, logText_.str(), __FILE__, __LINE__ );                                              \
         }                                                                                                              \
