@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <locale>
 #include <optional>
 #include <sstream>
@@ -10,8 +12,8 @@
 
 namespace Velquin::Pstn {
 
-/// What the parser of numbers does otherwise than a stream, or takes as a whole number though it is more than digits;
-/// null when it does neither.
+/// What the parser of numbers does otherwise than a stream, or takes as a whole number though a minus stands in front
+/// or more than blanks behind; null when it does neither.
 template <class T>
 const char* findNumberFault( const std::string& in_strText ) {
     std::istringstream stream( in_strText );
@@ -24,9 +26,13 @@ const char* findNumberFault( const std::string& in_strText ) {
     const auto isNegative = []( T in_number ) { return std::signbit( static_cast<double>( in_number ) ); };
     if ( bTaken && ( *leading != expected || isNegative( *leading ) != isNegative( expected ) ) )
         return "the number is that of a stream";
-    const bool bDigits = in_strText.find_first_not_of( "0123456789" ) == std::string::npos;
-    if ( parseNumber<T>( in_strText, NumberPolicy::WHOLE ) != ( bDigits ? leading : std::nullopt ) )
-        return "a whole number is digits only";
+    const auto isBlank = []( char in_c ) { return std::isspace( in_c, std::locale::classic() ); };
+    const auto itFirst = std::find_if_not( in_strText.begin(), in_strText.end(), isBlank );
+    const bool bMinus = itFirst != in_strText.end() && *itFirst == '-';
+    const bool bWhole =
+        bTaken && !bMinus && std::all_of( std::istreambuf_iterator<char>( stream.rdbuf() ), {}, isBlank );
+    if ( parseNumber<T>( in_strText, NumberPolicy::WHOLE ) != ( bWhole ? leading : std::nullopt ) )
+        return "a whole number has no minus in front and nothing but blanks behind";
     return nullptr;
 }
 

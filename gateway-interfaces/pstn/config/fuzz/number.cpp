@@ -1,4 +1,4 @@
-// Numbers are taken as a stream takes them, or when they are digits only.
+// Numbers are taken as a stream takes them, whole ones with nothing but blanks behind.
 
 #include "FuzzTarget.h"
 #include "NumberCheck.h"

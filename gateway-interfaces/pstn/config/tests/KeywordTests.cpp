@@ -132,7 +132,8 @@ TEST( Keywords, AreReadExactly ) {
 TEST( Numbers, AreTakenAsAStreamTakesThem ) {
     const std::string strZeros( 400, '0' );
     StringVector vecTexts;
-    strTokenize( "| |0|-0|+0|00|007|12abc| 12|\t\n\v\f\r12|12 |1 2|+12|-12|+-1|--1|- 1|-|+|0x10|0X1F|x|1,000|1.5|.5|"
+    strTokenize( "| |0|-0|+0|00|007|12abc| 12|\t\n\v\f\r12|12 |1 2|+12\f\v |12\x1c|-12 |1.5 |+12|-12|+-1|--1|- "
+                 "1|-|+|0x10|0X1F|x|1,000|1.5|.5|"
                  "-.5|5.|.|-.|1.2.3|..1|1e3|1E3|1e+3|1e-3|1e|1e+|1e-|1ee|1e5e5|1e5.5|e5|.e5|0e|inf|-inf|INFINITY|nan|"
                  "NaN|1_0|\xD9\xA1|\xC2\xA0"
                  "1|0b1|1f|1u|1'000|0.1|2147483647|2147483648|-2147483648|-2147483649|"

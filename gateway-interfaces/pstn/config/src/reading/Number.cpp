@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstddef>
 #include <limits>
 #include <type_traits>
 
@@ -13,28 +14,34 @@ bool isDigit( char in_c ) {
     return in_c >= '0' && in_c <= '9';
 }
 
+/// What std::isspace takes in the "C" locale.
 bool isBlank( char in_c ) {
     return in_c == ' ' || ( in_c >= '\t' && in_c <= '\r' );
 }
 
-/// The digits at the front of the text, as far as they fit.
-template <class T>
-std::optional<T> extractDigits( std::string_view in_strText, T in_max ) {
-    if ( in_strText.empty() || !isDigit( in_strText.front() ) )
-        return std::nullopt;
+/// Takes the digits at the front of the text, as far as they fit.
+template <std::unsigned_integral T>
+std::optional<T> extractDigits( std::string_view& inout_strText, T in_max ) {
     T value = 0;
-    const auto [pEnd, eError] = std::from_chars( in_strText.data(), in_strText.data() + in_strText.size(), value );
-    if ( eError != std::errc{} || value > in_max )
+    std::size_t u = 0;
+    for ( ; u < inout_strText.size() && isDigit( inout_strText[u] ); ++u ) {
+        const auto digit = static_cast<T>( inout_strText[u] - '0' );
+        if ( value > ( in_max - digit ) / 10 )
+            return std::nullopt;
+        value = static_cast<T>( 10 * value + digit );
+    }
+    if ( u == 0 )
         return std::nullopt;
+    inout_strText.remove_prefix( u );
     return value;
 }
 
 template <std::integral T>
-std::optional<T> extract( std::string_view in_strDigits, bool in_bNegative ) {
+std::optional<T> extract( std::string_view& inout_strDigits, bool in_bNegative ) {
     using Unsigned = std::make_unsigned_t<T>;
     const Unsigned max = static_cast<Unsigned>( std::numeric_limits<T>::max() );
     const Unsigned limit = std::is_signed_v<T> && in_bNegative ? static_cast<Unsigned>( max + 1U ) : max;
-    const std::optional<Unsigned> magnitude = extractDigits<Unsigned>( in_strDigits, limit );
+    const std::optional<Unsigned> magnitude = extractDigits<Unsigned>( inout_strDigits, limit );
     if ( !magnitude )
         return std::nullopt;
     return static_cast<T>( in_bNegative ? static_cast<Unsigned>( 0U - *magnitude ) : *magnitude );
@@ -57,11 +64,11 @@ bool isTooLarge( std::string_view in_strMantissa, std::string_view in_strExponen
 }
 
 template <std::floating_point T>
-std::optional<T> extract( std::string_view in_strNumber, bool in_bNegative ) {
-    if ( in_strNumber.empty() || !( isDigit( in_strNumber.front() ) || in_strNumber.front() == '.' ) )
+std::optional<T> extract( std::string_view& inout_strNumber, bool in_bNegative ) {
+    if ( inout_strNumber.empty() || !( isDigit( inout_strNumber.front() ) || inout_strNumber.front() == '.' ) )
         return std::nullopt; // from_chars would take "inf" and "nan" too
-    const char* const pFirst = in_strNumber.data();
-    const char* const pLast = pFirst + in_strNumber.size();
+    const char* const pFirst = inout_strNumber.data();
+    const char* const pLast = pFirst + inout_strNumber.size();
     T value = 0;
     const auto [pEnd, eError] = std::from_chars( pFirst, pLast, value );
     const auto isExponent = []( char in_c ) { return in_c == 'e' || in_c == 'E'; };
@@ -78,6 +85,7 @@ std::optional<T> extract( std::string_view in_strNumber, bool in_bNegative ) {
     // A stream gathers an exponent's letter as part of the number and then finds that digits are missing.
     if ( pExponent == pEnd && pEnd != pLast && isExponent( *pEnd ) )
         return std::nullopt;
+    inout_strNumber.remove_prefix( static_cast<std::size_t>( pEnd - pFirst ) );
     return in_bNegative ? -value : value;
 }
 
@@ -86,17 +94,16 @@ std::optional<T> extract( std::string_view in_strNumber, bool in_bNegative ) {
 template <class T>
 requires std::integral<T> || std::floating_point<T> std::optional<T> parseNumber( std::string_view in_strText,
                                                                                   NumberPolicy in_ePolicy ) {
-    if ( in_ePolicy == NumberPolicy::WHOLE ) {
-        if ( !std::all_of( in_strText.begin(), in_strText.end(), isDigit ) )
-            return std::nullopt;
-        return extract<T>( in_strText, false );
-    }
     while ( !in_strText.empty() && isBlank( in_strText.front() ) )
         in_strText.remove_prefix( 1 );
     const bool bNegative = !in_strText.empty() && in_strText.front() == '-';
     if ( bNegative || ( !in_strText.empty() && in_strText.front() == '+' ) )
         in_strText.remove_prefix( 1 );
-    return extract<T>( in_strText, bNegative );
+    std::optional<T> number = extract<T>( in_strText, bNegative );
+    if ( in_ePolicy == NumberPolicy::WHOLE &&
+         ( bNegative || !std::all_of( in_strText.begin(), in_strText.end(), isBlank ) ) )
+        return std::nullopt;
+    return number;
 }
 
 template std::optional<int> parseNumber<int>( std::string_view, NumberPolicy );

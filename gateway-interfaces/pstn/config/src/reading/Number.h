@@ -11,7 +11,7 @@ namespace Velquin::Pstn {
 /// How much of a text a number takes.
 enum class NumberPolicy {
     LEADING, ///< what formatted stream extraction takes, and nothing is said of what follows: "12abc" is 12
-    WHOLE,   ///< all of it, decimal digits only: "12abc", "0x10", "-1" and " 1" are no numbers
+    WHOLE, ///< the same, with no minus in front and nothing but blanks behind: " +12 " is 12, "12abc" and "-1" are none
 };
 
 /// The number that the text holds; nothing when it holds none or one that the type can't take. Agrees with
