@@ -5,12 +5,6 @@
 
 // A loaded model that many threads read at once, and loads at the same time; the thread sanitizer watches.
 
-/// Boost.Regex hands blocks of memory from thread to thread through atomics of its shared library, which the thread
-/// sanitizer doesn't see.
-extern "C" const char* __tsan_default_suppressions() {
-    return "race:boost::re_detail";
-}
-
 namespace Velquin::Pstn::Test {
 
 TEST( Threads, ReadAModelWhoseConfigurationIsLetGo ) {

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
+#include <numeric>
+#include <string>
 #include <string_view>
 
 #include <boost/regex.hpp>
@@ -16,22 +17,26 @@ namespace Velquin::Pstn {
 
 namespace {
 
+/// Which characters a name may have. The expression allows any run of some characters, so that it is asked once which
+/// they are: a large model has thousands of names, and matching each would cost more than all else that is done with
+/// it.
+std::array<bool, 256> findAllowed() {
+    const boost::regex regex( "([-0-9a-zA-Z_ ]*)" );
+    std::array<bool, 256> abAllowed{};
+    std::string strAll( abAllowed.size(), '\0' );
+    std::iota( strAll.begin(), strAll.end(), '\0' );
+    const boost::sregex_iterator itEnd;
+    for ( boost::sregex_iterator it( strAll.begin(), strAll.end(), regex, boost::match_not_null ); it != itEnd; ++it ) {
+        for ( const char c : it->str() )
+            abAllowed[static_cast<unsigned char>( c )] = true;
+    }
+    return abAllowed;
+}
+
 bool isDisplayName( std::string_view in_strName ) {
-    // The expression allows any run of some characters. Those that it has let pass are remembered: a large model has
-    // thousands of names, and matching each would cost more than all else that is done with it.
-    static std::array<std::atomic<bool>, 256> s_abPassed;
-    const auto getPassed = []( char in_c ) -> std::atomic<bool>& {
-        return s_abPassed[static_cast<unsigned char>( in_c )];
-    };
-    if ( std::all_of( in_strName.begin(), in_strName.end(),
-                      [&]( char in_c ) { return getPassed( in_c ).load( std::memory_order_relaxed ); } ) )
-        return true;
-    static const boost::regex s_regex( "([-0-9a-zA-Z_ ]*)" );
-    if ( !boost::regex_match( in_strName.begin(), in_strName.end(), s_regex ) )
-        return false;
-    for ( const char c : in_strName )
-        getPassed( c ).store( true, std::memory_order_relaxed );
-    return true;
+    static const std::array<bool, 256> s_abAllowed = findAllowed();
+    return std::all_of( in_strName.begin(), in_strName.end(),
+                        []( char in_c ) { return s_abAllowed[static_cast<unsigned char>( in_c )]; } );
 }
 
 } // namespace
