@@ -4,6 +4,7 @@
 #include <velquin/Finding.h>
 
 #include "AppendUnique.h"
+#include "Setters.h"
 
 namespace Velquin::Pstn {
 
@@ -33,22 +34,12 @@ TSHandle<ChannelGroupConfig> CallControlConfig::getChannelGroupConfig( const cha
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), {} )
 
-bool CallControlConfig::setIsdnConfig( IsdnConfig* in_pIsdnConfig ) try {
-    const TSHandle<IsdnConfig> pIsdnConfig( in_pIsdnConfig );
-    if ( !VELQUIN_ASSERT( !pIsdnConfig.isNull() ) )
-        return false;
-    m_hIsdnConfig = pIsdnConfig;
-    return true;
+bool CallControlConfig::setIsdnConfig( IsdnConfig* in_pIsdnConfig ) {
+    return setOwned( m_hIsdnConfig, in_pIsdnConfig, getLogger(), "!pIsdnConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool CallControlConfig::setAnalogConfig( AnalogCallControlConfig* in_pAnalogConfig ) try {
-    const TSHandle<AnalogCallControlConfig> pAnalogConfig( in_pAnalogConfig );
-    if ( !VELQUIN_ASSERT( !pAnalogConfig.isNull() ) )
-        return false;
-    m_hAnalogConfig = pAnalogConfig;
-    return true;
+bool CallControlConfig::setAnalogConfig( AnalogCallControlConfig* in_pAnalogConfig ) {
+    return setOwned( m_hAnalogConfig, in_pAnalogConfig, getLogger(), "!pAnalogConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 } // namespace Velquin::Pstn

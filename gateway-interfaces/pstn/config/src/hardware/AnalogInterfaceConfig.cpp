@@ -1,21 +1,17 @@
 #include "hardware/AnalogInterfaceConfig.h"
 
-#include <velquin/Assertion.h>
-#include <velquin/Finding.h>
+#include <utility>
 
+#include "Setters.h"
 #include "Text.h"
 
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogInterfaceConfig );
 
-bool AnalogInterfaceConfig::setPhysicalConfig( TSHandle<AnalogInterfacePhysicalConfig> in_hPhysicalConfig ) try {
-    if ( !VELQUIN_ASSERT( !in_hPhysicalConfig.isNull() ) )
-        return false;
-    m_hPhysicalConfig = std::move( in_hPhysicalConfig );
-    return true;
+bool AnalogInterfaceConfig::setPhysicalConfig( TSHandle<AnalogInterfacePhysicalConfig> in_hPhysicalConfig ) {
+    return setNotNull( m_hPhysicalConfig, std::move( in_hPhysicalConfig ), "!in_hPhysicalConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool AnalogInterfaceConfig::setPhoneNumber( const char* in_szPhoneNumber ) {
     return assignText( m_strPhoneNumber, in_szPhoneNumber, getLogger() );

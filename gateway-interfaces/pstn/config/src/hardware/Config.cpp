@@ -4,6 +4,7 @@
 #include <velquin/Finding.h>
 
 #include "AppendUnique.h"
+#include "Setters.h"
 #include "hardware/InterfaceKind.h"
 
 namespace Velquin::Pstn {
@@ -12,16 +13,24 @@ PSTN_CONFIG_CLASS_IMPL( Config );
 
 namespace {
 
+/// Takes ownership of the board and adds it unless its identifier is taken. May throw, after an ERROR line.
 template <class TBoard>
-bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, TSHandle<TBoard>& inout_hBoard,
-               const char* in_szKind, const Logger& in_logger ) {
-    VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
-                                                << inout_hBoard->getDisplayName() << ">" );
-    if ( appendUnique( inout_mapBoards, inout_hBoard->getId(), inout_hBoard ) )
-        return true;
-    VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << inout_hBoard->getId() << "<"
-                                                          << inout_hBoard->getDisplayName() << ">" );
-    return false;
+bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, TBoard* in_pNewBoard, const char* in_szKind,
+               const Logger& in_logger ) {
+    const unsigned int uId = in_pNewBoard->getId();
+    try {
+        TSHandle<TBoard> hBoard( in_pNewBoard );
+        VELQUIN_LOG_DEBUG( in_logger,
+                           "adding new " << in_szKind << " board: " << uId << "<" << hBoard->getDisplayName() << ">" );
+        if ( appendUnique( inout_mapBoards, uId, hBoard ) )
+            return true;
+        VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << uId << "<"
+                                                              << hBoard->getDisplayName() << ">" );
+        return false;
+    } catch ( ... ) {
+        VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << uId );
+        throw;
+    }
 }
 
 template <class TBoard>
@@ -105,35 +114,24 @@ bool Config::addBoardConfig( BoardConfig* in_pNewBoardConfig ) try {
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool Config::addAnalogBoardConfig( AnalogBoardConfig* in_pNewAnalogBoardConfig ) try {
-    TSHandle<AnalogBoardConfig> hBoardConfig( in_pNewAnalogBoardConfig );
     return VELQUIN_ASSERT( in_pNewAnalogBoardConfig ) &&
-           addBoard( m_mapAnalogBoards, hBoardConfig, AnalogKind::NAME, getLogger() );
+           addBoard( m_mapAnalogBoards, in_pNewAnalogBoardConfig, AnalogKind::NAME, getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool Config::addDigitalBoardConfig( DigitalBoardConfig* in_pNewDigitalBoardConfig ) try {
-    TSHandle<DigitalBoardConfig> hBoardConfig( in_pNewDigitalBoardConfig );
     return VELQUIN_ASSERT( in_pNewDigitalBoardConfig ) &&
-           addBoard( m_mapDigitalBoards, hBoardConfig, DigitalKind::NAME, getLogger() );
+           addBoard( m_mapDigitalBoards, in_pNewDigitalBoardConfig, DigitalKind::NAME, getLogger() );
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool Config::setCallControlConfig( CallControlConfig* in_pCallControlConfig ) try {
-    const TSHandle<CallControlConfig> pCallControlConfig( in_pCallControlConfig );
-    if ( !VELQUIN_ASSERT( !pCallControlConfig.isNull() ) )
-        return false;
-    m_hCallControlConfig = pCallControlConfig;
-    return true;
+bool Config::setCallControlConfig( CallControlConfig* in_pCallControlConfig ) {
+    return setOwned( m_hCallControlConfig, in_pCallControlConfig, getLogger(), "!pCallControlConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool Config::setCallControlConfig( TSHandle<CallControlConfig>& in_hCallControlConfig ) try {
-    if ( !VELQUIN_ASSERT( !in_hCallControlConfig.isNull() ) )
-        return false;
-    m_hCallControlConfig = in_hCallControlConfig;
-    return true;
+bool Config::setCallControlConfig( TSHandle<CallControlConfig>& in_hCallControlConfig ) {
+    return setNotNull( m_hCallControlConfig, in_hCallControlConfig, "!in_hCallControlConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 TSHandle<ProviderConfig> Config::getProviderConfig( const char* in_szName ) const try {
     if ( !VELQUIN_ASSERT( in_szName != nullptr ) )

@@ -1,19 +1,18 @@
 #include "hardware/DigitalInterfaceConfig.h"
 
-#include <velquin/Assertion.h>
+#include <utility>
+
 #include <velquin/Finding.h>
+
+#include "Setters.h"
 
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( DigitalInterfaceConfig );
 
-bool DigitalInterfaceConfig::setPhysicalConfig( TSHandle<DigitalInterfacePhysicalConfig> in_hPhysicalConfig ) try {
-    if ( !VELQUIN_ASSERT( !in_hPhysicalConfig.isNull() ) )
-        return false;
-    m_hPhysicalConfig = std::move( in_hPhysicalConfig );
-    return true;
+bool DigitalInterfaceConfig::setPhysicalConfig( TSHandle<DigitalInterfacePhysicalConfig> in_hPhysicalConfig ) {
+    return setNotNull( m_hPhysicalConfig, std::move( in_hPhysicalConfig ), "!in_hPhysicalConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool DigitalInterfaceConfig::hasDChannel() const try {
     if ( m_hPhysicalConfig.isNull() ) {

@@ -9,6 +9,7 @@
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
+#include "Setters.h"
 #include "hardware/BoardConfig.h"
 #include "hardware/DisplayName.h"
 
@@ -35,13 +36,9 @@ bool InterfaceConfig::setDisplayName( const char* in_szDisplayName ) {
     return assignDisplayName( m_strDisplayName, in_szDisplayName, getLogger() );
 }
 
-bool InterfaceConfig::setBoardConfig( LimitedObjPtr<const BoardConfig> in_pBoardConfig ) try {
-    if ( !VELQUIN_ASSERT( !in_pBoardConfig.isNull() ) )
-        return false;
-    m_pBoardConfig = in_pBoardConfig;
-    return true;
+bool InterfaceConfig::setBoardConfig( LimitedObjPtr<const BoardConfig> in_pBoardConfig ) {
+    return setNotNull( m_pBoardConfig, in_pBoardConfig, "!in_pBoardConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 const char* InterfaceConfig::composeUniqueId( bool in_bShort, const char* in_szKind ) const try {
     std::string& strUniqueId = in_bShort ? m_strShortUniqueId : m_strLongUniqueId;

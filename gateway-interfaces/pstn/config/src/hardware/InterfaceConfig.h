@@ -32,7 +32,8 @@ public:
 
     /// The text that names the interface across the model: "b1di2" in its short form, "b1(Span board)di2(Trunk-A)" in
     /// its long one ("ai" for analog interfaces). Composed at the first call, from what board and interface are named
-    /// then, and kept; the first call must come before the interface is shared between threads. Empty, after an
+    /// then, and kept. The first call must come before the interface is shared between threads: the reader of
+    /// interfaces makes it for both forms, so that threads which share a loaded model never compose. Empty, after an
     /// assertion, without a board.
     virtual const char* getUniqueId( bool in_bShort ) const = 0;
 

@@ -1,19 +1,13 @@
 #include "physical/DigitalInterfacePhysicalConfig.h"
 
-#include <velquin/Assertion.h>
-#include <velquin/Finding.h>
+#include "Setters.h"
 
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( DigitalInterfacePhysicalConfig );
 
-bool DigitalInterfacePhysicalConfig::setDChannelConfig( DChannelConfig* in_pDChannelConfig ) try {
-    const TSHandle<DChannelConfig> pDChannelConfig( in_pDChannelConfig );
-    if ( !VELQUIN_ASSERT( !pDChannelConfig.isNull() ) )
-        return false;
-    m_hDChannelConfig = pDChannelConfig;
-    return true;
+bool DigitalInterfacePhysicalConfig::setDChannelConfig( DChannelConfig* in_pDChannelConfig ) {
+    return setOwned( m_hDChannelConfig, in_pDChannelConfig, getLogger(), "!pDChannelConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 } // namespace Velquin::Pstn

@@ -1,8 +1,6 @@
 #include "physical/InterfacePhysicalConfig.h"
 
-#include <velquin/Assertion.h>
-#include <velquin/Finding.h>
-
+#include "Setters.h"
 #include "Text.h"
 
 namespace Velquin::Pstn {
@@ -13,13 +11,8 @@ bool InterfacePhysicalConfig::setDisplayName( const char* in_szDisplayName ) {
     return assignText( m_strDisplayName, in_szDisplayName, getLogger() );
 }
 
-bool InterfacePhysicalConfig::setAudioConfig( AudioConfig* in_pAudioConfig ) try {
-    const TSHandle<AudioConfig> pAudioConfig( in_pAudioConfig );
-    if ( !VELQUIN_ASSERT( !pAudioConfig.isNull() ) )
-        return false;
-    m_hAudioConfig = pAudioConfig;
-    return true;
+bool InterfacePhysicalConfig::setAudioConfig( AudioConfig* in_pAudioConfig ) {
+    return setOwned( m_hAudioConfig, in_pAudioConfig, getLogger(), "!pAudioConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 } // namespace Velquin::Pstn

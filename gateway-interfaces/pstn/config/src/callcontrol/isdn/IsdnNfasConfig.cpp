@@ -13,6 +13,7 @@ bool IsdnNfasConfig::addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in
     if ( !VELQUIN_ASSERT( !in_hNfasGroupMember.isNull() ) ||
          !VELQUIN_ASSERT( !in_hNfasGroupMember->getInterfaceConfig().isNull() ) )
         return false;
+    indexMembers();
     const char* const szUniqueId = in_hNfasGroupMember->getInterfaceConfig()->getUniqueId( false );
     const unsigned long long ullNfasInterfaceID = in_hNfasGroupMember->getNfasInterfaceID();
     if ( const auto it = m_membersByNfasInterfaceID.find( ullNfasInterfaceID );
@@ -29,11 +30,25 @@ bool IsdnNfasConfig::addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in
                               "interface " << szUniqueId << " is already associated with NFAS group " << getId() );
         return false;
     }
-    m_membersByNfasInterfaceID.insert( ullNfasInterfaceID, in_hNfasGroupMember.get() );
+    in_hNfasGroupMember->m_bInGroup = true;
     VELQUIN_LOG_DEBUG( getLogger(), "associated interface= " << szUniqueId << " with ISDN Nfas config " << getId() );
     return true;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
+
+/// Brings the index up to date: the members that came since, or all of them after an identifier has changed.
+void IsdnNfasConfig::indexMembers() {
+    const unsigned long long ullIdChanges = IsdnNfasGroupMemberConfig::s_ullIdChanges.load( std::memory_order_relaxed );
+    if ( m_ullIndexedIdChanges != ullIdChanges ) {
+        m_membersByNfasInterfaceID = {};
+        m_uIndexedMembers = 0;
+        m_ullIndexedIdChanges = ullIdChanges;
+    }
+    for ( ; m_uIndexedMembers < m_members.size(); ++m_uIndexedMembers ) {
+        const auto& hMember = m_members.begin()[static_cast<std::ptrdiff_t>( m_uIndexedMembers )].second;
+        m_membersByNfasInterfaceID.insert( hMember->getNfasInterfaceID(), hMember.get() );
+    }
+}
 
 bool IsdnNfasConfig::hasPrimaryDChannel() const noexcept {
     return std::any_of( m_members.begin(), m_members.end(), []( const auto& in_member ) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include <velquin/HashMapVector.h>
@@ -19,8 +20,8 @@ public:
     /// By the long unique identifier of the member's interface, in the order in which they were added.
     using Members = HashMapVector<std::string, TSHandle<IsdnNfasGroupMemberConfig>>;
 
-    /// Adds a member, which has its interface. Refuses one whose NFAS interface identifier, or whose interface, is
-    /// already in the group.
+    /// Adds a member, which has its interface. Refuses one whose NFAS interface identifier another member has at that
+    /// moment, and one whose interface is already in the group.
     bool addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in_hNfasGroupMember );
     const Members& getMemberInterfaces() const noexcept { return m_members; }
 
@@ -30,8 +31,14 @@ public:
     bool isAppliedToInterface( const char* in_szUniqueId ) const;
 
 private:
+    void indexMembers();
+
     Members m_members;
+    // The identifiers of the first members, as they were after so many changes: asking every member anew, for each that
+    // is added, would take the square of their number.
     HashMapVector<unsigned long long, LimitedObjPtr<const IsdnNfasGroupMemberConfig>> m_membersByNfasInterfaceID;
+    std::size_t m_uIndexedMembers = 0;
+    unsigned long long m_ullIndexedIdChanges = 0;
 };
 
 } // namespace Velquin::Pstn

@@ -7,6 +7,14 @@ namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( IsdnNfasGroupMemberConfig );
 
+std::atomic<unsigned long long> IsdnNfasGroupMemberConfig::s_ullIdChanges{ 0 };
+
+void IsdnNfasGroupMemberConfig::setNfasInterfaceID( unsigned long long in_ullId ) noexcept {
+    m_ullNfasInterfaceID = in_ullId;
+    if ( m_bInGroup )
+        s_ullIdChanges.fetch_add( 1, std::memory_order_relaxed );
+}
+
 bool IsdnNfasGroupMemberConfig::setInterfaceMember( TSHandle<DigitalInterfaceConfig> in_hInterfaceConfig ) try {
     if ( !VELQUIN_ASSERT( !in_hInterfaceConfig.isNull() ) )
         return false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+
 #include <velquin/TSHandle.h>
 
 #include "../../hardware/DigitalInterfaceConfig.h"
@@ -21,7 +23,7 @@ public:
 
     /// The number by which the signalling refers to the span, unique in the group.
     unsigned long long getNfasInterfaceID() const noexcept { return m_ullNfasInterfaceID; }
-    void setNfasInterfaceID( unsigned long long in_ullId ) noexcept { m_ullNfasInterfaceID = in_ullId; }
+    void setNfasInterfaceID( unsigned long long in_ullId ) noexcept;
 
     /// DISABLED until set.
     DChannelMode getDChannelMode() const noexcept { return m_eDChannelMode; }
@@ -34,9 +36,15 @@ public:
     bool setInterfaceMember( TSHandle<DigitalInterfaceConfig> in_hInterfaceConfig );
 
 private:
+    friend class IsdnNfasConfig;
+
+    /// How often a member of a group got another identifier, in the whole process: groups look their members up by it.
+    static std::atomic<unsigned long long> s_ullIdChanges;
+
     unsigned long long m_ullNfasInterfaceID = 0;
     TSHandle<DigitalInterfaceConfig> m_hInterfaceConfig;
     DChannelMode m_eDChannelMode = DChannelMode::DISABLED;
+    bool m_bInGroup = false;
 };
 
 /// The format's keywords for the enumerations above.

@@ -4,4 +4,6 @@ namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AcousticEchoCancellationConfig );
 
+AcousticEchoCancellationConfig::~AcousticEchoCancellationConfig() = default;
+
 } // namespace Velquin::Pstn

@@ -7,12 +7,18 @@
 
 namespace Velquin::Pstn {
 
-/// Cancellation of the echo between a telephone's loudspeaker and microphone (ITU-T G.167). Base of what performs it.
+/// Cancellation of the echo between a telephone's loudspeaker and microphone (ITU-T G.167). Abstract base of what
+/// performs it.
 class VELQUIN_PSTN_CONFIG_EXPORT AcousticEchoCancellationConfig : public virtual Object {
     PSTN_CONFIG_CLASS( AcousticEchoCancellationConfig );
 
+public:
+    ~AcousticEchoCancellationConfig() override = 0;
+
 protected:
     AcousticEchoCancellationConfig() = default;
+    AcousticEchoCancellationConfig( const AcousticEchoCancellationConfig& ) = default;
+    AcousticEchoCancellationConfig& operator=( const AcousticEchoCancellationConfig& ) = default;
 };
 
 } // namespace Velquin::Pstn

@@ -1,8 +1,6 @@
 #include "physical/audio/AudioConfig.h"
 
-#include <velquin/Assertion.h>
-#include <velquin/Finding.h>
-
+#include "Setters.h"
 #include "Text.h"
 
 namespace Velquin::Pstn {
@@ -13,49 +11,26 @@ bool AudioConfig::setToneSetName( const char* in_szToneSetName ) {
     return assignText( m_strToneSetName, in_szToneSetName, getLogger() );
 }
 
-bool AudioConfig::setEchoCancellationConfig( EchoCancellationConfig* in_pConfig ) try {
-    const TSHandle<EchoCancellationConfig> pEchoCancellationConfig( in_pConfig );
-    if ( !VELQUIN_ASSERT( !pEchoCancellationConfig.isNull() ) )
-        return false;
-    m_hEchoCancellation = pEchoCancellationConfig;
-    return true;
+bool AudioConfig::setEchoCancellationConfig( EchoCancellationConfig* in_pConfig ) {
+    return setOwned( m_hEchoCancellation, in_pConfig, getLogger(), "!pEchoCancellationConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool AudioConfig::setAcousticEchoCancellationConfig( AcousticEchoCancellationConfig* in_pConfig ) try {
-    const TSHandle<AcousticEchoCancellationConfig> pAcousticEchoCancellationConfig( in_pConfig );
-    if ( !VELQUIN_ASSERT( !pAcousticEchoCancellationConfig.isNull() ) )
-        return false;
-    m_hAcousticEchoCancellation = pAcousticEchoCancellationConfig;
-    return true;
+bool AudioConfig::setAcousticEchoCancellationConfig( AcousticEchoCancellationConfig* in_pConfig ) {
+    return setOwned( m_hAcousticEchoCancellation, in_pConfig, getLogger(),
+                     "!pAcousticEchoCancellationConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool AudioConfig::setLevelControlConfig( LevelControlConfig* in_pConfig ) try {
-    const TSHandle<LevelControlConfig> pLevelControlConfig( in_pConfig );
-    if ( !VELQUIN_ASSERT( !pLevelControlConfig.isNull() ) )
-        return false;
-    m_hLevelControl = pLevelControlConfig;
-    return true;
+bool AudioConfig::setLevelControlConfig( LevelControlConfig* in_pConfig ) {
+    return setOwned( m_hLevelControl, in_pConfig, getLogger(), "!pLevelControlConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool AudioConfig::setBackgroundNoiseAttenuationConfig( BackgroundNoiseAttenuationConfig* in_pConfig ) try {
-    const TSHandle<BackgroundNoiseAttenuationConfig> pBackgroundNoiseAttenuationConfig( in_pConfig );
-    if ( !VELQUIN_ASSERT( !pBackgroundNoiseAttenuationConfig.isNull() ) )
-        return false;
-    m_hBackgroundNoiseAttenuation = pBackgroundNoiseAttenuationConfig;
-    return true;
+bool AudioConfig::setBackgroundNoiseAttenuationConfig( BackgroundNoiseAttenuationConfig* in_pConfig ) {
+    return setOwned( m_hBackgroundNoiseAttenuation, in_pConfig, getLogger(),
+                     "!pBackgroundNoiseAttenuationConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool AudioConfig::setDtmfRemovalConfig( DtmfRemovalConfig* in_pConfig ) try {
-    const TSHandle<DtmfRemovalConfig> pDtmfRemovalConfig( in_pConfig );
-    if ( !VELQUIN_ASSERT( !pDtmfRemovalConfig.isNull() ) )
-        return false;
-    m_hDtmfRemoval = pDtmfRemovalConfig;
-    return true;
+bool AudioConfig::setDtmfRemovalConfig( DtmfRemovalConfig* in_pConfig ) {
+    return setOwned( m_hDtmfRemoval, in_pConfig, getLogger(), "!pDtmfRemovalConfig.isNull()" );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 } // namespace Velquin::Pstn

@@ -4,4 +4,6 @@ namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( BackgroundNoiseAttenuationConfig );
 
+BackgroundNoiseAttenuationConfig::~BackgroundNoiseAttenuationConfig() = default;
+
 } // namespace Velquin::Pstn

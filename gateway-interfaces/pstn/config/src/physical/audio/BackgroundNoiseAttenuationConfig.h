@@ -7,12 +7,17 @@
 
 namespace Velquin::Pstn {
 
-/// Attenuation of background noise. Base of what performs it.
+/// Attenuation of background noise. Abstract base of what performs it.
 class VELQUIN_PSTN_CONFIG_EXPORT BackgroundNoiseAttenuationConfig : public virtual Object {
     PSTN_CONFIG_CLASS( BackgroundNoiseAttenuationConfig );
 
+public:
+    ~BackgroundNoiseAttenuationConfig() override = 0;
+
 protected:
     BackgroundNoiseAttenuationConfig() = default;
+    BackgroundNoiseAttenuationConfig( const BackgroundNoiseAttenuationConfig& ) = default;
+    BackgroundNoiseAttenuationConfig& operator=( const BackgroundNoiseAttenuationConfig& ) = default;
 };
 
 } // namespace Velquin::Pstn

@@ -4,4 +4,6 @@ namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( DtmfRemovalConfig );
 
+DtmfRemovalConfig::~DtmfRemovalConfig() = default;
+
 } // namespace Velquin::Pstn

@@ -7,12 +7,17 @@
 
 namespace Velquin::Pstn {
 
-/// Removal of DTMF tones (ITU-T Q.23) from the voice. Base of what performs it.
+/// Removal of DTMF tones (ITU-T Q.23) from the voice. Abstract base of what performs it.
 class VELQUIN_PSTN_CONFIG_EXPORT DtmfRemovalConfig : public virtual Object {
     PSTN_CONFIG_CLASS( DtmfRemovalConfig );
 
+public:
+    ~DtmfRemovalConfig() override = 0;
+
 protected:
     DtmfRemovalConfig() = default;
+    DtmfRemovalConfig( const DtmfRemovalConfig& ) = default;
+    DtmfRemovalConfig& operator=( const DtmfRemovalConfig& ) = default;
 };
 
 } // namespace Velquin::Pstn

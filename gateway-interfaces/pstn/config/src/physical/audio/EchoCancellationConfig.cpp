@@ -4,4 +4,6 @@ namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( EchoCancellationConfig );
 
+EchoCancellationConfig::~EchoCancellationConfig() = default;
+
 } // namespace Velquin::Pstn

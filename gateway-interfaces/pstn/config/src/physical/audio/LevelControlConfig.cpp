@@ -4,4 +4,6 @@ namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( LevelControlConfig );
 
+LevelControlConfig::~LevelControlConfig() = default;
+
 } // namespace Velquin::Pstn

@@ -7,12 +7,17 @@
 
 namespace Velquin::Pstn {
 
-/// Control of the voice level. Base of what performs it.
+/// Control of the voice level. Abstract base of what performs it.
 class VELQUIN_PSTN_CONFIG_EXPORT LevelControlConfig : public virtual Object {
     PSTN_CONFIG_CLASS( LevelControlConfig );
 
+public:
+    ~LevelControlConfig() override = 0;
+
 protected:
     LevelControlConfig() = default;
+    LevelControlConfig( const LevelControlConfig& ) = default;
+    LevelControlConfig& operator=( const LevelControlConfig& ) = default;
 };
 
 } // namespace Velquin::Pstn
