@@ -262,7 +262,11 @@ TEST( AllocationFailures, OfTheLibraryEndALoadWell ) {
                 return in_strLines.find( "AnalogDisconnect" ) != std::string::npos;
             } ) );
     }
-    EXPECT_TRUE( holds( setTexts, "out of memory in " ) );
+    for ( const char* const szText : { "out of memory in ", "Assertion failed: !hCallControlConfig.isNull()",
+                                       "Assertion failed: !pAudioConfigXmlSerializer.isNull()",
+                                       "Assertion failed: !pLevelControlConfig.isNull()" } )
+        EXPECT_TRUE( holds( setTexts, szText ) ) << szText;
+    EXPECT_TRUE( setTexts.contains( "failed to add new analog board: 1" ) );
 }
 
 } // namespace Velquin::Pstn::Test

@@ -161,6 +161,12 @@ TEST( Analog, ParsesSequences ) {
     }
 }
 
+TEST( Analog, PartsHaveAnAccountOfTheirOwnAndALoggerBelowThatOfTheWhole ) {
+    using Inbound = AnalogFxsConfig::InboundCallHandlingConfig;
+    EXPECT_STREQ( Inbound::getMemAccountName(), "InboundCallHandlingConfig" );
+    EXPECT_STREQ( Inbound::getLogger().getName(), "marovane.pstn.config.AnalogFxsConfig.InboundCallHandlingConfig" );
+}
+
 TEST( Analog, LogsAtDebugWhatItAdds ) {
     const Velquin::Test::LogCapture log( Logger::DEBUG_LEVEL );
     XmlConfig config;

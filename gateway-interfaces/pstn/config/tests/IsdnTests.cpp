@@ -78,6 +78,34 @@ const std::vector<CallCase> CALLS{
           "IsdnCommonConfigXmlSerializer: !pIsdnCommonConfig.isNull(), !pIsdnCommonConfig.isNull(); "
           "IsdnFasConfigXmlSerializer: !pCommonConfig.isNull(), !pFasConfig.isNull(); IsdnNFasConfigXmlSerializer: "
           "!pNFasConfig.isNull(); IsdnNfasGroupMemberConfigXmlSerializer: in_pNfasConfig" ) },
+    { "IsdnReadersWithoutRoot",
+      [] {
+          XmlConfig config;
+          TSHandle<CallControlConfig> hNull;
+          IsdnNfasConfig group;
+          EXPECT_FALSE( IsdnFasConfigXmlSerializer().read( hNull, nullptr, config ) ||
+                        IsdnNFasConfigXmlSerializer().read( hNull, nullptr, config ) );
+          EXPECT_TRUE( IsdnNfasGroupMemberConfigXmlSerializer().read( hNull, &group, nullptr, config ).isNull() );
+      },
+      assertions( "IsdnFasConfigXmlSerializer: !in_hCallControlConfig.isNull(); IsdnNFasConfigXmlSerializer: "
+                  "!in_hCallControlConfig.isNull(); IsdnNfasGroupMemberConfigXmlSerializer: "
+                  "!in_hCallControlConfig.isNull()" ) },
+    { "NfasGroupAsksItsMembersWhatIdentifierTheyHave",
+      [] {
+          XmlConfig config;
+          loadValid( config, TestDocument() );
+          IsdnNfasConfig group = *config.getCallControlConfig()->getIsdnConfig()->getNfasConfigs().at( 1 );
+          group.getMemberInterfaces().begin()->second->setNfasInterfaceID( 9 );
+          TSHandle<IsdnNfasGroupMemberConfig> hMember( new IsdnNfasGroupMemberConfig() );
+          hMember->setDChannelMode( IsdnNfasGroupMemberConfig::DChannelMode::BACKUP );
+          EXPECT_TRUE( hMember->setInterfaceMember( config.getDigitalInterfaceConfig( 1, 1 ) ) );
+          hMember->setNfasInterfaceID( 9 );
+          EXPECT_FALSE( group.addMemberInterface( hMember ) );
+          hMember->setNfasInterfaceID( 0 );
+          EXPECT_TRUE( group.addMemberInterface( hMember ) ) << "nobody has it any more";
+      },
+      { "ERROR IsdnNfasConfig: failed to insert the interface b1(E1 card)di1(E1-A) in NFAS group 1 because the "
+        "NfasInterfaceID=9 is already used by interface b2(T1 card)di1(T1-A)" } },
 };
 
 } // namespace

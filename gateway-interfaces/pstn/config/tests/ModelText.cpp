@@ -102,7 +102,10 @@ void describe( const Lines& in_lines, const AnalogInterfaceConfig& in_port ) {
 }
 
 void describe( const Lines& in_lines, const DigitalInterfaceConfig& in_span ) {
-    in_lines( "virtual", dynamic_cast<const TirvanaDigitalVirtualInterfaceConfig*>( &in_span ) != nullptr );
+    const auto* const pVirtual = dynamic_cast<const TirvanaDigitalVirtualInterfaceConfig*>( &in_span );
+    in_lines( "virtual", pVirtual != nullptr );
+    if ( pVirtual )
+        in_lines( "peerBoard", pVirtual->getPeerVirtualBoardId() )( "peer", pVirtual->getPeerVirtualInterfaceId() );
     if ( const auto* const pSpan = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( &in_span ) )
         in_lines( "tirpipe", pSpan->getTirpipe() )( "primaryClockReference", pSpan->isPrimaryClockReference() );
 }

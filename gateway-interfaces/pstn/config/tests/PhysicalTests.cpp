@@ -57,6 +57,11 @@ class NoDChannel : public DChannelConfigXmlSerializer {
     DChannelConfig* newDChannelConfig() override { return nullptr; }
 };
 
+template <class... TConfigs>
+constexpr bool ARE_ABSTRACT = ( std::is_abstract_v<TConfigs> && ... );
+static_assert( ARE_ABSTRACT<EchoCancellationConfig, AcousticEchoCancellationConfig, LevelControlConfig,
+                            BackgroundNoiseAttenuationConfig, DtmfRemovalConfig> );
+
 class NoEcho : public HardwareEchoCancellationConfigXmlSerializer {
     EchoCancellationConfig* newConfig() override { return nullptr; }
 };
@@ -130,6 +135,7 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( NoDChannel().read( pElement, config ) || NoEcho().read( pElement, config ) );
       },
       assertions( "InterfacePhysicalConfigXmlSerializer: !pAudioConfigXmlSerializer.isNull(); "
+                  "TirvanaDigitalInterfacePhysicalConfigXmlSerializer: !hTirvanaDigitalInterfacePhysicalConfig.isNull(); "
                   "AudioConfigXmlSerializer: !pAudioConfig.isNull(); TirvanaAudioConfigXmlSerializer: "
                   "!pTirvanaAudioConfig.isNull(); DChannelConfigXmlSerializer: !pDChannelConfig.isNull(); "
                   "EchoCancellationConfigXmlSerializer: !pEchoCancellationConfig.isNull(); "

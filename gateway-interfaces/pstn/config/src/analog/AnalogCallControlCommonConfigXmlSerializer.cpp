@@ -26,13 +26,9 @@ AnalogCallControlCommonConfig* AnalogCallControlCommonConfigXmlSerializer::read(
         return nullptr;
     // clang-format on
 
-    unsigned int uId = 0;
-    if ( !reader.requireNumber( "ID", LEADING_DECIMAL, uId ) )
-        return nullptr;
-    pCommonConfig->setId( uId );
-
-    AttributeText displayName;
-    if ( !reader.requireText( "displayName", displayName ) || !pCommonConfig->setDisplayName( displayName.c_str() ) )
+    using Config = AnalogCallControlCommonConfig;
+    if ( !reader.require( "ID", LEADING_DECIMAL, *pCommonConfig, &Config::setId ) ||
+         !reader.require( "displayName", ANY_TEXT, *pCommonConfig, &Config::setDisplayName ) )
         return nullptr;
     return pCommonConfig.release();
 }

@@ -1,11 +1,10 @@
 #include "analog/AnalogCallControlConfigXmlSerializer.h"
 
 #include <velquin/UniqueObjPtr.h>
-#include <velquin/XML.h>
 
 #include "analog/AnalogFxoConfigXmlSerializer.h"
 #include "analog/AnalogFxsConfigXmlSerializer.h"
-#include "reading/ElementReader.h"
+#include "reading/ElementEntries.h"
 #include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
@@ -34,32 +33,31 @@ AnalogCallControlConfig* AnalogCallControlConfigXmlSerializer::read( TSHandle<Ca
                                                                      xmlNode* const in_pElement,
                                                                      XmlConfig& in_xmlConfig ) try {
     UniqueObjPtr<AnalogCallControlConfig> pAnalogConfig( new AnalogCallControlConfig() );
-    for ( xmlNode* pElement = XML::findFirstElement( in_pElement, FXO_ELEMENT ); pElement;
-          pElement = XML::findNextElement( pElement, FXO_ELEMENT ) ) {
-        const ElementPlace place( pElement );
+    const auto readFxo = [&]( xmlNode* in_pFxo ) {
         AnalogFxoConfig* const pNewFXOConfig =
-            readConfig<AnalogFxoConfig, AnalogFxoConfigXmlSerializer>( in_hCallControlConfig, pElement, in_xmlConfig );
+            readConfig<AnalogFxoConfig, AnalogFxoConfigXmlSerializer>( in_hCallControlConfig, in_pFxo, in_xmlConfig );
         if ( !VELQUIN_ASSERT( pNewFXOConfig ) )
-            return nullptr;
-        if ( !pAnalogConfig->addFXOConfig( pNewFXOConfig ) ) {
-            VELQUIN_REPORT_ERROR( getLogger(), "Error while adding analog FXO config" );
-            return nullptr;
-        }
-    }
+            return false;
+        if ( pAnalogConfig->addFXOConfig( pNewFXOConfig ) )
+            return true;
+        VELQUIN_REPORT_ERROR( getLogger(), "Error while adding analog FXO config" );
+        return false;
+    };
+    const auto readFxs = [&]( xmlNode* in_pFxs ) {
+        AnalogFxsConfig* const pNewFXSConfig =
+            readConfig<AnalogFxsConfig, AnalogFxsConfigXmlSerializer>( in_hCallControlConfig, in_pFxs, in_xmlConfig );
+        if ( !VELQUIN_ASSERT( pNewFXSConfig ) )
+            return false;
+        if ( pAnalogConfig->addFXSConfig( pNewFXSConfig ) )
+            return true;
+        VELQUIN_REPORT_ERROR( getLogger(), "Error while adding analog FXS config" );
+        return false;
+    };
     // From the first FXS element the walk goes on to FXO elements: later FXS elements are passed over. The schema of
     // the format lets none stand there.
-    for ( xmlNode* pElement = XML::findFirstElement( in_pElement, FXS_ELEMENT ); pElement;
-          pElement = XML::findNextElement( pElement, FXO_ELEMENT ) ) {
-        const ElementPlace place( pElement );
-        AnalogFxsConfig* const pNewFXSConfig =
-            readConfig<AnalogFxsConfig, AnalogFxsConfigXmlSerializer>( in_hCallControlConfig, pElement, in_xmlConfig );
-        if ( !VELQUIN_ASSERT( pNewFXSConfig ) )
-            return nullptr;
-        if ( !pAnalogConfig->addFXSConfig( pNewFXSConfig ) ) {
-            VELQUIN_REPORT_ERROR( getLogger(), "Error while adding analog FXS config" );
-            return nullptr;
-        }
-    }
+    if ( !readEntries( ChildElements( in_pElement, FXO_ELEMENT ), readFxo ) ||
+         !readEntries( ChildElements( in_pElement, FXS_ELEMENT, FXO_ELEMENT ), readFxs ) )
+        return nullptr;
     return pAnalogConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

@@ -6,8 +6,7 @@
 #include <velquin/XML.h>
 
 #include "analog/AnalogWording.h"
-#include "reading/ChildElements.h"
-#include "reading/ElementReader.h"
+#include "reading/ElementEntries.h"
 #include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
@@ -17,29 +16,23 @@ PSTN_CONFIG_CLASS_IMPL( AnalogDisconnectSupervisionConfigXmlSerializer );
 namespace {
 
 bool readRingCadence( xmlNode* in_pElement, const Logger& in_logger, AnalogDisconnectSupervisionConfig& out_config ) {
+    using Config = AnalogDisconnectSupervisionConfig;
     const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
-    bool bActive = false;
-    if ( !reader.requireKeyword( "active", Keywords::YES_NO, bActive ) )
-        return false;
-    unsigned int uDelayMs = AnalogDisconnectSupervisionConfig::NO_DELAY_MS;
-    if ( bActive && !reader.requireNumber( "ringCadenceOffDelayMs", POSITIVE_INTEGER, uDelayMs ) )
-        return false;
-    out_config.setRingCadenceDetectionState( bActive );
-    out_config.setRingCadenceOffDelayMs( uDelayMs );
-    return true;
+    return reader.require( "active", Keywords::YES_NO, out_config, &Config::setRingCadenceDetectionState ) &&
+           ( !out_config.isRingCadenceDetectionEnabled() ||
+             reader.require( "ringCadenceOffDelayMs", POSITIVE_INTEGER, out_config,
+                             &Config::setRingCadenceOffDelayMs ) );
 }
 
 bool readDetector( xmlNode* in_pElement, const Logger& in_logger, AnalogDisconnectSupervisionConfig& inout_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
+    const AttributeReader reader( in_pElement, in_logger, FXO_WORDING );
     UniqueObjPtr<AnalogDisconnectDetectorConfig> pDetectorConfig( new ( std::nothrow )
                                                                       AnalogDisconnectDetectorConfig() );
     if ( !VELQUIN_ASSERT( !pDetectorConfig.isNull() ) )
         return false;
-    AttributeText name;
-    if ( !reader.requireText( "name", name ) || !pDetectorConfig->setName( name.c_str() ) )
-        return false;
     AttributeText sequence;
-    if ( !reader.requireText( "sequence", sequence ) )
+    if ( !reader.require( "name", ANY_TEXT, *pDetectorConfig, &AnalogDisconnectDetectorConfig::setName ) ||
+         !reader.requireText( "sequence", sequence ) )
         return false;
     if ( !pDetectorConfig->parseSequence( sequence.c_str() ) ) {
         VELQUIN_REPORT_ERROR( in_logger, "Could not parse detector sequence for disconnect detector "
@@ -66,11 +59,10 @@ AnalogDisconnectSupervisionConfig* AnalogDisconnectSupervisionConfigXmlSerialize
     xmlNode* const pRingCadence = XML::findFirstElement( pDetectors, "ringCadenceDetector" );
     if ( pRingCadence && !readRingCadence( pRingCadence, getLogger(), *pDisconnectConfig ) )
         return nullptr;
-    for ( xmlNode* const pDetector : ChildElements( pDetectors, "detector" ) ) {
-        if ( !readDetector( pDetector, getLogger(), *pDisconnectConfig ) )
-            return nullptr;
-    }
-    return pDisconnectConfig.release();
+    const bool bRead = readEntries( ChildElements( pDetectors, "detector" ), [&]( xmlNode* in_pDetector ) {
+        return readDetector( in_pDetector, getLogger(), *pDisconnectConfig );
+    } );
+    return bRead ? pDisconnectConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

@@ -1,37 +1,30 @@
 #include "analog/AnalogFxoConfig.h"
 
-#include <velquin/Finding.h>
-
+#include "Setters.h"
 #include "Text.h"
 
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfig );
-PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfig::InboundCallHandlingConfig );
-PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfig::OutboundCallHandlingConfig );
+PSTN_CONFIG_NESTED_CLASS_IMPL( AnalogFxoConfig, InboundCallHandlingConfig );
+PSTN_CONFIG_NESTED_CLASS_IMPL( AnalogFxoConfig, OutboundCallHandlingConfig );
 
 bool AnalogFxoConfig::OutboundCallHandlingConfig::setInternationalDialingSpecialCharacterSubstitute(
     const char* in_szSubstitute ) {
     return assignText( m_strSpecialCharacterSubstitute, in_szSubstitute, getLogger() );
 }
 
-bool AnalogFxoConfig::setInboundCallHandlingConfig( InboundCallHandlingConfig* in_pInboundCallHandlingConfig ) try {
-    m_hInboundCallHandlingConfig = TSHandle<InboundCallHandlingConfig>( in_pInboundCallHandlingConfig );
-    return true;
+bool AnalogFxoConfig::setInboundCallHandlingConfig( InboundCallHandlingConfig* in_pInboundCallHandlingConfig ) {
+    return setOwned( m_hInboundCallHandlingConfig, in_pInboundCallHandlingConfig, getLogger() );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool AnalogFxoConfig::setOutboundCallHandlingConfig( OutboundCallHandlingConfig* in_pOutboundCallHandlingConfig ) try {
-    m_hOutboundCallHandlingConfig = TSHandle<OutboundCallHandlingConfig>( in_pOutboundCallHandlingConfig );
-    return true;
+bool AnalogFxoConfig::setOutboundCallHandlingConfig( OutboundCallHandlingConfig* in_pOutboundCallHandlingConfig ) {
+    return setOwned( m_hOutboundCallHandlingConfig, in_pOutboundCallHandlingConfig, getLogger() );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool AnalogFxoConfig::setDisconnectSupervisionConfig(
-    AnalogDisconnectSupervisionConfig* in_pDisconnectSupervisionConfig ) try {
-    m_hDisconnectSupervisionConfig = TSHandle<AnalogDisconnectSupervisionConfig>( in_pDisconnectSupervisionConfig );
-    return true;
+    AnalogDisconnectSupervisionConfig* in_pDisconnectSupervisionConfig ) {
+    return setOwned( m_hDisconnectSupervisionConfig, in_pDisconnectSupervisionConfig, getLogger() );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 } // namespace Velquin::Pstn

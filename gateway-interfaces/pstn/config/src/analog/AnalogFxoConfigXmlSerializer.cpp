@@ -16,7 +16,7 @@
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfigXmlSerializer );
-PSTN_CONFIG_CLASS_IMPL( AnalogFxoConfigXmlSerializer::InterfaceRefXmlSerializer );
+PSTN_CONFIG_NESTED_CLASS_IMPL( AnalogFxoConfigXmlSerializer, InterfaceRefXmlSerializer );
 
 namespace {
 
@@ -42,47 +42,27 @@ struct FxoFamily {
     }
 };
 
-bool readNotification( xmlNode* in_pElement, const Logger& in_logger, InboundConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
-    auto eCondition = out_config.getNotifyCondition();
-    if ( !reader.requireKeyword( "condition", Keywords::FXO_NOTIFY_CONDITION, eCondition ) )
-        return false;
-    out_config.setNotifyCondition( eCondition );
-
-    if ( eCondition == InboundConfig::NotifyCondition::AFTER_N_RING ) {
-        unsigned int uRings = 0;
-        if ( !reader.requireNumber( "numberOfRings", POSITIVE_INTERGER, uRings ) )
-            return false;
-        out_config.setNumberOfRings( uRings );
-    }
-
-    unsigned int uDelayMs = 0;
-    if ( !reader.requireNumber( "delayInMs", POSITIVE_INTERGER, uDelayMs ) )
-        return false;
-    out_config.setNotifyDelayMs( uDelayMs );
-    return true;
+bool readNotification( const ElementReader& in_reader, InboundConfig& out_config ) {
+    return in_reader.require( "condition", Keywords::FXO_NOTIFY_CONDITION, out_config,
+                              &InboundConfig::setNotifyCondition ) &&
+           ( out_config.getNotifyCondition() != InboundConfig::NotifyCondition::AFTER_N_RING ||
+             in_reader.require( "numberOfRings", POSITIVE_INTERGER, out_config, &InboundConfig::setNumberOfRings ) ) &&
+           in_reader.require( "delayInMs", POSITIVE_INTERGER, out_config, &InboundConfig::setNotifyDelayMs );
 }
 
-bool readInbound( xmlNode* in_pElement, const Logger& in_logger, InboundConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
-    xmlNode* const pNotify = reader.requireChild( "notifyOutboundSide" );
-    if ( !pNotify || !readNotification( pNotify, in_logger, out_config ) )
-        return false;
+bool readInboundConnection( const ElementReader& in_reader, InboundConfig& out_config ) {
+    return in_reader.require( "condition", Keywords::FXO_INBOUND_CONNECT_CONDITION, out_config,
+                              &InboundConfig::setConnectCondition );
+}
 
-    xmlNode* const pConnect = reader.requireChild( "connect" );
-    auto eCondition = out_config.getConnectCondition();
-    if ( !pConnect || !ElementReader( pConnect, in_logger, FXO_WORDING )
-                           .requireKeyword( "condition", Keywords::FXO_INBOUND_CONNECT_CONDITION, eCondition ) )
-        return false;
-    out_config.setConnectCondition( eCondition );
+bool readCallerId( const ElementReader& in_reader, InboundConfig& out_config ) {
+    return in_reader.require( "type", Keywords::FXO_CALLER_ID_TYPE, out_config, &InboundConfig::setCallerIdType );
+}
 
-    xmlNode* const pCallerId = reader.requireChild( "callerID" );
-    auto eCallerIdType = out_config.getCallerIdType();
-    if ( !pCallerId || !ElementReader( pCallerId, in_logger, FXO_WORDING )
-                            .requireKeyword( "type", Keywords::FXO_CALLER_ID_TYPE, eCallerIdType ) )
-        return false;
-    out_config.setCallerIdType( eCallerIdType );
-    return true;
+bool readInbound( const ElementReader& in_reader, InboundConfig& out_config ) {
+    return in_reader.readChild( "notifyOutboundSide", readNotification, out_config ) &&
+           in_reader.readChild( "connect", readInboundConnection, out_config ) &&
+           in_reader.readChild( "callerID", readCallerId, out_config );
 }
 
 /// The character that marks an international number: one that can't be a digit of the number.
@@ -95,9 +75,9 @@ char readSpecialCharacter( const AttributeReader& in_reader ) {
 }
 
 /// The digits that stand for that character; text that isn't digits is reported and replaced.
-std::string readSubstitute( const AttributeReader& in_reader, const Logger& in_logger ) {
+std::string readSubstitute( const AttributeReader& in_reader ) {
     AttributeText text;
-    if ( in_reader.findText( SPECIAL_CHARACTER_SUBSTITUTE, text ) == ReadResult::ABSENT )
+    if ( !in_reader.findText( SPECIAL_CHARACTER_SUBSTITUTE, text ) )
         return DEFAULT_SUBSTITUTE;
     if ( text.view().find_first_not_of( DIGITS ) == std::string_view::npos )
         return text.c_str();
@@ -113,96 +93,58 @@ std::string readSubstitute( const AttributeReader& in_reader, const Logger& in_l
                                    "to 011 since the entered value " )
                           .append( text.view() )
                           .append( " is not valid." );
-    reportFinding( in_logger, std::move( finding ), __FILE__, __LINE__ );
+    reportFinding( in_reader.getLogger(), std::move( finding ), __FILE__, __LINE__ );
     return DEFAULT_SUBSTITUTE;
 }
 
-bool readDialing( xmlNode* in_pElement, const Logger& in_logger, OutboundConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
-    bool bActive = false;
-    bool bWaitForDialTone = false;
-    if ( !reader.requireKeyword( "active", Keywords::YES_NO, bActive ) ||
-         !reader.requireKeyword( "waitForDialTone", Keywords::YES_NO, bWaitForDialTone ) )
+bool readDialing( const ElementReader& in_reader, OutboundConfig& out_config ) {
+    if ( !in_reader.require( "active", Keywords::YES_NO, out_config, &OutboundConfig::setDialingActive ) ||
+         !in_reader.require( "waitForDialTone", Keywords::YES_NO, out_config, &OutboundConfig::enableWaitForDialTone ) )
         return false;
-    out_config.setDialingActive( bActive );
-    out_config.enableWaitForDialTone( bWaitForDialTone );
-
-    out_config.setInternationalDialingSpecialCharacter( readSpecialCharacter( reader ) );
-    const std::string strSubstitute = readSubstitute( reader, in_logger );
-    if ( !out_config.setInternationalDialingSpecialCharacterSubstitute( strSubstitute.c_str() ) )
-        return false;
-
-    unsigned int uPreDialDelayMs = 0;
-    unsigned int uInterDigitDelayMs = 0;
-    unsigned int uDigitDurationMs = 0;
-    if ( !reader.requireNumber( "preDialDelayInMs", POSITIVE_INTERGER, uPreDialDelayMs ) ||
-         !reader.requireNumber( "interDigitDelayInMs", POSITIVE_INTERGER, uInterDigitDelayMs ) ||
-         !reader.requireNumber( "DTMFDigitDurationInMs", POSITIVE_INTERGER, uDigitDurationMs ) )
-        return false;
-    out_config.setPreDialDelayMs( uPreDialDelayMs );
-    out_config.setInterDigitDelayMs( uInterDigitDelayMs );
-    out_config.setDTMFDigitDurationMs( uDigitDurationMs );
-    return true;
+    out_config.setInternationalDialingSpecialCharacter( readSpecialCharacter( in_reader ) );
+    const std::string strSubstitute = readSubstitute( in_reader );
+    return out_config.setInternationalDialingSpecialCharacterSubstitute( strSubstitute.c_str() ) &&
+           in_reader.require( "preDialDelayInMs", POSITIVE_INTERGER, out_config, &OutboundConfig::setPreDialDelayMs ) &&
+           in_reader.require( "interDigitDelayInMs", POSITIVE_INTERGER, out_config,
+                              &OutboundConfig::setInterDigitDelayMs ) &&
+           in_reader.require( "DTMFDigitDurationInMs", POSITIVE_INTERGER, out_config,
+                              &OutboundConfig::setDTMFDigitDurationMs );
 }
 
 /// Reads what on the line says that the call is answered.
-bool readOutboundSide( xmlNode* in_pElement, const Logger& in_logger, OutboundConfig& out_config ) {
+bool readOutboundSide( const ElementReader& in_reader, OutboundConfig& out_config ) {
     using Supervision = OutboundConfig::ConnectSupervision;
-    const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
     AttributeText condition;
-    if ( !reader.requireText( "condition", condition ) )
+    if ( !in_reader.requireText( "condition", condition ) )
         return false;
     const Supervision* const pSupervision = Keywords::FXO_CONNECT_SUPERVISION.find( condition.view() );
-    if ( !pSupervision || *pSupervision != Supervision::AFTER_DIALING_DESTINATION_NUMBER ) {
-        // Of an unknown condition without a timeout, the timeout is what is reported.
-        unsigned int uTimeoutMs = 0;
-        if ( !reader.requireNumber( "disconnectTimeoutMs", POSITIVE_INTERGER, uTimeoutMs ) )
-            return false;
-        out_config.setDisconnectTimeoutMs( uTimeoutMs );
-    }
-    if ( !pSupervision ) {
-        reader.reportInvalid( "condition", condition.view() );
+    // Of an unknown condition without a timeout, the timeout is what is reported.
+    if ( ( !pSupervision || *pSupervision != Supervision::AFTER_DIALING_DESTINATION_NUMBER ) &&
+         !in_reader.require( "disconnectTimeoutMs", POSITIVE_INTERGER, out_config,
+                             &OutboundConfig::setDisconnectTimeoutMs ) )
         return false;
-    }
-    out_config.setOutboundSideConnectSupervision( *pSupervision );
-
-    if ( *pSupervision == Supervision::ON_REMOTE_RING_STOPPED ) {
-        unsigned int uTimeoutMs = 0;
-        if ( !reader.requireNumber( "connectOnNoRemoteRingTimeoutMs", POSITIVE_INTERGER, uTimeoutMs ) )
-            return false;
-        out_config.setConnectOnNoRemoteRingTimeoutMs( uTimeoutMs );
-    }
-    return true;
+    return in_reader.require( "condition", Keywords::FXO_CONNECT_SUPERVISION, out_config,
+                              &OutboundConfig::setOutboundSideConnectSupervision ) &&
+           ( out_config.getOutboundSideConnectSupervision() != Supervision::ON_REMOTE_RING_STOPPED ||
+             in_reader.require( "connectOnNoRemoteRingTimeoutMs", POSITIVE_INTERGER, out_config,
+                                &OutboundConfig::setConnectOnNoRemoteRingTimeoutMs ) );
 }
 
 /// Reads when the inbound side is connected.
-bool readInboundSide( xmlNode* in_pElement, const Logger& in_logger, OutboundConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
-    auto eCondition = out_config.getInboundSideConnectCondition();
-    unsigned int uDelayMs = 0;
-    if ( !reader.requireKeyword( "condition", Keywords::FXO_OUTBOUND_CONNECT_CONDITION, eCondition ) ||
-         !reader.requireNumber( "delayInMs", POSITIVE_INTERGER, uDelayMs ) )
-        return false;
-    out_config.setInboundSideConnectCondition( eCondition );
-    out_config.setConnectDelayMs( uDelayMs );
-    return true;
+bool readInboundSide( const ElementReader& in_reader, OutboundConfig& out_config ) {
+    return in_reader.require( "condition", Keywords::FXO_OUTBOUND_CONNECT_CONDITION, out_config,
+                              &OutboundConfig::setInboundSideConnectCondition ) &&
+           in_reader.require( "delayInMs", POSITIVE_INTERGER, out_config, &OutboundConfig::setConnectDelayMs );
 }
 
-bool readOutbound( xmlNode* in_pElement, const Logger& in_logger, OutboundConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
-    xmlNode* const pDial = reader.requireChild( "dial" );
-    if ( !pDial || !readDialing( pDial, in_logger, out_config ) )
-        return false;
+bool readSupervision( const ElementReader& in_reader, OutboundConfig& out_config ) {
+    return in_reader.readChild( "connectOutboundSide", readOutboundSide, out_config ) &&
+           in_reader.readChild( "connect", readInboundSide, out_config );
+}
 
-    xmlNode* const pSupervision = reader.requireChild( "connectSupervision" );
-    if ( !pSupervision )
-        return false;
-    const ElementReader supervisionReader( pSupervision, in_logger, FXO_WORDING );
-    xmlNode* const pOutboundSide = supervisionReader.requireChild( "connectOutboundSide" );
-    if ( !pOutboundSide || !readOutboundSide( pOutboundSide, in_logger, out_config ) )
-        return false;
-    xmlNode* const pConnect = supervisionReader.requireChild( "connect" );
-    return pConnect && readInboundSide( pConnect, in_logger, out_config );
+bool readOutbound( const ElementReader& in_reader, OutboundConfig& out_config ) {
+    return in_reader.readChild( "dial", readDialing, out_config ) &&
+           in_reader.readChild( "connectSupervision", readSupervision, out_config );
 }
 
 } // namespace
@@ -219,21 +161,12 @@ AnalogCallControlCommonConfig* AnalogFxoConfigXmlSerializer::read( TSHandle<Call
     if ( !VELQUIN_ASSERT( !pFxoConfig.isNull() ) )
         return nullptr;
 
-    unsigned int uDurationMs = 0;
-    if ( !reader.requireNumber( "minimumOnHookDurationMs", LEADING_DECIMAL, uDurationMs ) )
-        return nullptr;
-    pFxoConfig->setOnHookMinimumDurationMs( uDurationMs );
-
-    xmlNode* const pInbound = reader.requireChild( "inboundCallHandling" );
-    UniqueObjPtr<InboundConfig> pInboundConfig( new InboundConfig() );
-    if ( !pInbound || !readInbound( pInbound, getLogger(), *pInboundConfig ) ||
-         !pFxoConfig->setInboundCallHandlingConfig( pInboundConfig.release() ) )
-        return nullptr;
-
-    xmlNode* const pOutbound = reader.requireChild( "outboundCallHandling" );
-    UniqueObjPtr<OutboundConfig> pOutboundConfig( new OutboundConfig() );
-    if ( !pOutbound || !readOutbound( pOutbound, getLogger(), *pOutboundConfig ) ||
-         !pFxoConfig->setOutboundCallHandlingConfig( pOutboundConfig.release() ) )
+    if ( !reader.require( "minimumOnHookDurationMs", LEADING_DECIMAL, *pFxoConfig,
+                          &AnalogFxoConfig::setOnHookMinimumDurationMs ) ||
+         !readPart( reader, "inboundCallHandling", readInbound, *pFxoConfig,
+                    &AnalogFxoConfig::setInboundCallHandlingConfig ) ||
+         !readPart( reader, "outboundCallHandling", readOutbound, *pFxoConfig,
+                    &AnalogFxoConfig::setOutboundCallHandlingConfig ) )
         return nullptr;
 
     xmlNode* const pDisconnectSupervision = reader.requireChild( "disconnectSupervision" );

@@ -1,38 +1,30 @@
 #include "analog/AnalogFxsConfig.h"
 
-#include <velquin/Finding.h>
-
+#include "Setters.h"
 #include "Text.h"
 
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfig );
-PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfig::InboundCallHandlingConfig );
-PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfig::HotlineDialingConfig );
-PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfig::DisconnectAnswerNotificationConfig );
+PSTN_CONFIG_NESTED_CLASS_IMPL( AnalogFxsConfig, InboundCallHandlingConfig );
+PSTN_CONFIG_NESTED_CLASS_IMPL( AnalogFxsConfig, HotlineDialingConfig );
+PSTN_CONFIG_NESTED_CLASS_IMPL( AnalogFxsConfig, DisconnectAnswerNotificationConfig );
 
 bool AnalogFxsConfig::HotlineDialingConfig::setDialingNumber( const char* in_szDialingNumber ) {
     return assignText( m_strDialingNumber, in_szDialingNumber, getLogger() );
 }
 
-bool AnalogFxsConfig::setInboundCallHandlingConfig( InboundCallHandlingConfig* in_pInboundCallHandlingConfig ) try {
-    m_hInboundCallHandlingConfig = TSHandle<InboundCallHandlingConfig>( in_pInboundCallHandlingConfig );
-    return true;
+bool AnalogFxsConfig::setInboundCallHandlingConfig( InboundCallHandlingConfig* in_pInboundCallHandlingConfig ) {
+    return setOwned( m_hInboundCallHandlingConfig, in_pInboundCallHandlingConfig, getLogger() );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-bool AnalogFxsConfig::setHotlineDialingConfig( HotlineDialingConfig* in_pHotlineDialingConfig ) try {
-    m_hHotlineDialingConfig = TSHandle<HotlineDialingConfig>( in_pHotlineDialingConfig );
-    return true;
+bool AnalogFxsConfig::setHotlineDialingConfig( HotlineDialingConfig* in_pHotlineDialingConfig ) {
+    return setOwned( m_hHotlineDialingConfig, in_pHotlineDialingConfig, getLogger() );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 bool AnalogFxsConfig::setDisconnectAnswerNotificationConfig(
-    DisconnectAnswerNotificationConfig* in_pDisconnectAnswerNotificationConfig ) try {
-    m_hDisconnectAnswerNotificationConfig =
-        TSHandle<DisconnectAnswerNotificationConfig>( in_pDisconnectAnswerNotificationConfig );
-    return true;
+    DisconnectAnswerNotificationConfig* in_pDisconnectAnswerNotificationConfig ) {
+    return setOwned( m_hDisconnectAnswerNotificationConfig, in_pDisconnectAnswerNotificationConfig, getLogger() );
 }
-VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
 } // namespace Velquin::Pstn

@@ -14,7 +14,7 @@
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfigXmlSerializer );
-PSTN_CONFIG_CLASS_IMPL( AnalogFxsConfigXmlSerializer::InterfaceRefXmlSerializer );
+PSTN_CONFIG_NESTED_CLASS_IMPL( AnalogFxsConfigXmlSerializer, InterfaceRefXmlSerializer );
 
 namespace {
 
@@ -35,73 +35,51 @@ struct FxsFamily {
     }
 };
 
-bool readInbound( xmlNode* in_pElement, const Logger& in_logger, InboundConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXS_WORDING );
-    unsigned int uMinExpectedDigits = 0;
-    if ( !reader.requireNumber( "minExpectedDigits", POSITIVE_INTERGER, uMinExpectedDigits ) )
-        return false;
-    out_config.setMinExpectedDigits( uMinExpectedDigits );
+// Those who read the log know a wrong timeout by the name of the attribute before it.
+constexpr NumberRule INTER_DIGIT_TIMEOUT{ POSITIVE_INTERGER.ePolicy, POSITIVE_INTERGER.strHint, "minExpectedDigits" };
 
-    // Those who read the log know a wrong timeout by the name of the attribute before it.
-    AttributeText interDigitTimeout;
-    unsigned int uInterDigitTimeoutMs = 0;
-    if ( !reader.requireText( "interDigitTimeoutMs", interDigitTimeout ) ||
-         !reader.takeNumber( "minExpectedDigits", interDigitTimeout, POSITIVE_INTERGER, uInterDigitTimeoutMs ) )
+bool readInbound( const ElementReader& in_reader, InboundConfig& out_config ) {
+    if ( !in_reader.require( "minExpectedDigits", POSITIVE_INTERGER, out_config,
+                             &InboundConfig::setMinExpectedDigits ) ||
+         !in_reader.require( "interDigitTimeoutMs", INTER_DIGIT_TIMEOUT, out_config,
+                             &InboundConfig::setInterDigitTimeoutMs ) ||
+         !in_reader.require( "busyToneDurationMs", POSITIVE_INTERGER, out_config,
+                             &InboundConfig::setBusyToneDurationMs ) ||
+         !in_reader.require( "dialToneDurationMs", POSITIVE_INTERGER, out_config,
+                             &InboundConfig::setDialToneDurationMs ) )
         return false;
-    out_config.setInterDigitTimeoutMs( uInterDigitTimeoutMs );
 
-    unsigned int uBusyToneMs = 0;
-    unsigned int uDialToneMs = 0;
-    if ( !reader.requireNumber( "busyToneDurationMs", POSITIVE_INTERGER, uBusyToneMs ) ||
-         !reader.requireNumber( "dialToneDurationMs", POSITIVE_INTERGER, uDialToneMs ) )
-        return false;
-    out_config.setBusyToneDurationMs( uBusyToneMs );
-    out_config.setDialToneDurationMs( uDialToneMs );
-
-    xmlNode* const pRelay = XML::findFirstElement( in_pElement, "relayEarlyMedia" );
+    xmlNode* const pRelay = XML::findFirstElement( in_reader.getElement(), "relayEarlyMedia" );
     if ( !pRelay ) {
         // Known in the log by the attribute that the element would have.
-        reader.reportMissing( "value" );
+        in_reader.reportMissing( "value" );
         return false;
     }
     AttributeText relay;
-    if ( !ElementReader( pRelay, in_logger, FXS_WORDING ).requireText( "value", relay ) )
+    if ( !ElementReader( pRelay, in_reader.getLogger(), FXS_WORDING ).requireText( "value", relay ) )
         return false;
     const bool* const pbRelay = Keywords::ENABLED_DISABLED.find( relay.view() );
     out_config.enableRelayEarlyMedia( !pbRelay || *pbRelay );
     return true;
 }
 
-bool readHotline( xmlNode* in_pElement, const Logger& in_logger, HotlineConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXS_WORDING );
-    bool bEnabled = false;
-    if ( !reader.requireKeyword( "enable", Keywords::YES_NO, bEnabled ) )
-        return false;
-    unsigned int uDelayMs = HotlineConfig::NO_DELAY_MS;
-    AttributeText number;
-    if ( bEnabled && ( !reader.requireNumber( "delayBeforeDialingMs", POSITIVE_INTEGER, uDelayMs ) ||
-                       !reader.requireText( "dialingNumber", number ) ) )
-        return false;
-    out_config.setEnabled( bEnabled );
-    out_config.setDelayBeforeDialingMs( uDelayMs );
-    return out_config.setDialingNumber( number.c_str() );
+bool readHotline( const ElementReader& in_reader, HotlineConfig& out_config ) {
+    return in_reader.require( "enable", Keywords::YES_NO, out_config, &HotlineConfig::setEnabled ) &&
+           ( !out_config.isEnabled() ||
+             ( in_reader.require( "delayBeforeDialingMs", POSITIVE_INTEGER, out_config,
+                                  &HotlineConfig::setDelayBeforeDialingMs ) &&
+               in_reader.require( "dialingNumber", ANY_TEXT, out_config, &HotlineConfig::setDialingNumber ) ) );
 }
 
-bool readNotification( xmlNode* in_pElement, const Logger& in_logger, NotificationConfig& out_config ) {
-    const ElementReader reader( in_pElement, in_logger, FXS_WORDING );
+bool readNotification( const ElementReader& in_reader, NotificationConfig& out_config ) {
     AttributeText mode;
-    if ( !reader.requireText( "mode", mode ) )
+    if ( !in_reader.requireText( "mode", mode ) )
         return false;
     const NotificationConfig::Mode* const pMode = Keywords::FXS_NOTIFICATION_MODE.find( mode.view() );
     out_config.setMode( pMode ? *pMode : NotificationConfig::Mode::NONE );
-
-    if ( out_config.getMode() == NotificationConfig::Mode::CURRENT_DISCONNECT ) {
-        unsigned int uDurationMs = 0;
-        if ( !reader.requireNumber( "currentDisconnectDurationMs", POSITIVE_INTEGER, uDurationMs ) )
-            return false;
-        out_config.setCurrentDisconnectDurationMs( uDurationMs );
-    }
-    return true;
+    return out_config.getMode() != NotificationConfig::Mode::CURRENT_DISCONNECT ||
+           in_reader.require( "currentDisconnectDurationMs", POSITIVE_INTEGER, out_config,
+                              &NotificationConfig::setCurrentDisconnectDurationMs );
 }
 
 } // namespace
@@ -118,32 +96,18 @@ AnalogCallControlCommonConfig* AnalogFxsConfigXmlSerializer::read( TSHandle<Call
     if ( !VELQUIN_ASSERT( !pFxsConfig.isNull() ) )
         return nullptr;
 
-    unsigned int uRegretTimeMs = 0;
-    if ( !reader.requireNumber( "regretTimeMs", POSITIVE_INTERGER, uRegretTimeMs ) )
-        return nullptr;
-    pFxsConfig->setRegretTimeMs( uRegretTimeMs );
-
-    auto eBehavior = pFxsConfig->getOutOfServiceBehavior();
-    if ( !reader.requireKeyword( "oosBehavior", Keywords::FXS_OUT_OF_SERVICE_BEHAVIOR, eBehavior ) )
-        return nullptr;
-    pFxsConfig->setOutOfServiceBehavior( eBehavior );
-
-    xmlNode* const pInbound = reader.requireChild( "inboundCallHandling" );
-    UniqueObjPtr<InboundConfig> pInboundConfig( new InboundConfig() );
-    if ( !pInbound || !readInbound( pInbound, getLogger(), *pInboundConfig ) ||
-         !pFxsConfig->setInboundCallHandlingConfig( pInboundConfig.release() ) )
-        return nullptr;
-
-    xmlNode* const pHotline = reader.requireChild( "hotlineDialing" );
-    UniqueObjPtr<HotlineConfig> pHotlineConfig( new HotlineConfig() );
-    if ( !pHotline || !readHotline( pHotline, getLogger(), *pHotlineConfig ) ||
-         !pFxsConfig->setHotlineDialingConfig( pHotlineConfig.release() ) )
+    if ( !reader.require( "regretTimeMs", POSITIVE_INTERGER, *pFxsConfig, &AnalogFxsConfig::setRegretTimeMs ) ||
+         !reader.require( "oosBehavior", Keywords::FXS_OUT_OF_SERVICE_BEHAVIOR, *pFxsConfig,
+                          &AnalogFxsConfig::setOutOfServiceBehavior ) ||
+         !readPart( reader, "inboundCallHandling", readInbound, *pFxsConfig,
+                    &AnalogFxsConfig::setInboundCallHandlingConfig ) ||
+         !readPart( reader, "hotlineDialing", readHotline, *pFxsConfig, &AnalogFxsConfig::setHotlineDialingConfig ) )
         return nullptr;
 
     // A new notification is that of an absent element: none.
-    xmlNode* const pNotification = XML::findFirstElement( in_pElement, "disconnectAnswerNotification" );
     UniqueObjPtr<NotificationConfig> pNotificationConfig( new NotificationConfig() );
-    if ( ( pNotification && !readNotification( pNotification, getLogger(), *pNotificationConfig ) ) ||
+    if ( ( XML::findFirstElement( in_pElement, "disconnectAnswerNotification" ) &&
+           !reader.readChild( "disconnectAnswerNotification", readNotification, *pNotificationConfig ) ) ||
          !pFxsConfig->setDisconnectAnswerNotificationConfig( pNotificationConfig.release() ) )
         return nullptr;
 

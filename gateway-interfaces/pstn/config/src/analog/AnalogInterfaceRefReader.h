@@ -8,8 +8,7 @@
 #include "callcontrol/BChannelRangeConfig.h"
 #include "callcontrol/CallControlConfig.h"
 #include "hardware/InterfaceReference.h"
-#include "reading/ChildElements.h"
-#include "reading/ElementReader.h"
+#include "reading/ElementEntries.h"
 
 namespace Velquin::Pstn {
 
@@ -69,10 +68,18 @@ bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
         return false;
 
     const char* szInterfaceFailure = nullptr;
-    switch ( reference.readInterface( false ) ) {
-    case ReadResult::WRONG:
-        return false;
-    case ReadResult::ABSENT:
+    if ( reference.namesInterface() ) {
+        if ( !reference.readInterface( false ) )
+            return false;
+        const TSHandle<AnalogInterfaceConfig>& hInterface = reference.getInterfaces().front();
+        if ( !inout_analogConfig.addApplyToAnalogInterface( hInterface ) ) {
+            VELQUIN_REPORT_ERROR( in_logger, "failed to add interface " << hInterface->getUniqueId( false ) << " to "
+                                                                        << TFamily::NAME << " config "
+                                                                        << inout_analogConfig.getId() );
+            return false;
+        }
+        szInterfaceFailure = "failed to set analog call control config for BChannelRange";
+    } else {
         if ( !reference.takeAllInterfaces( "digital" ) )
             return false;
         if ( !inout_analogConfig.addApplyToAnalogInterfaceVector( reference.getInterfaces() ) ) {
@@ -82,18 +89,6 @@ bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
             return false;
         }
         szInterfaceFailure = "failed to set interface for BChannelRange";
-        break;
-    case ReadResult::READ: {
-        const TSHandle<AnalogInterfaceConfig>& hInterface = reference.getInterfaces().front();
-        if ( !inout_analogConfig.addApplyToAnalogInterface( hInterface ) ) {
-            VELQUIN_REPORT_ERROR( in_logger, "failed to add interface " << hInterface->getUniqueId( false ) << " to "
-                                                                        << TFamily::NAME << " config "
-                                                                        << inout_analogConfig.getId() );
-            return false;
-        }
-        szInterfaceFailure = "failed to set analog call control config for BChannelRange";
-        break;
-    }
     }
     for ( const auto& hInterface : reference.getInterfaces() ) {
         if ( !addBChannelRange<TFamily>( inout_analogConfig, *hInterface, szInterfaceFailure, *hChannelGroup,
@@ -112,12 +107,19 @@ bool applyToAnalogInterfaces( const AttributeReader& in_reader, TAnalogConfig& i
     if ( !pApplyTo )
         return false;
     TInterfaceRefXmlSerializer interfaceRefXmlSerializer;
-    for ( xmlNode* const pEntry : ChildElements( pApplyTo ) ) {
-        if ( !interfaceRefXmlSerializer.read( LimitedObjPtr<TAnalogConfig>( &inout_analogConfig ),
-                                              in_hCallControlConfig, pEntry, in_config ) )
-            return false;
-    }
-    return true;
+    const LimitedObjPtr<TAnalogConfig> pAnalogConfig( &inout_analogConfig );
+    return readEntries( ChildElements( pApplyTo ), [&]( xmlNode* in_pEntry ) {
+        return interfaceRefXmlSerializer.read( pAnalogConfig, in_hCallControlConfig, in_pEntry, in_config );
+    } );
+}
+
+/// Reads a required child into a new part of a configuration, which then owns it.
+template <class TConfig, class TPart>
+bool readPart( const ElementReader& in_reader, const char* in_szChild,
+               bool ( *in_read )( const ElementReader&, TPart& ), TConfig& out_config,
+               bool ( TConfig::*in_set )( TPart* ) ) {
+    UniqueObjPtr<TPart> pPart( new TPart() );
+    return in_reader.readChild( in_szChild, *in_read, *pPart ) && ( out_config.*in_set )( pPart.release() );
 }
 
 } // namespace Velquin::Pstn

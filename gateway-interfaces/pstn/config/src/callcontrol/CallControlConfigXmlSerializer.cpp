@@ -1,12 +1,13 @@
 #include "callcontrol/CallControlConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/XML.h>
 
 #include "analog/AnalogCallControlConfigXmlSerializer.h"
 #include "callcontrol/ChannelGroupConfigXmlSerializer.h"
 #include "callcontrol/isdn/IsdnConfigXmlSerializer.h"
-#include "reading/ChildElements.h"
-#include "reading/ElementReader.h"
+#include "reading/ElementEntries.h"
 #include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
@@ -22,7 +23,7 @@ constexpr ReaderWording WORDING{ " for call control config ", "", "Missing eleme
 TSHandle<CallControlConfig> CallControlConfigXmlSerializer::read( xmlNode* const in_pElement,
                                                                   XmlConfig& in_xmlConfig ) try {
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    TSHandle<CallControlConfig> hCallControlConfig( new CallControlConfig() );
+    TSHandle<CallControlConfig> hCallControlConfig( new ( std::nothrow ) CallControlConfig() );
     if ( !VELQUIN_ASSERT( !hCallControlConfig.isNull() ) )
         return {};
 
@@ -30,12 +31,12 @@ TSHandle<CallControlConfig> CallControlConfigXmlSerializer::read( xmlNode* const
     if ( !pChannelGroups )
         return {};
     ChannelGroupConfigXmlSerializer channelGroupXmlSerializer;
-    for ( xmlNode* const pChannelGroup : ChildElements( pChannelGroups ) ) {
-        const ElementPlace place( pChannelGroup );
-        ChannelGroupConfig* const pChannelGroupConfig = channelGroupXmlSerializer.read( pChannelGroup, in_xmlConfig );
-        if ( !pChannelGroupConfig || !hCallControlConfig->addChannelGroupConfig( pChannelGroupConfig ) )
-            return {};
-    }
+    const auto readChannelGroup = [&]( xmlNode* in_pChannelGroup ) {
+        ChannelGroupConfig* const pChannelGroup = channelGroupXmlSerializer.read( in_pChannelGroup, in_xmlConfig );
+        return pChannelGroup && hCallControlConfig->addChannelGroupConfig( pChannelGroup );
+    };
+    if ( !readEntries( ChildElements( pChannelGroups ), readChannelGroup ) )
+        return {};
 
     if ( xmlNode* const pIsdn = XML::findFirstElement( in_pElement, "isdn" ) ) {
         IsdnConfigXmlSerializer isdnXmlSerializer;

@@ -19,22 +19,14 @@ constexpr ReaderWording WORDING{ "] for channel group ", "] for channel group ",
 ChannelGroupConfig* ChannelGroupConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& ) try {
     UniqueObjPtr<ChannelGroupConfig> pChannelGroupConfig( new ChannelGroupConfig() );
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    AttributeText id;
-    if ( !reader.requireText( "ID", id ) || !pChannelGroupConfig->setId( id.c_str() ) )
-        return nullptr;
-
-    auto eDirection = pChannelGroupConfig->getDirection();
-    if ( !reader.requireKeyword( "direction", Keywords::CHANNEL_DIRECTION, eDirection ) )
-        return nullptr;
-    pChannelGroupConfig->setDirection( eDirection );
-
-    if ( eDirection != PSTNChannel::IN ) {
-        auto eHuntingScheme = pChannelGroupConfig->getOutboundHuntingScheme();
-        if ( !reader.requireKeyword( "outboundHuntingScheme", Keywords::HUNTING_SCHEME, eHuntingScheme ) )
-            return nullptr;
-        pChannelGroupConfig->setOutboundHuntingScheme( eHuntingScheme );
-    }
-    return pChannelGroupConfig.release();
+    ChannelGroupConfig& config = *pChannelGroupConfig;
+    const bool bRead =
+        reader.require( "ID", ANY_TEXT, config, &ChannelGroupConfig::setId ) &&
+        reader.require( "direction", Keywords::CHANNEL_DIRECTION, config, &ChannelGroupConfig::setDirection ) &&
+        ( config.getDirection() == PSTNChannel::IN ||
+          reader.require( "outboundHuntingScheme", Keywords::HUNTING_SCHEME, config,
+                          &ChannelGroupConfig::setOutboundHuntingScheme ) );
+    return bRead ? pChannelGroupConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

@@ -16,6 +16,7 @@ PSTN_CONFIG_CLASS_IMPL( AnalogInterfaceConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for analog interface ", "] for analog interface " };
+constexpr auto MEDIA_TYPE = hinted( Keywords::ANALOG_MEDIA_TYPE, "Valid values are FXO and FXS" );
 
 } // namespace
 
@@ -30,20 +31,15 @@ InterfaceConfig* AnalogInterfaceConfigXmlSerializer::read( xmlNode* const in_pEl
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    auto eMediaType = AnalogInterfaceConfig::MediaType::FXO;
-    if ( !reader.requireKeyword( "type", Keywords::ANALOG_MEDIA_TYPE, eMediaType, "Valid values are FXO and FXS" ) )
+    AnalogInterfaceConfig& config = *pAnalogInterfaceConfig;
+    if ( !reader.require( "type", MEDIA_TYPE, config, &AnalogInterfaceConfig::setMediaType ) )
         return nullptr;
-    pAnalogInterfaceConfig->setMediaType( eMediaType );
-
-    AttributeText phoneNumber;
-    AttributeText callerName;
-    if ( eMediaType == AnalogInterfaceConfig::MediaType::FXS &&
-         ( !reader.requireText( "phoneNumber", phoneNumber ) || !reader.requireText( "callerName", callerName ) ) )
-        return nullptr;
-    if ( !pAnalogInterfaceConfig->setPhoneNumber( phoneNumber.c_str() ) ||
-         !pAnalogInterfaceConfig->setCallerName( callerName.c_str() ) )
-        return nullptr;
-    return pAnalogInterfaceConfig.release();
+    const bool bRead =
+        config.getMediaType() == AnalogInterfaceConfig::MediaType::FXS
+            ? reader.require( "phoneNumber", ANY_TEXT, config, &AnalogInterfaceConfig::setPhoneNumber ) &&
+                  reader.require( "callerName", ANY_TEXT, config, &AnalogInterfaceConfig::setCallerName )
+            : config.setPhoneNumber( "" ) && config.setCallerName( "" );
+    return bRead ? pAnalogInterfaceConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

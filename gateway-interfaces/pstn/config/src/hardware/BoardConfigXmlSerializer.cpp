@@ -12,7 +12,7 @@ PSTN_CONFIG_CLASS_IMPL( BoardConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for board  ", "] for board  " };
-constexpr std::string_view DISPLAY_NAME_HINT = "Display name may contain space, '-', '_' and alpha numeric characters.";
+constexpr TextRule DISPLAY_NAME{ "Display name may contain space, '-', '_' and alpha numeric characters." };
 
 } // namespace
 
@@ -22,35 +22,13 @@ BoardConfig* BoardConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConf
     if ( !VELQUIN_ASSERT( !pBoardConfig.isNull() ) )
         return nullptr;
 
-    unsigned int uId = 0;
-    if ( !reader.requireNumber( "ID", WHOLE_DECIMAL, uId ) )
+    if ( !reader.require( "ID", WHOLE_DECIMAL, *pBoardConfig, &BoardConfig::setId ) )
         return nullptr;
-    pBoardConfig->setId( uId );
-
-    AttributeText displayName;
-    if ( !reader.requireText( "displayName", displayName ) )
-        return nullptr;
-    if ( !pBoardConfig->setDisplayName( displayName.c_str() ) ) {
-        reader.reportInvalid( "displayName", displayName.view(), DISPLAY_NAME_HINT );
-        return nullptr;
-    }
-
-    AttributeText model;
-    if ( !reader.requireText( "model", model ) || !pBoardConfig->setModel( model.c_str() ) )
-        return nullptr;
-
-    unsigned long long ullPCI = 0;
-    ReadResult eResult = reader.findNumber( "pciSlot", WHOLE_DECIMAL, ullPCI );
-    if ( eResult == ReadResult::WRONG )
-        return nullptr;
-    if ( eResult == ReadResult::READ )
-        pBoardConfig->setPCISlot( ullPCI );
-    eResult = reader.findNumber( "pciBus", WHOLE_DECIMAL, ullPCI );
-    if ( eResult == ReadResult::WRONG )
-        return nullptr;
-    if ( eResult == ReadResult::READ )
-        pBoardConfig->setPCIBus( ullPCI );
-    return pBoardConfig.release();
+    const bool bRead = reader.require( "displayName", DISPLAY_NAME, *pBoardConfig, &BoardConfig::setDisplayName ) &&
+                       reader.require( "model", ANY_TEXT, *pBoardConfig, &BoardConfig::setModel ) &&
+                       reader.accept( "pciSlot", WHOLE_DECIMAL, *pBoardConfig, &BoardConfig::setPCISlot ) &&
+                       reader.accept( "pciBus", WHOLE_DECIMAL, *pBoardConfig, &BoardConfig::setPCIBus );
+    return bRead ? pBoardConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

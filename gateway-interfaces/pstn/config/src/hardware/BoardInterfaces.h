@@ -1,12 +1,46 @@
 #pragma once
 
+#include <utility>
+
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
+#include <velquin/UniqueObjPtr.h>
 
+#include "SourcePlace.h"
 #include "hardware/InterfaceKind.h"
-#include "reading/XmlNodeFwd.h"
+#include "reading/ElementEntries.h"
 
 namespace Velquin::Pstn {
+
+class XmlConfig;
+
+/// The assertions with which a board's reader refuses what the reader of its interfaces yields.
+struct InterfaceAssertions {
+    const char* szNone; ///< of no interface; null where nothing more is said
+    const char* szOtherClass;
+};
+
+/// Reads the children of a board's element, whatever their names, and adds them to the board as its interfaces.
+template <class TKind, class TInterfaceXmlSerializer>
+bool readInterfaces( xmlNode* in_pBoardElement, XmlConfig& in_xmlConfig, typename TKind::Board& inout_board,
+                     TInterfaceXmlSerializer& in_interfaceXmlSerializer, const InterfaceAssertions& in_assertions,
+                     SourcePlace in_where = SourcePlace::current() ) {
+    const auto fail = [&in_where]( const char* in_szAssertion ) {
+        if ( in_szAssertion )
+            Assertion( false, in_szAssertion, in_where.szFile, in_where.nLine );
+        return false;
+    };
+    return readEntries( ChildElements( in_pBoardElement ), [&]( xmlNode* in_pChild ) {
+        UniqueObjPtr<InterfaceConfig> pInterface(
+            in_interfaceXmlSerializer.read( in_pChild, in_xmlConfig, inout_board ) );
+        if ( pInterface.isNull() )
+            return fail( in_assertions.szNone );
+        auto pOfKind = dynamicOwnerCast<typename TKind::Interface>( std::move( pInterface ) );
+        if ( pOfKind.isNull() )
+            return fail( in_assertions.szOtherClass );
+        return TKind::addInterface( inout_board, pOfKind.release() );
+    } );
+}
 
 /// Writes the interfaces of a board, ascending by identifier, under the board's element.
 /// @param in_szNone what is logged at DEBUG, with the board's identifier, when there are none

@@ -13,8 +13,7 @@ PSTN_CONFIG_CLASS_IMPL( InterfaceConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for interface  ", "] for interface  " };
-constexpr std::string_view DISPLAY_NAME_HINT =
-    "Display name may contains spaces, '-', '_' and alpha numeric characters.";
+constexpr TextRule DISPLAY_NAME{ "Display name may contains spaces, '-', '_' and alpha numeric characters." };
 
 } // namespace
 
@@ -25,18 +24,10 @@ InterfaceConfig* InterfaceConfigXmlSerializer::read( xmlNode* const in_pElement,
     if ( !VELQUIN_ASSERT( !pInterfaceConfig.isNull() ) || !pInterfaceConfig->setBoardConfig( &in_boardConfig ) )
         return nullptr;
 
-    unsigned int uId = 0;
-    if ( !reader.requireNumber( "ID", LEADING_DECIMAL, uId ) )
+    if ( !reader.require( "ID", LEADING_DECIMAL, *pInterfaceConfig, &InterfaceConfig::setId ) )
         return nullptr;
-    pInterfaceConfig->setId( uId );
-
-    AttributeText displayName;
-    if ( !reader.requireText( "displayName", displayName ) )
+    if ( !reader.require( "displayName", DISPLAY_NAME, *pInterfaceConfig, &InterfaceConfig::setDisplayName ) )
         return nullptr;
-    if ( !pInterfaceConfig->setDisplayName( displayName.c_str() ) ) {
-        reader.reportInvalid( "displayName", displayName.view(), DISPLAY_NAME_HINT );
-        return nullptr;
-    }
     // The identifiers are composed at their first use; the model may be shared between threads by then.
     if ( *pInterfaceConfig->getUniqueId( true ) == '\0' || *pInterfaceConfig->getUniqueId( false ) == '\0' )
         return nullptr; // memory ended, which is told

@@ -29,6 +29,9 @@ struct AnalogKind {
     static bool getInterfaces( const Board& in_board, Interfaces& out_vecInterfaces ) {
         return in_board.getAnalogInterfacesConfig( out_vecInterfaces );
     }
+    static bool addInterface( Board& inout_board, Interface* in_pInterface ) {
+        return inout_board.addAnalogInterfaceConfig( in_pInterface );
+    }
 };
 
 struct DigitalKind {
@@ -50,6 +53,9 @@ struct DigitalKind {
     }
     static bool getInterfaces( const Board& in_board, Interfaces& out_vecInterfaces ) {
         return in_board.getDigitalInterfacesConfig( out_vecInterfaces );
+    }
+    static bool addInterface( Board& inout_board, Interface* in_pInterface ) {
+        return inout_board.addDigitalInterfaceConfig( in_pInterface );
     }
 };
 

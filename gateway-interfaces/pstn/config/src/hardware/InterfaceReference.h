@@ -23,7 +23,7 @@ public:
     bool readBoard( const Config& in_config ) {
         AttributeText text;
         unsigned int uBoardId = 0;
-        if ( !m_reader.requireText( "boardID", text ) || !m_reader.takeNumber( "boardID", text, m_rule, uBoardId ) )
+        if ( !m_reader.requireText( "boardID", text ) || !m_reader.take( text, "boardID", m_rule, uBoardId ) )
             return false;
         m_hBoard = TKind::getBoard( in_config, uBoardId );
         if ( m_hBoard.isNull() )
@@ -31,25 +31,24 @@ public:
         return !m_hBoard.isNull();
     }
 
-    /// Finds the interface, if one is named, among those of the board.
+    bool namesInterface() { return m_reader.findText( "interfaceID", m_interfaceId ); }
+
+    /// Finds the interface that is named, which is asked before, among those of the board.
     /// @param in_bNameBoard whether the hint about an unknown interface ends with the board's identifier
-    ReadResult readInterface( bool in_bNameBoard = true ) {
-        AttributeText text;
+    bool readInterface( bool in_bNameBoard = true ) {
         unsigned int uInterfaceId = 0;
-        if ( m_reader.findText( "interfaceID", text ) == ReadResult::ABSENT )
-            return ReadResult::ABSENT;
-        if ( !m_reader.takeNumber( "interfaceID", text, m_rule, uInterfaceId ) )
-            return ReadResult::WRONG;
+        if ( !m_reader.take( m_interfaceId, "interfaceID", m_rule, uInterfaceId ) )
+            return false;
         auto hInterface = TKind::getInterface( *m_hBoard, uInterfaceId );
         if ( hInterface.isNull() ) {
             std::string strHint = "Make sure to provide a valid interface ID whithin the context of boardID=";
             if ( in_bNameBoard )
                 strHint += std::to_string( m_hBoard->getId() );
-            m_reader.reportInvalid( "interfaceID", text.view(), strHint );
-            return ReadResult::WRONG;
+            m_reader.reportInvalid( "interfaceID", m_interfaceId.view(), strHint );
+            return false;
         }
         m_vecInterfaces.push_back( std::move( hInterface ) );
-        return ReadResult::READ;
+        return true;
     }
 
     /// Takes all interfaces of the board, ascending by identifier.
@@ -71,6 +70,7 @@ private:
     const Logger& m_logger;
     const NumberRule& m_rule;
     TSHandle<typename TKind::Board> m_hBoard;
+    AttributeText m_interfaceId;
     typename TKind::Interfaces m_vecInterfaces;
 };
 

@@ -6,7 +6,6 @@
 
 #include "hardware/BoardInterfaces.h"
 #include "hardware/TirvanaAnalogBoardConfig.h"
-#include "reading/ChildElements.h"
 #include "reading/ElementReader.h"
 #include "reading/ElementWriter.h"
 
@@ -17,6 +16,7 @@ PSTN_CONFIG_CLASS_IMPL( TirvanaAnalogBoardConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for analog board  ", "] for analog board  " };
+constexpr InterfaceAssertions ASSERTIONS{ "!pInterfaceConfig.isNull()", "!pAnalogInterfaceConfig.isNull()" };
 
 } // namespace
 
@@ -29,23 +29,11 @@ BoardConfig* TirvanaAnalogBoardConfigXmlSerializer::read( xmlNode* const in_pEle
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    unsigned int uTirpipe = 0;
-    if ( !reader.requireNumber( "tirpipe", WHOLE_DECIMAL, uTirpipe ) )
+    if ( !reader.require( "tirpipe", WHOLE_DECIMAL, *pTirvanaAnalogBoardConfig,
+                          &TirvanaAnalogBoardConfig::setTirpipe ) ||
+         !readInterfaces<AnalogKind>( in_pElement, in_xmlConfig, *pTirvanaAnalogBoardConfig, m_interfaceXmlSerializer,
+                                      ASSERTIONS ) )
         return nullptr;
-    pTirvanaAnalogBoardConfig->setTirpipe( uTirpipe );
-
-    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
-        UniqueObjPtr<InterfaceConfig> pInterfaceConfig(
-            m_interfaceXmlSerializer.read( pChild, in_xmlConfig, *pTirvanaAnalogBoardConfig ) );
-        if ( !VELQUIN_ASSERT( !pInterfaceConfig.isNull() ) )
-            return nullptr;
-        auto pAnalogInterfaceConfig = dynamicOwnerCast<AnalogInterfaceConfig>( std::move( pInterfaceConfig ) );
-        if ( !VELQUIN_ASSERT( !pAnalogInterfaceConfig.isNull() ) )
-            return nullptr;
-        const ElementPlace place( pChild );
-        if ( !pTirvanaAnalogBoardConfig->addAnalogInterfaceConfig( pAnalogInterfaceConfig.release() ) )
-            return nullptr;
-    }
     return pTirvanaAnalogBoardConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

@@ -33,10 +33,9 @@ InterfaceConfig* TirvanaAnalogInterfaceConfigXmlSerializer::read( xmlNode* const
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    unsigned int uTirpipe = 0;
-    if ( !reader.requireNumber( "tirpipeInterface", LEADING_DECIMAL, uTirpipe ) )
+    if ( !reader.require( "tirpipeInterface", LEADING_DECIMAL, *pTirvanaAnalogInterfaceConfig,
+                          &TirvanaAnalogInterfaceConfig::setTirpipeInterface ) )
         return nullptr;
-    pTirvanaAnalogInterfaceConfig->setTirpipeInterface( uTirpipe );
     return pTirvanaAnalogInterfaceConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

@@ -6,7 +6,6 @@
 
 #include "hardware/BoardInterfaces.h"
 #include "hardware/TirvanaDigitalBoardConfig.h"
-#include "reading/ChildElements.h"
 #include "reading/ElementReader.h"
 #include "reading/ElementWriter.h"
 
@@ -17,18 +16,19 @@ PSTN_CONFIG_CLASS_IMPL( TirvanaDigitalBoardConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for tirvana digital board  ", "] for tirvana digital board  " };
+constexpr InterfaceAssertions ASSERTIONS{ nullptr, "!pDigitalInterfaceConfig.isNull()" };
 
 /// Sets the flag of the interface that the board's attribute names; without the attribute there is none.
 bool readPrimaryClockReference( const ElementReader& in_reader, const TirvanaDigitalBoardConfig& in_board ) {
+    AttributeText text;
+    if ( !in_reader.findText( "primaryClockReference", text ) )
+        return true;
     unsigned int uInterfaceId = 0;
-    const ReadResult eResult = in_reader.findNumber( "primaryClockReference", WHOLE_DECIMAL, uInterfaceId );
-    if ( eResult != ReadResult::READ )
-        return eResult == ReadResult::ABSENT;
+    if ( !in_reader.take( text, "primaryClockReference", WHOLE_DECIMAL, uInterfaceId ) )
+        return false;
     const auto hInterface =
         dynamicHandleCast<TirvanaDigitalInterfaceConfig>( in_board.getDigitalInterfaceConfig( uInterfaceId ) );
     if ( hInterface.isNull() ) {
-        AttributeText text;
-        in_reader.findText( "primaryClockReference", text );
         in_reader.reportInvalid( "primaryClockReference", text.view(), "Specified interface ID value does not exist" );
         return false;
     }
@@ -46,20 +46,10 @@ BoardConfig* TirvanaDigitalBoardConfigXmlSerializer::read( xmlNode* const in_pEl
     if ( !VELQUIN_ASSERT( !pTirvanaDigitalBoardConfig.isNull() ) )
         return nullptr;
 
-    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
-        UniqueObjPtr<InterfaceConfig> pInterfaceConfig(
-            m_interfaceXmlSerializer.read( pChild, in_xmlConfig, *pTirvanaDigitalBoardConfig ) );
-        if ( pInterfaceConfig.isNull() )
-            return nullptr;
-        auto pDigitalInterfaceConfig = dynamicOwnerCast<DigitalInterfaceConfig>( std::move( pInterfaceConfig ) );
-        if ( !VELQUIN_ASSERT( !pDigitalInterfaceConfig.isNull() ) )
-            return nullptr;
-        const ElementPlace place( pChild );
-        if ( !pTirvanaDigitalBoardConfig->addDigitalInterfaceConfig( pDigitalInterfaceConfig.release() ) )
-            return nullptr;
-    }
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    if ( !readPrimaryClockReference( reader, *pTirvanaDigitalBoardConfig ) )
+    if ( !readInterfaces<DigitalKind>( in_pElement, in_xmlConfig, *pTirvanaDigitalBoardConfig, m_interfaceXmlSerializer,
+                                       ASSERTIONS ) ||
+         !readPrimaryClockReference( reader, *pTirvanaDigitalBoardConfig ) )
         return nullptr;
     return pTirvanaDigitalBoardConfig.release();
 }

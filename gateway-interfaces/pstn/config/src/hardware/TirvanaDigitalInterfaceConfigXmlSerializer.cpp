@@ -33,10 +33,9 @@ InterfaceConfig* TirvanaDigitalInterfaceConfigXmlSerializer::read( xmlNode* cons
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    unsigned int uTirpipe = 0;
-    if ( !reader.requireNumber( "tirpipe", LEADING_DECIMAL, uTirpipe ) )
+    if ( !reader.require( "tirpipe", LEADING_DECIMAL, *pTirvanaDigitalInterfaceConfig,
+                          &TirvanaDigitalInterfaceConfig::setTirpipe ) )
         return nullptr;
-    pTirvanaDigitalInterfaceConfig->setTirpipe( uTirpipe );
     return pTirvanaDigitalInterfaceConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

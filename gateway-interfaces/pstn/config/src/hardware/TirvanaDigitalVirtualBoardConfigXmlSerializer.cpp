@@ -4,14 +4,19 @@
 
 #include <velquin/UniqueObjPtr.h>
 
+#include "hardware/BoardInterfaces.h"
 #include "hardware/TirvanaDigitalVirtualBoardConfig.h"
-#include "reading/ChildElements.h"
-#include "reading/ElementReader.h"
 #include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( TirvanaDigitalVirtualBoardConfigXmlSerializer );
+
+namespace {
+
+constexpr InterfaceAssertions ASSERTIONS{ "!pDigitalInterfaceConfig.isNull()", "!pDigitalInterfaceConfig.isNull()" };
+
+} // namespace
 
 BoardConfig* TirvanaDigitalVirtualBoardConfigXmlSerializer::read( xmlNode* const in_pElement,
                                                                   XmlConfig& in_xmlConfig ) try {
@@ -22,16 +27,9 @@ BoardConfig* TirvanaDigitalVirtualBoardConfigXmlSerializer::read( xmlNode* const
     if ( !VELQUIN_ASSERT( !pVirtualBoardConfig.isNull() ) )
         return nullptr;
 
-    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
-        UniqueObjPtr<InterfaceConfig> pInterfaceConfig(
-            m_interfaceXmlSerializer.read( pChild, in_xmlConfig, *pVirtualBoardConfig ) );
-        auto pDigitalInterfaceConfig = dynamicOwnerCast<DigitalInterfaceConfig>( std::move( pInterfaceConfig ) );
-        if ( !VELQUIN_ASSERT( !pDigitalInterfaceConfig.isNull() ) )
-            return nullptr;
-        const ElementPlace place( pChild );
-        if ( !pVirtualBoardConfig->addDigitalInterfaceConfig( pDigitalInterfaceConfig.release() ) )
-            return nullptr;
-    }
+    if ( !readInterfaces<DigitalKind>( in_pElement, in_xmlConfig, *pVirtualBoardConfig, m_interfaceXmlSerializer,
+                                       ASSERTIONS ) )
+        return nullptr;
     return pVirtualBoardConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

@@ -8,10 +8,15 @@ namespace Velquin::Pstn {
 class VELQUIN_PSTN_CONFIG_EXPORT TirvanaDigitalVirtualInterfaceConfig : public DigitalInterfaceConfig {
     PSTN_CONFIG_CLASS( TirvanaDigitalVirtualInterfaceConfig );
 
-private:
-    // The other end of the link is set by the reader and asked by nobody else.
-    friend class TirvanaDigitalVirtualInterfaceConfigXmlSerializer;
+public:
+    // The other end of the link: a virtual board, and the number of a span on it. That there is such a span is not
+    // checked. 0 until set.
+    unsigned int getPeerVirtualBoardId() const noexcept { return m_uPeerVirtualBoardId; }
+    void setPeerVirtualBoardId( unsigned int in_uId ) noexcept { m_uPeerVirtualBoardId = in_uId; }
+    unsigned int getPeerVirtualInterfaceId() const noexcept { return m_uPeerVirtualInterfaceId; }
+    void setPeerVirtualInterfaceId( unsigned int in_uId ) noexcept { m_uPeerVirtualInterfaceId = in_uId; }
 
+private:
     unsigned int m_uPeerVirtualBoardId = 0;
     unsigned int m_uPeerVirtualInterfaceId = 0;
 };

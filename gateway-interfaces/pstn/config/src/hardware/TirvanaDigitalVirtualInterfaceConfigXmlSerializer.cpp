@@ -31,10 +31,11 @@ InterfaceConfig* TirvanaDigitalVirtualInterfaceConfigXmlSerializer::read( xmlNod
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    if ( !reader.requireNumber( "peerVirtualInterfaceID", LEADING_DECIMAL,
-                                pTirvanaDigitalVirtualInterfaceConfig->m_uPeerVirtualInterfaceId ) ||
-         !reader.requireNumber( "peerVirtualBoardID", LEADING_DECIMAL,
-                                pTirvanaDigitalVirtualInterfaceConfig->m_uPeerVirtualBoardId ) )
+    using Config = TirvanaDigitalVirtualInterfaceConfig;
+    if ( !reader.require( "peerVirtualInterfaceID", LEADING_DECIMAL, *pTirvanaDigitalVirtualInterfaceConfig,
+                          &Config::setPeerVirtualInterfaceId ) ||
+         !reader.require( "peerVirtualBoardID", LEADING_DECIMAL, *pTirvanaDigitalVirtualInterfaceConfig,
+                          &Config::setPeerVirtualBoardId ) )
         return nullptr;
     return pTirvanaDigitalVirtualInterfaceConfig.release();
 }

@@ -15,15 +15,23 @@ PSTN_CONFIG_CLASS_IMPL( TirvanaProviderConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for tirvana provider  ", "] for tirvana provider  " };
+constexpr auto REVERSE = hinted( Keywords::TRUE_FALSE, "Valid values are: TRUE and FALSE." );
 
-/// Reads `reverseBits` of an optional child; an absent child, or one that doesn't say, leaves the flag alone.
-bool readReverseBits( xmlNode* in_pProvider, const char* in_szChild, const Logger& in_logger, bool& out_bReverse ) {
+/// Reads the flag of an optional child; an absent child, or one that doesn't say, leaves the model alone.
+bool readReverseBits( xmlNode* in_pProvider, const char* in_szChild, const Logger& in_logger,
+                      TirvanaProviderConfig& out_config, void ( TirvanaProviderConfig::*in_set )( bool ) ) {
     xmlNode* const pChild = XML::findFirstElement( in_pProvider, in_szChild );
-    if ( !pChild )
-        return true;
-    const ElementReader reader( pChild, in_logger, WORDING );
-    return reader.findKeyword( "reverseBits", Keywords::TRUE_FALSE, out_bReverse,
-                               "Valid values are: TRUE and FALSE." ) != ReadResult::WRONG;
+    return !pChild || ElementReader( pChild, in_logger, WORDING ).accept( "reverseBits", REVERSE, out_config, in_set );
+}
+
+/// Reads a thread group and copies it into the provider.
+bool readThreads( xmlNode* in_pThreads, XmlConfig& in_xmlConfig, TirvanaProviderConfig& out_config,
+                  void ( TirvanaProviderConfig::*in_set )( const TirvanaThreadGroupConfig& ) ) {
+    const UniqueObjPtr<TirvanaThreadGroupConfig> pThreads(
+        TirvanaThreadGroupConfigXmlSerializer().read( in_pThreads, in_xmlConfig ) );
+    if ( !pThreads.isNull() )
+        ( out_config.*in_set )( *pThreads );
+    return !pThreads.isNull();
 }
 
 } // namespace
@@ -35,33 +43,17 @@ ProviderConfig* TirvanaProviderConfigXmlSerializer::read( xmlNode* const in_pEle
         return nullptr;
 
     xmlNode* const pBChannelsThreads = reader.requireChild( "BChannelsThreads" );
-    if ( !pBChannelsThreads )
-        return nullptr;
-    xmlNode* const pDChannelsThreads = reader.requireChild( "DChannelsThreads" );
-    if ( !pDChannelsThreads )
-        return nullptr;
-
-    bool bReverseTx = pProviderConfig->isReverseBitsOfTxMediaStreamsEnabled();
-    if ( !readReverseBits( in_pElement, "TxMediaStreams", getLogger(), bReverseTx ) )
-        return nullptr;
-    pProviderConfig->setReverseBitsOfTxMediaStreams( bReverseTx );
-    bool bReverseRx = pProviderConfig->isReverseBitsOfRxMediaStreamsEnabled();
-    if ( !readReverseBits( in_pElement, "RxMediaStreams", getLogger(), bReverseRx ) )
-        return nullptr;
-    pProviderConfig->setReverseBitsOfRxMediaStreams( bReverseRx );
-
-    TirvanaThreadGroupConfigXmlSerializer threadGroupXmlSerializer;
-    const UniqueObjPtr<TirvanaThreadGroupConfig> pDChannels(
-        threadGroupXmlSerializer.read( pDChannelsThreads, in_xmlConfig ) );
-    if ( pDChannels.isNull() )
-        return nullptr;
-    pProviderConfig->setDChannelsThreadsConfig( *pDChannels );
-    const UniqueObjPtr<TirvanaThreadGroupConfig> pBChannels(
-        threadGroupXmlSerializer.read( pBChannelsThreads, in_xmlConfig ) );
-    if ( pBChannels.isNull() )
-        return nullptr;
-    pProviderConfig->setBChannelsThreadsConfig( *pBChannels );
-    return pProviderConfig.release();
+    xmlNode* const pDChannelsThreads = pBChannelsThreads ? reader.requireChild( "DChannelsThreads" ) : nullptr;
+    const bool bRead = pDChannelsThreads &&
+                       readReverseBits( in_pElement, "TxMediaStreams", getLogger(), *pProviderConfig,
+                                        &TirvanaProviderConfig::setReverseBitsOfTxMediaStreams ) &&
+                       readReverseBits( in_pElement, "RxMediaStreams", getLogger(), *pProviderConfig,
+                                        &TirvanaProviderConfig::setReverseBitsOfRxMediaStreams ) &&
+                       readThreads( pDChannelsThreads, in_xmlConfig, *pProviderConfig,
+                                    &TirvanaProviderConfig::setDChannelsThreadsConfig ) &&
+                       readThreads( pBChannelsThreads, in_xmlConfig, *pProviderConfig,
+                                    &TirvanaProviderConfig::setBChannelsThreadsConfig );
+    return bRead ? pProviderConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

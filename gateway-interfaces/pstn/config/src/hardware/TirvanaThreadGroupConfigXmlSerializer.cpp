@@ -18,13 +18,9 @@ constexpr ReaderWording WORDING{ "] for thread group ", "] for thread group " };
 TirvanaThreadGroupConfig* TirvanaThreadGroupConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& ) try {
     UniqueObjPtr<TirvanaThreadGroupConfig> pThreadGroupConfig( new TirvanaThreadGroupConfig() );
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    unsigned int uCount = 0;
-    if ( !reader.requireNumber( "count", LEADING_DECIMAL, uCount ) )
-        return nullptr;
-    pThreadGroupConfig->setThreadCount( uCount );
-
     AttributeText priorityText;
-    if ( !reader.requireText( "priority", priorityText ) )
+    if ( !reader.require( "count", LEADING_DECIMAL, *pThreadGroupConfig, &TirvanaThreadGroupConfig::setThreadCount ) ||
+         !reader.requireText( "priority", priorityText ) )
         return nullptr;
     const Priority priority( std::string( priorityText.view() ) );
     if ( !priority.isValid() ) {

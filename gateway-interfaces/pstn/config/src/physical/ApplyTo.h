@@ -5,7 +5,7 @@
 #include "hardware/InterfaceReference.h"
 #include "loading/XmlConfig.h"
 #include "physical/PhysicalWording.h"
-#include "reading/ChildElements.h"
+#include "reading/ElementEntries.h"
 
 namespace Velquin::Pstn {
 
@@ -15,13 +15,10 @@ bool resolveInterfaces( xmlNode* in_pEntry, const Config& in_config, const Logge
                         typename TKind::Interfaces& out_vecInterfaceConfig ) {
     if ( !VELQUIN_ASSERT( out_vecInterfaceConfig.empty() ) )
         return false;
-    const ElementReader reader( in_pEntry, in_logger, PHYSICAL_SETTING_WORDING );
+    const AttributeReader reader( in_pEntry, in_logger, PHYSICAL_SETTING_WORDING );
     InterfaceReference<TKind> reference( reader, in_logger, LEADING_DECIMAL );
-    if ( !reference.readBoard( in_config ) )
-        return false;
-    const ReadResult eResult = reference.readInterface();
-    if ( eResult == ReadResult::WRONG ||
-         ( eResult == ReadResult::ABSENT && !reference.takeAllInterfaces( TKind::NAME ) ) )
+    if ( !reference.readBoard( in_config ) ||
+         !( reference.namesInterface() ? reference.readInterface() : reference.takeAllInterfaces( TKind::NAME ) ) )
         return false;
     out_vecInterfaceConfig = reference.releaseInterfaces();
     return true;
@@ -36,10 +33,9 @@ bool applyToInterfaces( const ElementReader& in_reader, XmlConfig& in_xmlConfig,
     xmlNode* const pApplyTo = in_reader.as( PHYSICAL_CHILD_WORDING ).requireChild( "applyTo" );
     if ( !pApplyTo )
         return false;
-    for ( xmlNode* const pEntry : ChildElements( pApplyTo ) ) {
-        const ElementPlace place( pEntry );
+    return readEntries( ChildElements( pApplyTo ), [&]( xmlNode* in_pEntry ) {
         typename TKind::Interfaces vecInterfaces;
-        if ( !resolveInterfaces<TKind>( pEntry, in_xmlConfig, in_logger, vecInterfaces ) )
+        if ( !resolveInterfaces<TKind>( in_pEntry, in_xmlConfig, in_logger, vecInterfaces ) )
             return false;
         for ( const auto& hInterface : vecInterfaces ) {
             if ( !hInterface->getPhysicalConfig().isNull() ) {
@@ -53,8 +49,8 @@ bool applyToInterfaces( const ElementReader& in_reader, XmlConfig& in_xmlConfig,
             if ( !hInterface->setPhysicalConfig( in_hPhysicalConfig ) || !in_onApplied( *hInterface ) )
                 return false;
         }
-    }
-    return true;
+        return true;
+    } );
 }
 
 } // namespace Velquin::Pstn

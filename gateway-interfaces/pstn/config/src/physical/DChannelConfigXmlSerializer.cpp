@@ -30,24 +30,15 @@ DChannelConfig* DChannelConfigXmlSerializer::read( xmlNode* const in_pElement, X
     if ( !VELQUIN_ASSERT( !pDChannelConfig.isNull() ) )
         return nullptr;
 
-    unsigned int uNumber = 0;
-    if ( !reader.requireNumber( "channelIndex", LEADING_DECIMAL, uNumber ) )
-        return nullptr;
-    pDChannelConfig->setDChannelIndex( uNumber );
-    if ( !reader.requireNumber( "mtuSize", LEADING_DECIMAL, uNumber ) )
-        return nullptr;
-    pDChannelConfig->setMtuSize( uNumber );
-
-    bool bRecord = pDChannelConfig->isPcapRecorderEnabled();
-    if ( reader.findSchemaKeyword( "RecordToPcapFile", Keywords::YES_NO, bRecord ) == ReadResult::WRONG )
-        return nullptr;
-    pDChannelConfig->enablePcapRecorder( bRecord );
-
-    AttributeText folder;
-    const bool bFolder = reader.findText( "PcapFilesFolder", folder ) == ReadResult::READ;
-    if ( !pDChannelConfig->setPcapFilesFolder( bFolder ? folder.c_str() : getDefaultPcapFilesFolder().c_str() ) )
-        return nullptr;
-    return pDChannelConfig.release();
+    const bool bRead =
+        reader.require( "channelIndex", LEADING_DECIMAL, *pDChannelConfig, &DChannelConfig::setDChannelIndex ) &&
+        reader.require( "mtuSize", LEADING_DECIMAL, *pDChannelConfig, &DChannelConfig::setMtuSize ) &&
+        reader.accept( "RecordToPcapFile", bySchema( Keywords::YES_NO ), *pDChannelConfig,
+                       &DChannelConfig::enablePcapRecorder ) &&
+        ( reader.has( "PcapFilesFolder" )
+              ? reader.require( "PcapFilesFolder", ANY_TEXT, *pDChannelConfig, &DChannelConfig::setPcapFilesFolder )
+              : pDChannelConfig->setPcapFilesFolder( getDefaultPcapFilesFolder().c_str() ) );
+    return bRead ? pDChannelConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

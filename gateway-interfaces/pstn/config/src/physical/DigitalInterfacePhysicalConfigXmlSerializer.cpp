@@ -24,56 +24,26 @@ xmlNode* findEither( xmlNode* in_pElement, const char* in_szName, const char* in
 }
 
 bool readSpan( const ElementReader& in_reader, DigitalInterfacePhysicalConfig& out_config ) {
-    auto eFraming = out_config.getFraming();
-    if ( !in_reader.requireSchemaKeyword( "framing", Keywords::FRAMING, eFraming ) )
+    using Config = DigitalInterfacePhysicalConfig;
+    const bool bRead =
+        in_reader.require( "framing", bySchema( Keywords::FRAMING ), out_config, &Config::setFraming ) &&
+        in_reader.require( "lineEncoding", bySchema( Keywords::LINE_ENCODING ), out_config,
+                           &Config::setLineEncoding ) &&
+        in_reader.require( "clocking", bySchema( Keywords::DIGITAL_CLOCKING ), out_config, &Config::setClockingMode ) &&
+        in_reader.require( "loopbackMode", bySchema( Keywords::LOOPBACK_MODE ), out_config,
+                           &Config::setLoopbackMode ) &&
+        in_reader.accept( "receiverSensitivity", bySchema( Keywords::RECEIVER_SENSITIVITY ), out_config,
+                          &Config::setRxSensitivity ) &&
+        in_reader.accept( "highImpedance", bySchema( Keywords::ENABLED_DISABLED ), out_config,
+                          &Config::enableHighImpedance );
+    if ( !bRead )
         return false;
-    out_config.setFraming( eFraming );
-
-    auto eLineEncoding = out_config.getLineEncoding();
-    if ( !in_reader.requireSchemaKeyword( "lineEncoding", Keywords::LINE_ENCODING, eLineEncoding ) )
-        return false;
-    out_config.setLineEncoding( eLineEncoding );
-
-    auto eClocking = out_config.getClockingMode();
-    if ( !in_reader.requireSchemaKeyword( "clocking", Keywords::DIGITAL_CLOCKING, eClocking ) )
-        return false;
-    out_config.setClockingMode( eClocking );
-
-    auto eLoopbackMode = out_config.getLoopbackMode();
-    if ( !in_reader.requireSchemaKeyword( "loopbackMode", Keywords::LOOPBACK_MODE, eLoopbackMode ) )
-        return false;
-    out_config.setLoopbackMode( eLoopbackMode );
-
-    auto eSensitivity = DigitalInterfacePhysicalConfig::RxSensitivity::RX_12dB;
-    if ( in_reader.findSchemaKeyword( "receiverSensitivity", Keywords::RECEIVER_SENSITIVITY, eSensitivity ) ==
-         ReadResult::WRONG )
-        return false;
-    out_config.setRxSensitivity( eSensitivity );
-
-    bool bHighImpedance = false;
-    if ( in_reader.findSchemaKeyword( "highImpedance", Keywords::ENABLED_DISABLED, bHighImpedance ) ==
-         ReadResult::WRONG )
-        return false;
-    out_config.enableHighImpedance( bHighImpedance );
-
-    if ( out_config.getMediaType() == MediaType::T1 ) {
-        auto eLBOMode = out_config.getLBOMode();
-        if ( !in_reader.requireSchemaKeyword( "LBO", Keywords::LINE_BUILD_OUT, eLBOMode ) )
-            return false;
-        out_config.setLBOMode( eLBOMode );
-        return true;
-    }
-
-    auto eE1Signaling = out_config.getE1Signaling();
-    if ( !in_reader.requireSchemaKeyword( "E1Signaling", Keywords::E1_SIGNALING, eE1Signaling ) )
-        return false;
-    out_config.setE1Signaling( eE1Signaling );
-
-    auto eE1Termination = out_config.getE1Termination();
-    if ( !in_reader.requireSchemaKeyword( "E1Termination", Keywords::E1_TERMINATION, eE1Termination ) )
-        return false;
-    out_config.setE1Termination( eE1Termination );
-    return true;
+    if ( out_config.getMediaType() == MediaType::T1 )
+        return in_reader.require( "LBO", bySchema( Keywords::LINE_BUILD_OUT ), out_config, &Config::setLBOMode );
+    return in_reader.require( "E1Signaling", bySchema( Keywords::E1_SIGNALING ), out_config,
+                              &Config::setE1Signaling ) &&
+           in_reader.require( "E1Termination", bySchema( Keywords::E1_TERMINATION ), out_config,
+                              &Config::setE1Termination );
 }
 
 /// Reads the D-channel of the span, if it has one.

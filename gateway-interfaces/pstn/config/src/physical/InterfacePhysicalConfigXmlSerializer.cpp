@@ -1,5 +1,7 @@
 #include "physical/InterfacePhysicalConfigXmlSerializer.h"
 
+#include <new>
+
 #include <velquin/UniqueObjPtr.h>
 
 #include "physical/PhysicalWording.h"
@@ -23,14 +25,9 @@ TSHandle<InterfacePhysicalConfig> InterfacePhysicalConfigXmlSerializer::read( xm
     if ( !VELQUIN_ASSERT( !hInterfacePhysicalConfig.isNull() ) )
         return {};
 
-    unsigned int uId = 0;
-    if ( !reader.requireNumber( "ID", LEADING_DECIMAL, uId ) )
-        return {};
-    hInterfacePhysicalConfig->setId( uId );
-
-    AttributeText displayName;
-    if ( !reader.requireText( "displayName", displayName ) ||
-         !hInterfacePhysicalConfig->setDisplayName( displayName.c_str() ) )
+    if ( !reader.require( "ID", LEADING_DECIMAL, *hInterfacePhysicalConfig, &InterfacePhysicalConfig::setId ) ||
+         !reader.require( "displayName", ANY_TEXT, *hInterfacePhysicalConfig,
+                          &InterfacePhysicalConfig::setDisplayName ) )
         return {};
 
     xmlNode* const pAudio = reader.as( AUDIO_CHILD_WORDING ).requireChild( "audio" );
@@ -59,7 +56,7 @@ InterfacePhysicalConfig* InterfacePhysicalConfigXmlSerializer::newInterfacePhysi
 }
 
 AudioConfigXmlSerializer* InterfacePhysicalConfigXmlSerializer::newAudioConfigXmlSerializer() {
-    return new AudioConfigXmlSerializer();
+    return new ( std::nothrow ) AudioConfigXmlSerializer();
 }
 
 } // namespace Velquin::Pstn

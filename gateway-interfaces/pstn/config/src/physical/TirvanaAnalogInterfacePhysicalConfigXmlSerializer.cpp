@@ -16,40 +16,11 @@ PSTN_CONFIG_CLASS_IMPL( TirvanaAnalogInterfacePhysicalConfigXmlSerializer );
 
 namespace {
 
+using Config = TirvanaAnalogInterfacePhysicalConfig;
+
+constexpr auto CLOCKING = hinted( Keywords::ANALOG_CLOCKING, "Valid values are INTERNAL and EXTERNAL" );
 constexpr NumberRule REAL{ NumberPolicy::LEADING, "The value must be a real number." };
 constexpr NumberRule POSITIVE{ NumberPolicy::LEADING, "The value must be a positive integer number." };
-
-template <class T>
-struct OptionalNumber {
-    const char* szAttribute;
-    void ( TirvanaAnalogInterfacePhysicalConfig::*set )( T ) noexcept;
-};
-
-constexpr OptionalNumber<double> GAINS[] = {
-    { "fxoRxGainIndB", &TirvanaAnalogInterfacePhysicalConfig::setFxoRxGain },
-    { "fxoTxGainIndB", &TirvanaAnalogInterfacePhysicalConfig::setFxoTxGain },
-    { "fxsRxGainIndB", &TirvanaAnalogInterfacePhysicalConfig::setFxsRxGain },
-    { "fxsTxGainIndB", &TirvanaAnalogInterfacePhysicalConfig::setFxsTxGain },
-};
-constexpr OptionalNumber<unsigned int> BATTERY[] = {
-    { "fxoBatteryDebounceInMs", &TirvanaAnalogInterfacePhysicalConfig::setFxoBatteryDebounce },
-    { "fxoBatteryThresholdInVolts", &TirvanaAnalogInterfacePhysicalConfig::setFxoBatteryThreshold },
-};
-
-/// Reads the numbers that are there, in the order of the table; the others keep their defaults.
-template <class T, std::size_t N>
-bool readNumbers( const ElementReader& in_reader, const OptionalNumber<T> ( &in_aNumbers )[N],
-                  const NumberRule& in_rule, TirvanaAnalogInterfacePhysicalConfig& out_config ) {
-    for ( const auto& [szAttribute, set] : in_aNumbers ) {
-        T number = 0;
-        const ReadResult eResult = in_reader.findNumber( szAttribute, in_rule, number );
-        if ( eResult == ReadResult::WRONG )
-            return false;
-        if ( eResult == ReadResult::READ )
-            ( out_config.*set )( number );
-    }
-    return true;
-}
 
 } // namespace
 
@@ -63,13 +34,14 @@ bool TirvanaAnalogInterfacePhysicalConfigXmlSerializer::readAnalog( xmlNode* in_
         return false;
 
     const ElementReader reader( in_pAnalog, getLogger(), PHYSICAL_SETTING_WORDING );
-    auto eClocking = pTirvanaConfig->getClocking();
-    if ( reader.findKeyword( "clocking", Keywords::ANALOG_CLOCKING, eClocking,
-                             "Valid values are INTERNAL and EXTERNAL" ) == ReadResult::WRONG )
-        return false;
-    pTirvanaConfig->setClocking( eClocking );
-    return readNumbers( reader, GAINS, REAL, *pTirvanaConfig ) &&
-           readNumbers( reader, BATTERY, POSITIVE, *pTirvanaConfig );
+    Config& config = *pTirvanaConfig;
+    return reader.accept( "clocking", CLOCKING, config, &Config::setClocking ) &&
+           reader.accept( "fxoRxGainIndB", REAL, config, &Config::setFxoRxGain ) &&
+           reader.accept( "fxoTxGainIndB", REAL, config, &Config::setFxoTxGain ) &&
+           reader.accept( "fxsRxGainIndB", REAL, config, &Config::setFxsRxGain ) &&
+           reader.accept( "fxsTxGainIndB", REAL, config, &Config::setFxsTxGain ) &&
+           reader.accept( "fxoBatteryDebounceInMs", POSITIVE, config, &Config::setFxoBatteryDebounce ) &&
+           reader.accept( "fxoBatteryThresholdInVolts", POSITIVE, config, &Config::setFxoBatteryThreshold );
 }
 
 bool TirvanaAnalogInterfacePhysicalConfigXmlSerializer::write( xmlNode* const, const InterfacePhysicalConfig& ) {
@@ -81,7 +53,7 @@ InterfacePhysicalConfig* TirvanaAnalogInterfacePhysicalConfigXmlSerializer::newI
 }
 
 AudioConfigXmlSerializer* TirvanaAnalogInterfacePhysicalConfigXmlSerializer::newAudioConfigXmlSerializer() {
-    return new TirvanaAudioConfigXmlSerializer();
+    return new ( std::nothrow ) TirvanaAudioConfigXmlSerializer();
 }
 
 } // namespace Velquin::Pstn

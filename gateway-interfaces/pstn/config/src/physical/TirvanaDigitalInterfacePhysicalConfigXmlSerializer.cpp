@@ -16,8 +16,6 @@ PSTN_CONFIG_CLASS_IMPL( TirvanaDigitalInterfacePhysicalConfigXmlSerializer );
 TSHandle<InterfacePhysicalConfig>
 TirvanaDigitalInterfacePhysicalConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
     auto hInterfacePhysicalConfig = DigitalInterfacePhysicalConfigXmlSerializer::read( in_pElement, in_xmlConfig );
-    if ( hInterfacePhysicalConfig.isNull() )
-        return {};
     const auto hTirvanaDigitalInterfacePhysicalConfig =
         dynamicHandleCast<TirvanaDigitalInterfacePhysicalConfig>( hInterfacePhysicalConfig );
     if ( !VELQUIN_ASSERT( !hTirvanaDigitalInterfacePhysicalConfig.isNull() ) )
@@ -35,7 +33,7 @@ InterfacePhysicalConfig* TirvanaDigitalInterfacePhysicalConfigXmlSerializer::new
 }
 
 AudioConfigXmlSerializer* TirvanaDigitalInterfacePhysicalConfigXmlSerializer::newAudioConfigXmlSerializer() {
-    return new TirvanaAudioConfigXmlSerializer();
+    return new ( std::nothrow ) TirvanaAudioConfigXmlSerializer();
 }
 
 } // namespace Velquin::Pstn

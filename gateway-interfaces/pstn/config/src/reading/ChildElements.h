@@ -26,14 +26,18 @@ public:
     };
 
     explicit ChildElements( const xmlNode* in_pParent, const char* in_szName = nullptr ) noexcept
-        : m_pParent( in_pParent ), m_szName( in_szName ) {}
+        : ChildElements( in_pParent, in_szName, in_szName ) {}
+    /// The first one of one name, and those of another that follow it.
+    ChildElements( const xmlNode* in_pParent, const char* in_szFirstName, const char* in_szName ) noexcept
+        : m_pParent( in_pParent ), m_szFirstName( in_szFirstName ), m_szName( in_szName ) {}
 
-    Iterator begin() const { return { XML::findFirstElement( m_pParent, m_szName ), m_szName }; }
+    Iterator begin() const { return { XML::findFirstElement( m_pParent, m_szFirstName ), m_szName }; }
     Iterator end() const noexcept { return { nullptr, m_szName }; }
     bool empty() const { return begin() == end(); }
 
 private:
     const xmlNode* m_pParent;
+    const char* m_szFirstName;
     const char* m_szName;
 };
 

@@ -38,12 +38,17 @@ private:
 
 } // namespace
 
-ReadResult AttributeReader::findText( const char* in_szAttribute, AttributeText& out_text ) const {
-    return findAttribute( m_pElement, in_szAttribute, out_text ) ? ReadResult::READ : ReadResult::ABSENT;
+bool AttributeReader::findText( const char* in_szAttribute, AttributeText& out_text ) const {
+    return findAttribute( m_pElement, in_szAttribute, out_text );
+}
+
+bool AttributeReader::has( const char* in_szAttribute ) const {
+    AttributeText text;
+    return findText( in_szAttribute, text );
 }
 
 bool AttributeReader::requireText( const char* in_szAttribute, AttributeText& out_text ) const {
-    if ( findText( in_szAttribute, out_text ) == ReadResult::READ )
+    if ( findText( in_szAttribute, out_text ) )
         return true;
     reportMissing( in_szAttribute );
     return false;

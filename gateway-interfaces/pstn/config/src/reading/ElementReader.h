@@ -1,13 +1,14 @@
 #pragma once
 
-#include <initializer_list>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include <velquin/Finding.h>
 
+#include "SourcePlace.h"
 #include "document/Element.h"
 #include "reading/KeywordTable.h"
 #include "reading/Number.h"
@@ -27,10 +28,13 @@ struct ReaderWording {
     std::string_view strInvalidLead = "Invalid attribute  [";
 };
 
-/// How a reader takes a number and what it says of a text that is none.
+// How an attribute is taken, and what is said of a value that is refused: a rule is one of these, or a KeywordTable,
+// whose refusals have no hint.
+
 struct NumberRule {
     NumberPolicy ePolicy;
     std::string_view strHint;
+    const char* szReportedName = nullptr; ///< the attribute's name in the message, where it isn't the attribute's own
 };
 
 inline constexpr std::string_view DECIMAL_HINT = "The value must be a decimal number.";
@@ -38,26 +42,43 @@ inline constexpr std::string_view DECIMAL_HINT = "The value must be a decimal nu
 inline constexpr NumberRule LEADING_DECIMAL{ NumberPolicy::LEADING, DECIMAL_HINT };
 inline constexpr NumberRule WHOLE_DECIMAL{ NumberPolicy::WHOLE, DECIMAL_HINT };
 
-/// What became of an optional attribute.
-enum class ReadResult {
-    READ,
-    ABSENT,
-    WRONG, ///< and reported
+/// Any text that the setter takes. A setter that refuses tells why; with a hint, the reader tells it too.
+struct TextRule {
+    std::string_view strHint;
 };
 
-/// Source file and line of a caller, when it stands as a default argument.
-struct SourcePlace {
-    const char* szFile;
-    int nLine;
+inline constexpr TextRule ANY_TEXT{};
 
-    static constexpr SourcePlace current( const char* in_szFile = __builtin_FILE(), int in_nLine = __builtin_LINE() ) {
-        return { in_szFile, in_nLine };
-    }
+template <class E, std::size_t N>
+struct HintedKeywords {
+    const KeywordTable<E, N>& table;
+    std::string_view strHint;
 };
 
-/// Reads the attributes and children of one element. Every `require...` operation reports what is absent or wrong, in
-/// the reader's wording, and then yields false (or null): the caller only returns. Every `find...` operation says which
-/// of the three it was.
+/// Keywords of the table; any other value is reported as invalid, with the hint.
+template <class E, std::size_t N>
+constexpr HintedKeywords<E, N> hinted( const KeywordTable<E, N>& in_table, std::string_view in_strHint ) {
+    return { in_table, in_strHint };
+}
+
+template <class E, std::size_t N>
+struct SchemaKeywords {
+    const KeywordTable<E, N>& table;
+    SourcePlace where;
+};
+
+/// Keywords of the table where the schema lets nothing else through: any other value is an assertion, whose text
+/// compares the attribute with the keywords.
+template <class E, std::size_t N>
+constexpr SchemaKeywords<E, N> bySchema( const KeywordTable<E, N>& in_table,
+                                         SourcePlace in_where = SourcePlace::current() ) {
+    return { in_table, in_where };
+}
+
+class ElementReader;
+
+/// Reads the attributes and children of one element. What is absent or wrong is reported in the reader's wording, and
+/// the operation yields false (or null): the caller only returns.
 class AttributeReader {
 public:
     AttributeReader( xmlNode* in_pElement, const Logger& in_logger, const ReaderWording& in_wording ) noexcept
@@ -69,76 +90,81 @@ public:
     }
 
     xmlNode* getElement() const noexcept { return m_pElement; }
+    const Logger& getLogger() const noexcept { return *m_pLogger; }
     const char* getName() const noexcept { return getElementName( m_pElement ); }
 
-    ReadResult findText( const char* in_szAttribute, AttributeText& out_text ) const;
+    /// Reads a required attribute into the model: one line of a reader.
+    template <class TRule, class TConfig, class TSetter>
+    bool require( const char* in_szAttribute, const TRule& in_rule, TConfig& out_config, TSetter in_set ) const {
+        AttributeText text;
+        return requireText( in_szAttribute, text ) && setFrom( text, in_szAttribute, in_rule, out_config, in_set );
+    }
+
+    /// The same for an attribute that may be absent: the model then keeps what it has.
+    template <class TRule, class TConfig, class TSetter>
+    bool accept( const char* in_szAttribute, const TRule& in_rule, TConfig& out_config, TSetter in_set ) const {
+        AttributeText text;
+        return !findText( in_szAttribute, text ) || setFrom( text, in_szAttribute, in_rule, out_config, in_set );
+    }
+
+    /// Reads a required attribute into a variable.
+    template <class TRule, class T>
+    bool require( const char* in_szAttribute, const TRule& in_rule, T& out_value ) const {
+        AttributeText text;
+        return requireText( in_szAttribute, text ) && take( text, in_szAttribute, in_rule, out_value );
+    }
+
     bool requireText( const char* in_szAttribute, AttributeText& out_text ) const;
 
-    template <class T>
-    ReadResult findNumber( const char* in_szAttribute, const NumberRule& in_rule, T& out_number ) const {
-        AttributeText text;
-        if ( findText( in_szAttribute, text ) == ReadResult::ABSENT )
-            return ReadResult::ABSENT;
-        return takeNumber( in_szAttribute, text, in_rule, out_number ) ? ReadResult::READ : ReadResult::WRONG;
-    }
+    /// Whether the attribute is there. Nothing is reported.
+    bool findText( const char* in_szAttribute, AttributeText& out_text ) const;
+    bool has( const char* in_szAttribute ) const;
 
+    /// What a text means that was read before; a value that is refused is reported as the rule has it.
     template <class T>
-    bool requireNumber( const char* in_szAttribute, const NumberRule& in_rule, T& out_number ) const {
-        AttributeText text;
-        return requireText( in_szAttribute, text ) && takeNumber( in_szAttribute, text, in_rule, out_number );
-    }
-
-    /// The number that a text holds which was read before; otherwise it is reported as invalid.
-    template <class T>
-    bool takeNumber( const char* in_szAttribute, const AttributeText& in_text, const NumberRule& in_rule,
-                     T& out_number ) const {
+    bool take( const AttributeText& in_text, const char* in_szAttribute, const NumberRule& in_rule,
+               T& out_number ) const {
         const std::optional<T> number = parseNumber<T>( in_text.view(), in_rule.ePolicy );
-        if ( !number ) {
+        if ( number )
+            out_number = *number;
+        else
+            reportInvalid( in_rule.szReportedName ? in_rule.szReportedName : in_szAttribute, in_text.view(),
+                           in_rule.strHint );
+        return number.has_value();
+    }
+
+    template <class E, std::size_t N>
+    bool take( const AttributeText& in_text, const char* in_szAttribute, const HintedKeywords<E, N>& in_rule,
+               E& out_value ) const {
+        const E* const pValue = in_rule.table.find( in_text.view() );
+        if ( pValue )
+            out_value = *pValue;
+        else
             reportInvalid( in_szAttribute, in_text.view(), in_rule.strHint );
-            return false;
-        }
-        out_number = *number;
-        return true;
-    }
-
-    /// A keyword of the table; any other value is reported as invalid, with the hint.
-    template <class E, std::size_t N>
-    ReadResult findKeyword( const char* in_szAttribute, const KeywordTable<E, N>& in_table, E& out_value,
-                            std::string_view in_strHint = {} ) const {
-        AttributeText text;
-        if ( findText( in_szAttribute, text ) == ReadResult::ABSENT )
-            return ReadResult::ABSENT;
-        return takeKeyword( in_szAttribute, text, in_table, out_value, in_strHint ) ? ReadResult::READ
-                                                                                    : ReadResult::WRONG;
+        return pValue != nullptr;
     }
 
     template <class E, std::size_t N>
-    bool requireKeyword( const char* in_szAttribute, const KeywordTable<E, N>& in_table, E& out_value,
-                         std::string_view in_strHint = {} ) const {
-        AttributeText text;
-        return requireText( in_szAttribute, text ) &&
-               takeKeyword( in_szAttribute, text, in_table, out_value, in_strHint );
-    }
-
-    /// A keyword of the table where the schema lets nothing else through: any other value is an assertion, whose text
-    /// compares the attribute with the keywords.
-    template <class E, std::size_t N>
-    ReadResult findSchemaKeyword( const char* in_szAttribute, const KeywordTable<E, N>& in_table, E& out_value,
-                                  SourcePlace in_where = SourcePlace::current() ) const {
-        AttributeText text;
-        if ( findText( in_szAttribute, text ) == ReadResult::ABSENT )
-            return ReadResult::ABSENT;
-        return takeSchemaKeyword( in_szAttribute, text, in_table, out_value, in_where ) ? ReadResult::READ
-                                                                                        : ReadResult::WRONG;
+    bool take( const AttributeText& in_text, const char* in_szAttribute, const KeywordTable<E, N>& in_table,
+               E& out_value ) const {
+        return take( in_text, in_szAttribute, hinted( in_table, {} ), out_value );
     }
 
     template <class E, std::size_t N>
-    bool requireSchemaKeyword( const char* in_szAttribute, const KeywordTable<E, N>& in_table, E& out_value,
-                               SourcePlace in_where = SourcePlace::current() ) const {
-        AttributeText text;
-        return requireText( in_szAttribute, text ) &&
-               takeSchemaKeyword( in_szAttribute, text, in_table, out_value, in_where );
+    bool take( const AttributeText& in_text, const char* in_szAttribute, const SchemaKeywords<E, N>& in_rule,
+               E& out_value ) const {
+        const E* const pValue = in_rule.table.find( in_text.view() );
+        if ( pValue )
+            out_value = *pValue;
+        else
+            assertKeyword( in_szAttribute, in_text.view(), in_rule.table.getKeywords(), in_rule.where );
+        return pValue != nullptr;
     }
+
+    /// Requires the first child element of that name, and reads it with the same logger and words.
+    /// @param in_read called with the child's reader and the other arguments; yields whether all went well
+    template <class TRead, class... TArguments>
+    bool readChild( const char* in_szName, const TRead& in_read, TArguments&... inout_arguments ) const;
 
     /// The first child element of that name; null, after a report, when there is none.
     xmlNode* requireChild( const char* in_szName ) const;
@@ -161,28 +187,25 @@ private:
     void assertKeyword( const char* in_szAttribute, std::string_view in_strValue,
                         std::span<const std::string_view> in_aKeywords, SourcePlace in_where ) const;
 
-    template <class E, std::size_t N>
-    bool takeKeyword( const char* in_szAttribute, const AttributeText& in_text, const KeywordTable<E, N>& in_table,
-                      E& out_value, std::string_view in_strHint ) const {
-        const E* const pValue = in_table.find( in_text.view() );
-        if ( !pValue ) {
-            reportInvalid( in_szAttribute, in_text.view(), in_strHint );
+    template <class TConfig, class TOwner, class TResult, class TValue, class TRule>
+    bool setFrom( const AttributeText& in_text, const char* in_szAttribute, const TRule& in_rule, TConfig& out_config,
+                  TResult ( TOwner::*in_set )( TValue ) ) const {
+        std::remove_cvref_t<TValue> value{};
+        if ( !take( in_text, in_szAttribute, in_rule, value ) )
             return false;
-        }
-        out_value = *pValue;
+        if constexpr ( !std::is_void_v<TResult> )
+            return ( out_config.*in_set )( value );
+        ( out_config.*in_set )( value );
         return true;
     }
 
-    template <class E, std::size_t N>
-    bool takeSchemaKeyword( const char* in_szAttribute, const AttributeText& in_text,
-                            const KeywordTable<E, N>& in_table, E& out_value, SourcePlace in_where ) const {
-        const E* const pValue = in_table.find( in_text.view() );
-        if ( !pValue ) {
-            assertKeyword( in_szAttribute, in_text.view(), in_table.getKeywords(), in_where );
-            return false;
-        }
-        out_value = *pValue;
-        return true;
+    template <class TConfig, class TOwner>
+    bool setFrom( const AttributeText& in_text, const char* in_szAttribute, const TextRule& in_rule,
+                  TConfig& out_config, bool ( TOwner::*in_set )( const char* ) ) const {
+        const bool bTaken = ( out_config.*in_set )( in_text.c_str() );
+        if ( !bTaken && !in_rule.strHint.empty() )
+            reportInvalid( in_szAttribute, in_text.view(), in_rule.strHint );
+        return bTaken;
     }
 
     xmlNode* m_pElement;
@@ -214,5 +237,11 @@ public:
 private:
     ElementPlace m_place;
 };
+
+template <class TRead, class... TArguments>
+bool AttributeReader::readChild( const char* in_szName, const TRead& in_read, TArguments&... inout_arguments ) const {
+    xmlNode* const pChild = requireChild( in_szName );
+    return pChild && in_read( ElementReader( pChild, *m_pLogger, *m_pWording ), inout_arguments... );
+}
 
 } // namespace Velquin::Pstn

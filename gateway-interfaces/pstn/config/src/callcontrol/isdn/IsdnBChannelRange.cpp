@@ -8,15 +8,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
-constexpr NumberRule CHANNEL{ NumberPolicy::WHOLE, "The value must be a positive integer number." };
-
-/// @param in_szReportedName what the attribute is called when it is no number
-bool readChannel( const AttributeReader& in_reader, const char* in_szAttribute, const char* in_szReportedName,
-                  unsigned int& out_uChannel ) {
-    AttributeText text;
-    return in_reader.requireText( in_szAttribute, text ) &&
-           in_reader.takeNumber( in_szReportedName, text, CHANNEL, out_uChannel );
-}
+constexpr std::string_view CHANNEL_HINT = "The value must be a positive integer number.";
 
 } // namespace
 
@@ -30,9 +22,10 @@ bool IsdnBChannelRange::read( const AttributeReader& in_reader, const CallContro
         VELQUIN_REPORT_ERROR( in_logger, "Could not retrieve channel group config " << channelGroupId.view() );
         return false;
     }
-    if ( !readChannel( in_reader.as( in_wording.firstChannel ), "firstChannel", in_wording.szFirstChannelName,
-                       uFirstChannel ) ||
-         !readChannel( in_reader.as( in_wording.lastChannel ), "lastChannel", "lastChannel", uLastChannel ) )
+    const NumberRule firstChannel{ NumberPolicy::WHOLE, CHANNEL_HINT, in_wording.szFirstChannelName };
+    const NumberRule lastChannel{ NumberPolicy::WHOLE, CHANNEL_HINT };
+    if ( !in_reader.as( in_wording.firstChannel ).require( "firstChannel", firstChannel, uFirstChannel ) ||
+         !in_reader.as( in_wording.lastChannel ).require( "lastChannel", lastChannel, uLastChannel ) )
         return false;
     if ( uFirstChannel > uLastChannel )
         in_reader.reportDeclared( "B-Channel range [" + std::to_string( uFirstChannel ) + ".." +

@@ -15,39 +15,30 @@ namespace {
 constexpr ReaderWording WORDING{ "] for isdn config  ", "] for isdn config  " };
 constexpr NumberRule DELAY{ NumberPolicy::WHOLE, "The value must be an integer number." };
 
-bool readTonesIndicator( const ElementReader& in_reader, IsdnCommonConfig& out_config, const Logger& in_logger ) {
+bool readTonesIndicator( const ElementReader& in_reader, IsdnCommonConfig& out_config ) {
     AttributeText text;
-    if ( in_reader.findText( "inbandProgressTonesIndicator", text ) == ReadResult::ABSENT ) {
-        out_config.setInbandProgressTonesIndicator( IsdnCommonConfig::InbandProgressTonesIndicatorType::PROGRESS );
-        VELQUIN_LOG_DEBUG( in_logger, "m_eInbandProgressTonesIndicator = PROGRESS (DEFAULT)" );
+    if ( !in_reader.findText( "inbandProgressTonesIndicator", text ) ) {
+        VELQUIN_LOG_DEBUG( in_reader.getLogger(), "m_eInbandProgressTonesIndicator = PROGRESS (DEFAULT)" );
         return true;
     }
-    const auto* const pIndicator = Keywords::TONES_INDICATOR.find( text.view() );
-    VELQUIN_LOG_DEBUG( in_logger, "m_eInbandProgressTonesIndicator = " << ( pIndicator ? text.c_str() : "ERROR!" ) );
-    if ( !pIndicator ) {
-        in_reader.reportInvalid( "inbandProgressTonesIndicator", text.view() );
-        return false;
-    }
-    out_config.setInbandProgressTonesIndicator( *pIndicator );
-    return true;
+    const bool bKnown = Keywords::TONES_INDICATOR.find( text.view() ) != nullptr;
+    VELQUIN_LOG_DEBUG( in_reader.getLogger(),
+                       "m_eInbandProgressTonesIndicator = " << ( bKnown ? text.c_str() : "ERROR!" ) );
+    return in_reader.require( "inbandProgressTonesIndicator", Keywords::TONES_INDICATOR, out_config,
+                              &IsdnCommonConfig::setInbandProgressTonesIndicator );
 }
 
 bool readCallerName( const ElementReader& in_reader, IsdnCommonConfig& out_config ) {
-    auto eLocation = IsdnCommonConfig::CallerNameLocationType::DISABLED;
-    if ( in_reader.findKeyword( "callerNameLocation", Keywords::CALLER_NAME_LOCATION, eLocation ) == ReadResult::WRONG )
+    if ( !in_reader.accept( "callerNameLocation", Keywords::CALLER_NAME_LOCATION, out_config,
+                            &IsdnCommonConfig::setCallerNameLocation ) )
         return false;
-    out_config.setCallerNameLocation( eLocation );
-
-    unsigned int uFacilityDelayMs = 0;
-    if ( eLocation != IsdnCommonConfig::CallerNameLocationType::DISABLED ) {
-        const ReadResult eResult = in_reader.findNumber( "waitFacilityDelayMs", DELAY, uFacilityDelayMs );
-        if ( eResult == ReadResult::ABSENT )
-            in_reader.reportInvalid( "waitFacilityDelayMs", "" );
-        if ( eResult != ReadResult::READ )
-            return false;
+    if ( out_config.getCallerNameLocation() == IsdnCommonConfig::CallerNameLocationType::DISABLED )
+        return true;
+    if ( !in_reader.has( "waitFacilityDelayMs" ) ) {
+        in_reader.reportInvalid( "waitFacilityDelayMs", "" );
+        return false;
     }
-    out_config.setFacilityDelayMs( uFacilityDelayMs );
-    return true;
+    return in_reader.require( "waitFacilityDelayMs", DELAY, out_config, &IsdnCommonConfig::setFacilityDelayMs );
 }
 
 } // namespace
@@ -59,41 +50,19 @@ IsdnCommonConfig* IsdnCommonConfigXmlSerializer::read( TSHandle<CallControlConfi
     if ( !VELQUIN_ASSERT( !pIsdnCommonConfig.isNull() ) )
         return nullptr;
 
-    unsigned int uId = 0;
-    if ( !reader.requireNumber( "ID", WHOLE_DECIMAL, uId ) )
-        return nullptr;
-    pIsdnCommonConfig->setId( uId );
-
-    auto eTermination = pIsdnCommonConfig->getTermination();
-    if ( !reader.requireKeyword( "termination", Keywords::TERMINATION, eTermination ) )
-        return nullptr;
-    pIsdnCommonConfig->setTermination( eTermination );
-
-    auto eSwitchVariant = pIsdnCommonConfig->getSwitchVariant();
-    if ( !reader.requireKeyword( "switchVariant", Keywords::SWITCH_VARIANT, eSwitchVariant ) )
-        return nullptr;
-    pIsdnCommonConfig->setSwitchVariant( eSwitchVariant );
-
-    auto eNegociation = pIsdnCommonConfig->getBChannelNegociation();
-    if ( !reader.requireKeyword( "BChannelNegotiation", Keywords::B_CHANNEL_NEGOTIATION, eNegociation ) )
-        return nullptr;
-    pIsdnCommonConfig->setBChannelNegociation( eNegociation );
-
-    bool bRestart = true;
-    if ( reader.findKeyword( "initiateRestartProcedure", Keywords::YES_NO, bRestart ) == ReadResult::WRONG )
-        return nullptr;
-    pIsdnCommonConfig->setInitiateRestartProcedure( bRestart );
-
-    auto eGeneration = IsdnCommonConfig::InbandProgressTonesGenerationType::AS_NEEDED;
-    if ( reader.findKeyword( "inbandProgressTonesGeneration", Keywords::TONES_GENERATION, eGeneration ) ==
-         ReadResult::WRONG )
-        return nullptr;
-    pIsdnCommonConfig->setInbandProgressTonesGeneration( eGeneration );
-
-    if ( !readTonesIndicator( reader, *pIsdnCommonConfig, getLogger() ) ||
-         !readCallerName( reader, *pIsdnCommonConfig ) )
-        return nullptr;
-    return pIsdnCommonConfig.release();
+    using Config = IsdnCommonConfig;
+    Config& config = *pIsdnCommonConfig;
+    const bool bRead =
+        reader.require( "ID", WHOLE_DECIMAL, config, &Config::setId ) &&
+        reader.require( "termination", Keywords::TERMINATION, config, &Config::setTermination ) &&
+        reader.require( "switchVariant", Keywords::SWITCH_VARIANT, config, &Config::setSwitchVariant ) &&
+        reader.require( "BChannelNegotiation", Keywords::B_CHANNEL_NEGOTIATION, config,
+                        &Config::setBChannelNegociation ) &&
+        reader.accept( "initiateRestartProcedure", Keywords::YES_NO, config, &Config::setInitiateRestartProcedure ) &&
+        reader.accept( "inbandProgressTonesGeneration", Keywords::TONES_GENERATION, config,
+                       &Config::setInbandProgressTonesGeneration ) &&
+        readTonesIndicator( reader, config ) && readCallerName( reader, config );
+    return bRead ? pIsdnCommonConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

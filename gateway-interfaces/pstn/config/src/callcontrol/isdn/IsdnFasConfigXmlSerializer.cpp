@@ -10,7 +10,7 @@
 #include "document/Element.h"
 #include "hardware/InterfaceReference.h"
 #include "loading/XmlConfig.h"
-#include "reading/ChildElements.h"
+#include "reading/ElementEntries.h"
 #include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
@@ -34,7 +34,7 @@ public:
           m_fasConfig( out_fasConfig ) {}
 
     bool read( xmlNode* in_pElement ) const {
-        const ElementReader reader( in_pElement, m_logger, FAS_WORDING );
+        const AttributeReader reader( in_pElement, m_logger, FAS_WORDING );
         InterfaceReference<DigitalKind> reference( reader, m_logger, WHOLE_DECIMAL );
         if ( !reference.readBoard( m_config ) || !addInterfaces( reference ) )
             return false;
@@ -43,19 +43,15 @@ public:
             reader.as( ISDN_FAS_WORDING ).reportMissingChild( "BChannelRange" );
             return false;
         }
-        for ( xmlNode* const pRange : ranges ) {
-            if ( !readRange( pRange, reference.getInterfaces() ) )
-                return false;
-        }
-        return true;
+        return readEntries( ranges,
+                            [&]( xmlNode* in_pRange ) { return readRange( in_pRange, reference.getInterfaces() ); } );
     }
 
 private:
     bool addInterfaces( InterfaceReference<DigitalKind>& inout_reference ) const {
-        const ReadResult eResult = inout_reference.readInterface();
-        if ( eResult == ReadResult::WRONG )
-            return false;
-        if ( eResult == ReadResult::READ ) {
+        if ( inout_reference.namesInterface() ) {
+            if ( !inout_reference.readInterface() )
+                return false;
             const auto& hInterface = inout_reference.getInterfaces().front();
             if ( m_fasConfig.addApplyToDigitalInterface( hInterface ) )
                 return true;
@@ -75,7 +71,7 @@ private:
     }
 
     bool readRange( xmlNode* in_pRange, const DigitalKind::Interfaces& in_vecInterfaces ) const {
-        const ElementReader reader( in_pRange, m_logger, FAS_WORDING );
+        const AttributeReader reader( in_pRange, m_logger, FAS_WORDING );
         IsdnBChannelRange range;
         if ( !range.read( reader, m_callControlConfig, RANGE_WORDING, m_logger ) )
             return false;
@@ -101,6 +97,8 @@ private:
 IsdnCommonConfig* IsdnFasConfigXmlSerializer::read( TSHandle<CallControlConfig>& in_hCallControlConfig,
                                                     xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
     const ElementReader reader( in_pElement, getLogger(), ISDN_FAS_WORDING );
+    if ( !VELQUIN_ASSERT( !in_hCallControlConfig.isNull() ) )
+        return nullptr;
     UniqueObjPtr<IsdnCommonConfig> pCommonConfig(
         IsdnCommonConfigXmlSerializer::read( in_hCallControlConfig, in_pElement, in_xmlConfig ) );
     if ( !VELQUIN_ASSERT( !pCommonConfig.isNull() ) )
@@ -113,11 +111,10 @@ IsdnCommonConfig* IsdnFasConfigXmlSerializer::read( TSHandle<CallControlConfig>&
     if ( !pApplyTo )
         return nullptr;
     const InterfaceRefReader interfaceRefReader( *in_hCallControlConfig, in_xmlConfig, getLogger(), *pFasConfig );
-    for ( xmlNode* const pInterfaceRef : ChildElements( pApplyTo ) ) {
-        if ( !interfaceRefReader.read( pInterfaceRef ) )
-            return nullptr;
-    }
-    return pFasConfig.release();
+    const bool bApplied = readEntries( ChildElements( pApplyTo ), [&]( xmlNode* in_pInterfaceRef ) {
+        return interfaceRefReader.read( in_pInterfaceRef );
+    } );
+    return bApplied ? pFasConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

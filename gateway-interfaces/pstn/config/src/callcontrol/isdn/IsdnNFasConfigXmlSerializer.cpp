@@ -7,8 +7,7 @@
 
 #include "callcontrol/isdn/IsdnNfasConfig.h"
 #include "callcontrol/isdn/IsdnNfasGroupMemberConfigXmlSerializer.h"
-#include "reading/ChildElements.h"
-#include "reading/ElementReader.h"
+#include "reading/ElementEntries.h"
 #include "reading/NotImplemented.h"
 
 namespace Velquin::Pstn {
@@ -24,6 +23,8 @@ constexpr ReaderWording WORDING{ "] for ISDN NFAS config  ", "" };
 IsdnCommonConfig* IsdnNFasConfigXmlSerializer::read( TSHandle<CallControlConfig>& in_hCallControlConfig,
                                                      xmlNode* const in_pElement, XmlConfig& in_xmlConfig ) try {
     const ElementReader reader( in_pElement, getLogger(), WORDING );
+    if ( !VELQUIN_ASSERT( !in_hCallControlConfig.isNull() ) )
+        return nullptr;
     UniqueObjPtr<IsdnCommonConfig> pCommonConfig(
         IsdnCommonConfigXmlSerializer::read( in_hCallControlConfig, in_pElement, in_xmlConfig ) );
     auto pNFasConfig = dynamicOwnerCast<IsdnNfasConfig>( std::move( pCommonConfig ) );
@@ -34,14 +35,12 @@ IsdnCommonConfig* IsdnNFasConfigXmlSerializer::read( TSHandle<CallControlConfig>
     if ( !pMembers )
         return nullptr;
     IsdnNfasGroupMemberConfigXmlSerializer memberXmlSerializer;
-    for ( xmlNode* const pMember : ChildElements( pMembers ) ) {
-        const ElementPlace place( pMember );
+    const bool bRead = readEntries( ChildElements( pMembers ), [&]( xmlNode* in_pMember ) {
         TSHandle<IsdnNfasGroupMemberConfig> hGroupMember =
-            memberXmlSerializer.read( in_hCallControlConfig, pNFasConfig.get(), pMember, in_xmlConfig );
-        if ( !VELQUIN_ASSERT( !hGroupMember.isNull() ) || !pNFasConfig->addMemberInterface( hGroupMember ) )
-            return nullptr;
-    }
-    return pNFasConfig.release();
+            memberXmlSerializer.read( in_hCallControlConfig, pNFasConfig.get(), in_pMember, in_xmlConfig );
+        return VELQUIN_ASSERT( !hGroupMember.isNull() ) && pNFasConfig->addMemberInterface( hGroupMember );
+    } );
+    return bRead ? pNFasConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

@@ -64,14 +64,13 @@ AudioConfig* AudioConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConf
         return nullptr;
 
     auto ePcmLaw = Media::Format::UNKNOWN;
-    if ( !reader.requireSchemaKeyword( "defaultPcmLaw", Keywords::PCM_LAW, ePcmLaw ) )
+    if ( !reader.require( "defaultPcmLaw", bySchema( Keywords::PCM_LAW ), ePcmLaw ) )
         return nullptr;
     Media::Format mediaFormat;
     mediaFormat.initFrom( ePcmLaw );
     pAudioConfig->setMediaFormat( mediaFormat );
 
-    AttributeText toneSetName;
-    if ( !reader.requireText( "toneSetName", toneSetName ) || !pAudioConfig->setToneSetName( toneSetName.c_str() ) )
+    if ( !reader.require( "toneSetName", ANY_TEXT, *pAudioConfig, &AudioConfig::setToneSetName ) )
         return nullptr;
 
     using Factory = XmlSerializerObjectFactory;

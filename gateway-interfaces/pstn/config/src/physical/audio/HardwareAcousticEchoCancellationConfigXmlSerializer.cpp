@@ -14,12 +14,10 @@ constexpr ReaderWording WORDING{ " for acoustic echo cancellation config ", " fo
 
 bool HardwareAcousticEchoCancellationConfigXmlSerializer::readAttributes(
     xmlNode* in_pElement, HardwareAcousticEchoCancellationConfig& out_config ) {
+    using Config = HardwareAcousticEchoCancellationConfig;
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    auto eMode = out_config.getMode();
-    if ( !reader.requireSchemaKeyword( "mode", Keywords::ACOUSTIC_ECHO_CANCELLATION_MODE, eMode ) )
-        return false;
-    out_config.setMode( eMode );
-    return true;
+    return reader.require( "mode", bySchema( Keywords::ACOUSTIC_ECHO_CANCELLATION_MODE ), out_config,
+                           &Config::setMode );
 }
 
 } // namespace Velquin::Pstn

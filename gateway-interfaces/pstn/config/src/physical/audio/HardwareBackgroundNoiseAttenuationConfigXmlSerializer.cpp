@@ -15,22 +15,12 @@ constexpr ReaderWording WORDING{ " for background noise attenuation config ",
 
 bool HardwareBackgroundNoiseAttenuationConfigXmlSerializer::readAttributes(
     xmlNode* in_pElement, HardwareBackgroundNoiseAttenuationConfig& out_config ) {
+    using Config = HardwareBackgroundNoiseAttenuationConfig;
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    auto eMode = out_config.getMode();
-    if ( !reader.requireSchemaKeyword( "mode", Keywords::BACKGROUND_NOISE_ATTENUATION_MODE, eMode ) )
-        return false;
-    out_config.setMode( eMode );
-
-    auto eDirection = out_config.getDirection();
-    if ( !reader.requireSchemaKeyword( "direction", Keywords::VOICE_DIRECTION, eDirection ) )
-        return false;
-    out_config.setDirection( eDirection );
-
-    int nAttenuation = 0;
-    if ( !reader.requireNumber( "attenuationIndB", LEADING_DECIMAL, nAttenuation ) )
-        return false;
-    out_config.setAttenuation( nAttenuation );
-    return true;
+    return reader.require( "mode", bySchema( Keywords::BACKGROUND_NOISE_ATTENUATION_MODE ), out_config,
+                           &Config::setMode ) &&
+           reader.require( "direction", bySchema( Keywords::VOICE_DIRECTION ), out_config, &Config::setDirection ) &&
+           reader.require( "attenuationIndB", LEADING_DECIMAL, out_config, &Config::setAttenuation );
 }
 
 } // namespace Velquin::Pstn

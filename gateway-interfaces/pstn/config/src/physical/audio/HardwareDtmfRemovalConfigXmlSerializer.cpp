@@ -14,17 +14,10 @@ constexpr ReaderWording WORDING{ " for DTMF removal config ", " for DTMF removal
 
 bool HardwareDtmfRemovalConfigXmlSerializer::readAttributes( xmlNode* in_pElement,
                                                              HardwareDtmfRemovalConfig& out_config ) {
+    using Config = HardwareDtmfRemovalConfig;
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    auto eMode = out_config.getMode();
-    if ( !reader.requireSchemaKeyword( "mode", Keywords::DTMF_REMOVAL_MODE, eMode ) )
-        return false;
-    out_config.setMode( eMode );
-
-    auto eDirection = out_config.getDirection();
-    if ( !reader.requireSchemaKeyword( "direction", Keywords::VOICE_DIRECTION, eDirection ) )
-        return false;
-    out_config.setDirection( eDirection );
-    return true;
+    return reader.require( "mode", bySchema( Keywords::DTMF_REMOVAL_MODE ), out_config, &Config::setMode ) &&
+           reader.require( "direction", bySchema( Keywords::VOICE_DIRECTION ), out_config, &Config::setDirection );
 }
 
 } // namespace Velquin::Pstn

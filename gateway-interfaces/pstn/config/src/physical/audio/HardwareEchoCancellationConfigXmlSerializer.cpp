@@ -14,27 +14,14 @@ constexpr ReaderWording WORDING{ "] for echo cancellation config ", "] for echo 
 
 bool HardwareEchoCancellationConfigXmlSerializer::readAttributes( xmlNode* in_pElement,
                                                                   HardwareEchoCancellationConfig& out_config ) {
+    using Config = HardwareEchoCancellationConfig;
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    auto eMode = out_config.getMode();
-    if ( !reader.requireSchemaKeyword( "mode", Keywords::ECHO_CANCELLATION_MODE, eMode ) )
-        return false;
-    out_config.setMode( eMode );
-
-    auto eComfortNoiseMode = out_config.getComfortNoiseMode();
-    if ( !reader.requireSchemaKeyword( "comfortNoiseMode", Keywords::COMFORT_NOISE_MODE, eComfortNoiseMode ) )
-        return false;
-    out_config.setComfortNoiseMode( eComfortNoiseMode );
-
-    unsigned int uTailDisplacement = 0;
-    if ( !reader.requireNumber( "tailDisplacementInMs", LEADING_DECIMAL, uTailDisplacement ) )
-        return false;
-    out_config.setTailDisplacement( uTailDisplacement );
-
-    auto eDoubleTalkBehavior = out_config.getDoubleTalkBehavior();
-    if ( !reader.requireSchemaKeyword( "doubleTalkBehavior", Keywords::DOUBLE_TALK_BEHAVIOR, eDoubleTalkBehavior ) )
-        return false;
-    out_config.setDoubleTalkBehavior( eDoubleTalkBehavior );
-    return true;
+    return reader.require( "mode", bySchema( Keywords::ECHO_CANCELLATION_MODE ), out_config, &Config::setMode ) &&
+           reader.require( "comfortNoiseMode", bySchema( Keywords::COMFORT_NOISE_MODE ), out_config,
+                           &Config::setComfortNoiseMode ) &&
+           reader.require( "tailDisplacementInMs", LEADING_DECIMAL, out_config, &Config::setTailDisplacement ) &&
+           reader.require( "doubleTalkBehavior", bySchema( Keywords::DOUBLE_TALK_BEHAVIOR ), out_config,
+                           &Config::setDoubleTalkBehavior );
 }
 
 } // namespace Velquin::Pstn

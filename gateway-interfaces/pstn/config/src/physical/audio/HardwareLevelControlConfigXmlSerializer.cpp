@@ -14,25 +14,12 @@ constexpr ReaderWording WORDING{ " for level control config ", " for level contr
 
 bool HardwareLevelControlConfigXmlSerializer::readAttributes( xmlNode* in_pElement,
                                                               HardwareLevelControlConfig& out_config ) {
+    using Config = HardwareLevelControlConfig;
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    auto eMode = out_config.getMode();
-    if ( !reader.requireSchemaKeyword( "mode", Keywords::LEVEL_CONTROL_MODE, eMode ) )
-        return false;
-    out_config.setMode( eMode );
-
-    auto eDirection = out_config.getDirection();
-    if ( !reader.requireSchemaKeyword( "direction", Keywords::VOICE_DIRECTION, eDirection ) )
-        return false;
-    out_config.setDirection( eDirection );
-
-    int nNumber = 0;
-    if ( !reader.requireNumber( "gainIndB", LEADING_DECIMAL, nNumber ) )
-        return false;
-    out_config.setGain( nNumber );
-    if ( !reader.requireNumber( "targetLevelIndBM0", LEADING_DECIMAL, nNumber ) )
-        return false;
-    out_config.setTargetLevel( nNumber );
-    return true;
+    return reader.require( "mode", bySchema( Keywords::LEVEL_CONTROL_MODE ), out_config, &Config::setMode ) &&
+           reader.require( "direction", bySchema( Keywords::VOICE_DIRECTION ), out_config, &Config::setDirection ) &&
+           reader.require( "gainIndB", LEADING_DECIMAL, out_config, &Config::setGain ) &&
+           reader.require( "targetLevelIndBM0", LEADING_DECIMAL, out_config, &Config::setTargetLevel );
 }
 
 } // namespace Velquin::Pstn

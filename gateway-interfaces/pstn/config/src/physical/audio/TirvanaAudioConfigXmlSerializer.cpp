@@ -21,10 +21,9 @@ AudioConfig* TirvanaAudioConfigXmlSerializer::read( xmlNode* const in_pElement, 
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), AUDIO_WORDING );
-    unsigned long long ullVoicePacketLength = 0;
-    if ( !reader.requireNumber( "voicePacketLengthInMs", LEADING_DECIMAL, ullVoicePacketLength ) )
+    if ( !reader.require( "voicePacketLengthInMs", LEADING_DECIMAL, *pTirvanaAudioConfig,
+                          &TirvanaAudioConfig::setVoicePacketLength ) )
         return nullptr;
-    pTirvanaAudioConfig->setVoicePacketLength( ullVoicePacketLength );
     return pTirvanaAudioConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

@@ -1,18 +1,24 @@
 #pragma once
 
+#include <new>
 #include <string>
+#include <type_traits>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 #include <velquin/Object.h>
 #include <velquin/UniqueObjPtr.h>
 
-#include "../../reading/NotImplemented.h"
+#include "../../PstnConfigExport.h"
 #include "../../reading/XmlNodeFwd.h"
 
 namespace Velquin::Pstn {
 
 class XmlConfig;
+
+/// What a `write` of the family does: false, with the ERROR line that it is not implemented.
+VELQUIN_PSTN_CONFIG_EXPORT bool reportBlockNotWritten( const Logger& in_logger,
+                                                       const char* in_szXmlSerializer ) noexcept;
 
 /// Reads one voice-processing block of an `audio` element. What the five blocks have in common: `TSelf` is the block's
 /// serializer, `TConfig` its model class.
@@ -32,18 +38,12 @@ public:
     VELQUIN_CATCH_AND_RETURN( TSelf::getLogger(), nullptr )
 
     /// Not implemented: false, with an ERROR line.
-    virtual bool write( xmlNode* const, const TConfig& ) { return reportWriteNotImplemented<TSelf>(); }
+    virtual bool write( xmlNode* const, const TConfig& ) {
+        return reportBlockNotWritten( TSelf::getLogger(), TSelf::getMemAccountName() );
+    }
 
     /// Creates the empty object of the class that performs the block, which the caller owns; null in this class.
     virtual TConfig* newConfig() { return nullptr; }
-
-protected:
-    template <class TSerializer>
-    static bool reportWriteNotImplemented() noexcept try {
-        const std::string strOperation = std::string( TSerializer::getMemAccountName() ) + "::write";
-        return reportNotImplemented( TSerializer::getLogger(), strOperation.c_str() );
-    }
-    VELQUIN_CATCH_AND_RETURN( TSerializer::getLogger(), false )
 };
 
 /// Reads a block that the board's hardware performs. `TSelf::readAttributes` reads the attributes of the block.
@@ -64,10 +64,10 @@ public:
     VELQUIN_CATCH_AND_RETURN( TSelf::getLogger(), nullptr )
 
     bool write( xmlNode* const, std::add_lvalue_reference_t<const std::remove_pointer_t<Config>> ) override {
-        return TGeneric::template reportWriteNotImplemented<TSelf>();
+        return reportBlockNotWritten( TSelf::getLogger(), TSelf::getMemAccountName() );
     }
 
-    Config newConfig() override { return new THardwareConfig(); }
+    Config newConfig() override { return new ( std::nothrow ) THardwareConfig(); }
 };
 
 } // namespace Velquin::Pstn

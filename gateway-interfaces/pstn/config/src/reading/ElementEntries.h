@@ -1,0 +1,22 @@
+#pragma once
+
+#include "reading/ChildElements.h"
+#include "reading/ElementReader.h"
+
+namespace Velquin::Pstn {
+
+/// Walks the entries of a list, in document order, up to the first that is refused. Each is the place of what is
+/// reported while it is read.
+/// @param in_read called for each; false refuses it
+/// @return whether all were taken
+template <class TRead>
+bool readEntries( const ChildElements& in_entries, const TRead& in_read ) {
+    for ( xmlNode* const pEntry : in_entries ) {
+        const ElementPlace place( pEntry );
+        if ( !in_read( pEntry ) )
+            return false;
+    }
+    return true;
+}
+
+} // namespace Velquin::Pstn
