@@ -134,12 +134,13 @@ const std::vector<CallCase> CALLS{
               ( WrongAudioXmlSerializer<TirvanaAudioConfigXmlSerializer, AudioConfig>().read( pAudio, config ) ) );
           EXPECT_FALSE( NoDChannel().read( pElement, config ) || NoEcho().read( pElement, config ) );
       },
-      assertions( "InterfacePhysicalConfigXmlSerializer: !pAudioConfigXmlSerializer.isNull(); "
-                  "TirvanaDigitalInterfacePhysicalConfigXmlSerializer: !hTirvanaDigitalInterfacePhysicalConfig.isNull(); "
-                  "AudioConfigXmlSerializer: !pAudioConfig.isNull(); TirvanaAudioConfigXmlSerializer: "
-                  "!pTirvanaAudioConfig.isNull(); DChannelConfigXmlSerializer: !pDChannelConfig.isNull(); "
-                  "EchoCancellationConfigXmlSerializer: !pEchoCancellationConfig.isNull(); "
-                  "HardwareEchoCancellationConfigXmlSerializer: !pHardwareConfig.isNull()" ) },
+      assertions(
+          "InterfacePhysicalConfigXmlSerializer: !pAudioConfigXmlSerializer.isNull(); "
+          "TirvanaDigitalInterfacePhysicalConfigXmlSerializer: !hTirvanaDigitalInterfacePhysicalConfig.isNull(); "
+          "AudioConfigXmlSerializer: !pAudioConfig.isNull(); TirvanaAudioConfigXmlSerializer: "
+          "!pTirvanaAudioConfig.isNull(); DChannelConfigXmlSerializer: !pDChannelConfig.isNull(); "
+          "EchoCancellationConfigXmlSerializer: !pEchoCancellationConfig.isNull(); "
+          "HardwareEchoCancellationConfigXmlSerializer: !pHardwareConfig.isNull()" ) },
 };
 
 } // namespace
