@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "loading/XmlConfig.h"
 #include "physical/ApplyTo.h"
 #include "physical/CountryMap.h"
 #include "reading/NotImplemented.h"

@@ -3,7 +3,6 @@
 #include <velquin/Assertion.h>
 
 #include "hardware/InterfaceReference.h"
-#include "loading/XmlConfig.h"
 #include "physical/PhysicalWording.h"
 #include "reading/ElementEntries.h"
 
@@ -28,14 +27,14 @@ bool resolveInterfaces( xmlNode* in_pEntry, const Config& in_config, const Logge
 /// physical configuration only; those that came before a fault keep it.
 /// @param in_onApplied called for each interface that took it; false is a fault
 template <class TKind, class TPhysicalConfig, class OnApplied>
-bool applyToInterfaces( const ElementReader& in_reader, XmlConfig& in_xmlConfig, const Logger& in_logger,
+bool applyToInterfaces( const ElementReader& in_reader, const Config& in_config, const Logger& in_logger,
                         const TSHandle<TPhysicalConfig>& in_hPhysicalConfig, OnApplied in_onApplied ) {
     xmlNode* const pApplyTo = in_reader.as( PHYSICAL_CHILD_WORDING ).requireChild( "applyTo" );
     if ( !pApplyTo )
         return false;
     return readEntries( ChildElements( pApplyTo ), [&]( xmlNode* in_pEntry ) {
         typename TKind::Interfaces vecInterfaces;
-        if ( !resolveInterfaces<TKind>( in_pEntry, in_xmlConfig, in_logger, vecInterfaces ) )
+        if ( !resolveInterfaces<TKind>( in_pEntry, in_config, in_logger, vecInterfaces ) )
             return false;
         for ( const auto& hInterface : vecInterfaces ) {
             if ( !hInterface->getPhysicalConfig().isNull() ) {

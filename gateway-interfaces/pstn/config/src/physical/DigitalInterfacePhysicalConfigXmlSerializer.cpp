@@ -4,6 +4,7 @@
 
 #include <velquin/XML.h>
 
+#include "loading/XmlConfig.h"
 #include "physical/ApplyTo.h"
 #include "physical/DChannelConfigXmlSerializer.h"
 #include "physical/DigitalInterfacePhysicalConfig.h"
