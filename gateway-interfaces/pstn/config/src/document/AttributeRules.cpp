@@ -47,7 +47,7 @@ std::string describeDataType( const std::string& in_strType ) {
     return "The value must be of type " + in_strType + '.';
 }
 
-/// What a `data` pattern wants other than the value; empty when it takes it, as far as type and pattern tell.
+/// What a `data` pattern wants instead of the value; empty when its type and its pattern take the value.
 std::string getHintOfData( const xmlNode* in_pData, const char* in_szValue ) {
     const std::string strType = getPatternAttribute( in_pData, "type" );
     xmlSchemaType* const pType =
@@ -71,7 +71,7 @@ AttributeRules::AttributeRules( SchemaPatterns& in_patterns, const SchemaPattern
     : m_patterns( in_patterns ), m_pElement( in_pElement ) {
     for ( const xmlNode* const pPattern : in_vecPatterns )
         collectAttributes( pPattern, in_vecPatterns.size() == 1, m_rules );
-    // Half the rules would accuse attributes that are right.
+    // With half of the rules, right attributes would look wrong.
     m_bKnown = !m_patterns.isLost() && !in_vecPatterns.empty();
 }
 
@@ -88,7 +88,7 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
             vecFaults.push_back( { strName, std::move( strHint ) } );
         }
     }
-    // A file of attributes only gets no line for each of them.
+    // A file full of attributes gets no line for each of them.
     unsigned int uUnknown = 0;
     for ( const xmlAttr* pAttribute = m_pElement->properties; pAttribute && uUnknown < MAX_UNKNOWN_ATTRIBUTES;
           pAttribute = pAttribute->next ) {
@@ -101,7 +101,7 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
     return vecFaults;
 }
 
-/// What the rule wants other than the value; empty when it takes it.
+/// What the rule wants instead of the value; empty when it takes the value.
 std::string AttributeRules::getHint( const Rule& in_rule, const char* in_szValue ) {
     const auto& vecValues = in_rule.vecValues;
     if ( in_rule.bAnyValue || std::find( vecValues.begin(), vecValues.end(), in_szValue ) != vecValues.end() )
@@ -117,13 +117,13 @@ std::string AttributeRules::getHint( const Rule& in_rule, const char* in_szValue
     return strHint.empty() ? describe( vecValues ) : strHint;
 }
 
-/// The attributes directly in the content of a pattern.
+/// Collects the attributes that stand directly in the content of a pattern.
 void AttributeRules::collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules ) {
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
         collectFrom( pChild, in_bRequired, out_rules );
 }
 
-/// The attributes that a pattern contributes to the element in whose content it stands.
+/// Collects the attributes that a pattern gives to the element around it.
 void AttributeRules::collectFrom( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules ) {
     const SchemaPatterns::Step step( m_patterns );
     if ( m_patterns.isLost() )
@@ -152,7 +152,7 @@ bool AttributeRules::agrees( const std::string& in_strAttribute, const Rule& in_
     return std::find( in_rule.vecValues.begin(), in_rule.vecValues.end(), text.view() ) != in_rule.vecValues.end();
 }
 
-/// Whether each has a rule of that kind for the attribute.
+/// Whether all of them have a rule of that kind for the attribute.
 bool AttributeRules::haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
                               bool ( Rule::*in_has )() const noexcept ) {
     return std::all_of( in_vecRules.begin(), in_vecRules.end(), [&]( const Rules& in_rules ) {
@@ -161,8 +161,8 @@ bool AttributeRules::haveAll( const std::vector<Rules>& in_vecRules, const std::
     } );
 }
 
-/// Of alternatives, those are meant with which the element agrees most, in the attributes that have keywords in each of
-/// them. What all that are meant require is required.
+/// An element means the alternatives with which it agrees most. Only attributes that have keywords in all alternatives
+/// count for that. An attribute is required if all alternatives that the element means require it.
 void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired, Rules& out_rules ) {
     std::vector<Rules> vecAlternatives;
     for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) )
@@ -191,7 +191,7 @@ void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired
     }
 }
 
-/// The values that an attribute takes.
+/// Collects the values that an attribute takes.
 void AttributeRules::collectValues( const xmlNode* in_pPattern, Rule& out_rule ) {
     const SchemaPatterns::Step step( m_patterns );
     if ( m_patterns.isLost() )

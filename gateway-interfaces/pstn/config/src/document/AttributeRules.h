@@ -11,17 +11,17 @@ namespace Velquin::Pstn {
 /// What a schema says of the attributes of one element.
 class AttributeRules {
 public:
-    /// An attribute that is missing, or has a value that the hint replaces.
+    /// An attribute that is missing or has a wrong value.
     struct Fault {
         std::string strAttribute;
-        std::string strHint; ///< empty when it is missing
+        std::string strHint; ///< what would be right; empty when the attribute is missing
     };
 
-    /// @param in_vecPatterns the element's
+    /// @param in_vecPatterns the patterns of the element
     AttributeRules( SchemaPatterns& in_patterns, const SchemaPatterns::Patterns& in_vecPatterns,
                     const xmlNode* in_pElement );
 
-    /// What is wrong with the attributes of the element; nothing where the schema can't be followed.
+    /// What is wrong with the attributes of the element; empty where the schema is too tangled to follow.
     std::vector<Fault> findFaults() const;
 
 private:
@@ -30,7 +30,7 @@ private:
         bool bRequired = false;
         bool bAnyValue = false;
         std::vector<std::string> vecValues;
-        SchemaPatterns::Patterns vecData; ///< `data` patterns: what takes a value that is not listed
+        SchemaPatterns::Patterns vecData; ///< `data` patterns, which take values that are not listed
 
         bool isRequired() const noexcept { return bRequired; }
         bool hasKeywordsOnly() const noexcept { return !bAnyValue && vecData.empty(); }

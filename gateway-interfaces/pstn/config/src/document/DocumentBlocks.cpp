@@ -13,17 +13,17 @@ namespace Velquin::Pstn {
 
 namespace {
 
-/// What the parser hands over of each attribute.
+/// An attribute as the parser hands it over.
 enum AttributeField { NAME, PREFIX, URI, VALUE, VALUE_END, ATTRIBUTE_FIELDS };
 
-/// What the parser makes of an ampersand in a value: it leaves that to those who build the node.
+/// An ampersand in a value as the parser hands it over: whoever builds the node resolves it.
 constexpr std::string_view AMPERSAND = "&#38;";
 
-/// The namespace of a prefix that is declared.
+/// The namespace of a declared prefix.
 xmlNs* getNamespace( xmlNode* in_pElement, const xmlChar* in_szPrefix ) {
     if ( xmlNs* const pNamespace = xmlSearchNs( in_pElement->doc, in_pElement, in_szPrefix ) )
         return pNamespace;
-    throw std::bad_alloc(); // libxml2 makes that of "xml" at its first use
+    throw std::bad_alloc(); // libxml2 allocates the namespace of "xml" at its first use
 }
 
 /// The value of an attribute. A document has no other entities: it can't declare any.
@@ -72,7 +72,7 @@ void DocumentBlocks::endElement() {
     m_pOpen = m_pOpen == m_pRoot ? nullptr : m_pOpen->parent;
 }
 
-/// A zeroed T, with room for more behind it.
+/// A zeroed T, with room for more data behind it.
 template <class T>
 T* DocumentBlocks::add( std::size_t in_uBytes ) {
     static_assert( std::is_trivial_v<T> );
@@ -135,7 +135,7 @@ void DocumentBlocks::setValue( xmlAttr& inout_attribute, std::string_view in_str
     inout_attribute.children = inout_attribute.last = pText;
 }
 
-/// A text of up to eight characters, none of them NUL: most are numbers and keywords, of which a file repeats few.
+/// The node of a text of up to eight characters, none of them NUL. Most are numbers and keywords: a file repeats them.
 xmlNode* DocumentBlocks::getSharedText( xmlDoc* in_pDocument, std::string_view in_strText ) {
     std::uint64_t ullText = 0;
     std::copy( in_strText.begin(), in_strText.end(), reinterpret_cast<char*>( &ullText ) );
@@ -152,8 +152,8 @@ void DocumentBlocks::appendToOpenElement( xmlNode* in_pNode ) noexcept {
     m_pOpen->last = in_pNode;
 }
 
-/// Makes a node of the text that came since the last tag. Blanks between elements are left out, as libxml2 does when
-/// it is asked to: they stay where they are all that an element holds, and beside other text.
+/// Makes a node of the text since the last tag. Leaves out blanks between elements, as libxml2's XML_PARSE_NOBLANKS
+/// does: blanks stay beside other text, and where an element holds nothing else.
 void DocumentBlocks::endText( bool in_bElementEnds ) {
     if ( m_strText.empty() )
         return;

@@ -12,42 +12,42 @@
 
 namespace Velquin::Pstn {
 
-/// What the parser hands over of a start tag: the arguments of libxml2's startElementNsSAX2Func.
+/// A start tag as the parser hands it over: the arguments of libxml2's startElementNsSAX2Func.
 struct StartTag {
     const xmlChar* szName;
     const xmlChar* szPrefix;
     const xmlChar* szUri;
     int nNamespaces;
     const xmlChar** aszNamespaces; ///< prefix and URI of each
-    int nAttributes;               ///< without those that a document type declaration adds
+    int nAttributes;               ///< without the attributes that a document type declaration adds
     const xmlChar** aszAttributes; ///< name, prefix, URI, begin and end of the value of each
 };
 
-/// The nodes of one document: libxml2's own structures, but in a few large blocks in the order of the file, where
-/// libxml2 would allocate each by itself, and with short values shared. A load takes 13 to 17 % fewer instructions than
-/// with libxml2's own nodes, and a third less memory at its peak.
+/// The nodes of one document. They are libxml2's own structures, but stand in a few large blocks, in the order of the
+/// file, and share short values. libxml2 would allocate each node by itself. A load takes 13 to 17 % fewer instructions
+/// than with libxml2's own nodes, and a third less memory at its peak.
 ///
-/// The tree is that which libxml2 makes, except that it has no comments, no processing instructions, and no mark of
-/// CDATA sections; that it gathers no identifiers; and that a shared value has no parent. libxml2 may read, copy and
-/// validate it, but free or change none of its nodes.
+/// The tree is the one that libxml2 makes, with these differences: it has no comments, no processing instructions and
+/// no mark of CDATA sections; it gathers no identifiers; a shared value has no parent. libxml2 may read, copy and
+/// validate the tree, but must neither free nor change any of its nodes.
 class DocumentBlocks {
 public:
     DocumentBlocks() = default;
     DocumentBlocks( const DocumentBlocks& ) = delete;
     DocumentBlocks& operator=( const DocumentBlocks& ) = delete;
 
-    // The events of a parse, in the order of the file. All may throw std::bad_alloc; the parse must end then.
+    // The events of a parse, in the order of the file. Each may throw std::bad_alloc; then the parse must end.
 
     /// @param in_ullLine the line on which the tag ends, from 1
     void startElement( xmlDoc* in_pDocument, const StartTag& in_tag, unsigned long long in_ullLine );
     void addText( std::string_view in_strText );
     void endElement();
 
-    /// The document's element; null while there is none. It stands in no document until the caller makes it a root.
+    /// The root element; null while there is none. It belongs to no document until the caller makes it the root of one.
     xmlNode* getRoot() const noexcept { return m_pRoot; }
 
 private:
-    /// A value of few characters, and these as a number.
+    /// A short value, and its characters as a number.
     struct SharedText {
         std::uint64_t ullText = 0;
         xmlNode* pText = nullptr;
@@ -65,8 +65,8 @@ private:
 
     std::pmr::monotonic_buffer_resource m_memory{ 32768 };
     xmlNode* m_pRoot = nullptr;
-    xmlNode* m_pOpen = nullptr; ///< the innermost element whose end has not come
-    std::string m_strText;      ///< since the last tag
+    xmlNode* m_pOpen = nullptr; ///< the innermost open element
+    std::string m_strText;      ///< the text since the last tag
     std::array<SharedText, 512> m_aSharedTexts{};
 };
 

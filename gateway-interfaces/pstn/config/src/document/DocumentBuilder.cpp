@@ -12,8 +12,8 @@ namespace Velquin::Pstn {
 
 namespace {
 
-// A node that the headers know by another size than the libxml2 that runs would be read beyond its end: headers and
-// library must be of one version, and of one with which all tests ran.
+// libxml2 would read beyond the end of a node that it expects to be larger than our headers say. So headers and library
+// must be of one version, and all tests must have run with it.
 constexpr long TESTED_VERSIONS[] = { 20914, 21504 };
 
 bool areBlocksKnown() noexcept {

@@ -8,7 +8,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
-/// Marks the documents of this library: in others, what nodes leave to programs belongs to the program whose they are.
+/// Marks the documents of this library. In other documents `_private` belongs to the program that made them.
 char s_cOwnDocument;
 
 } // namespace
@@ -20,7 +20,7 @@ const char* getElementName( const xmlNode* in_pElement ) noexcept {
 void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept {
     in_pElement->doc->_private = &s_cOwnDocument;
     in_pElement->_private = reinterpret_cast<void*>( static_cast<std::uintptr_t>( in_ullLine ) );
-    // For copies of the document, which libxml2's compiler of schemas works on.
+    // libxml2's schema compiler works on a copy of the document, which has only this line.
     in_pElement->line = static_cast<unsigned short>( std::min( in_ullLine, 65535ULL ) );
 }
 

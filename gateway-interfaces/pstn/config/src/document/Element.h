@@ -12,27 +12,28 @@ namespace Velquin::Pstn {
 /// The element's local name.
 const char* getElementName( const xmlNode* in_pElement ) noexcept;
 
-/// Remembers the line of an element of a document of this library in the element itself: what libxml2 keeps ends at
-/// 65,534.
+/// Stores the line of an element in the element itself: libxml2's own line numbers end at 65,534. Only for elements of
+/// this library's documents.
 void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept;
 
-/// The line on which the element's start tag ends, from 1; what libxml2 knows when nothing was remembered.
+/// The line on which the element's start tag ends, from 1. For a document of another program, libxml2's line number; 0
+/// when there is none.
 unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept;
 
-/// The element's XPath; empty when memory ends. Costs more the more siblings the element has: ask when a message is
-/// written, not before.
+/// The element's XPath; empty when memory ends. The cost grows with the number of siblings: ask only when a message is
+/// written.
 std::string getElementPath( const xmlNode* in_pElement );
 
 /// Whether the element's name has a namespace.
 bool hasNamespace( const xmlNode* in_pElement ) noexcept;
 
-/// Whether the element is of that namespace.
+/// Whether the element is in that namespace.
 bool isOfNamespace( const xmlNode* in_pElement, std::string_view in_strUri ) noexcept;
 
-/// The file of the element's document, as it was named to the load.
+/// The file of the element's document, as the program named it.
 const char* getElementFile( const xmlNode* in_pElement ) noexcept;
 
-/// The text of one attribute: in place in the document where it stands in one piece, else in a copy.
+/// The text of one attribute. It refers to the document where the text is in one piece there, and is a copy otherwise.
 class AttributeText {
 public:
     const char* c_str() const noexcept { return m_szText; }
@@ -45,7 +46,7 @@ private:
     XmlStringPtr m_pCopy;
 };
 
-/// Finds the attribute of that name. One whose name has a prefix is none of the format's.
+/// Finds the attribute of that name. Passes over names with a prefix: they are none of the format's.
 bool findAttribute( const xmlNode* in_pElement, const char* in_szName, AttributeText& out_text );
 
 } // namespace Velquin::Pstn

@@ -33,7 +33,7 @@ inline const xmlChar* toXml( const char* in_sz ) {
     return reinterpret_cast<const xmlChar*>( in_sz );
 }
 
-/// The text as the rest of the program takes it; empty for null, which is libxml2's answer when memory ends.
+/// The text as `char`; empty for null, which libxml2 yields when memory ends.
 inline const char* fromXml( const xmlChar* in_sz ) {
     return in_sz ? reinterpret_cast<const char*>( in_sz ) : "";
 }

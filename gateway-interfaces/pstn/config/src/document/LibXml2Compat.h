@@ -11,13 +11,13 @@ namespace Velquin::Pstn {
 template <class TError>
 TError* getErrorOf( void ( * )( void*, TError* ) );
 
-/// An error as libxml2 hands it to its structured callbacks: const since 2.12.
+/// An error as libxml2 hands it to structured callbacks. It is const since 2.12.
 using XmlErrorPtr = decltype( getErrorOf( xmlStructuredErrorFunc{} ) );
 
-// Before 2.12, libxml2 compares each attribute of a tag and each namespace in scope with all others, and that before
-// any callback hears of the first. Later versions find them by a hash; what callbacks are told is early enough.
+// Before 2.12, libxml2 compares each attribute of a tag, and each namespace in scope, with all others before it calls
+// back. So these counts are read amid a tag. Later versions use a hash: there it is soon enough to count in a callback.
 
-/// How many attributes the tag at hand has so far, about: libxml2 doubles the room for them.
+/// About how many attributes the current tag has so far: libxml2 doubles the room for them.
 inline int countAttributes( [[maybe_unused]] const xmlParserCtxt& in_context ) noexcept {
 #if LIBXML_VERSION >= 21200
     return 0;

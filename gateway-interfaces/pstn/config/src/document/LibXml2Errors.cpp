@@ -17,7 +17,7 @@ namespace {
 
 constexpr unsigned int MAX_ERRORS = 100;
 
-/// libxml2's messages end with a line break, and some go over several lines.
+/// The message on one line: libxml2's messages end with a line break, and some take several lines.
 std::string toOneLine( const char* in_szMessage ) {
     std::string strLine = in_szMessage ? in_szMessage : "unknown error of libxml2";
     while ( !strLine.empty() && ( strLine.back() == '\n' || strLine.back() == ' ' ) )
@@ -29,7 +29,7 @@ std::string toOneLine( const char* in_szMessage ) {
     return strLine;
 }
 
-// libxml2 prints through here, in pieces, what it has no structured error for.
+// libxml2 prints here, in pieces, whatever it has no structured error for.
 void onGenericError( void* in_pRoute, const char* in_szFormat, ... ) {
     char szText[1024];
     std::va_list args;
@@ -50,27 +50,27 @@ bool isAboutContent( const xmlError& in_error ) {
     return in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_CONTENTVALID;
 }
 
-/// Whether libxml2 misses a child element, without a name for it.
+/// Whether the error says that a child element is missing, without its name.
 bool isAboutMissingChild( const xmlError& in_error ) {
     return in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_NOELEM &&
            *fromXml( toXml( in_error.str1 ) ) == '\0';
 }
 
-/// Whether more is said by the error about the content of an element that follows: an interleave gives up at the first
-/// child that it doesn't expect, and misses those behind it.
+/// Whether the error about an element's content that follows says more than this one. An interleave gives up at the
+/// first child that it doesn't expect, and reports all children behind it as missing.
 bool isInInterleave( const xmlError& in_error ) {
     return in_error.domain == XML_FROM_RELAXNGV &&
            ( in_error.code == XML_RELAXNG_ERR_INTERSEQ || in_error.code == XML_RELAXNG_ERR_INTEREXTRA ||
              ( in_error.code == XML_RELAXNG_ERR_NOELEM && !isAboutMissingChild( in_error ) ) );
 }
 
-/// The name of the element that an error about attributes is about.
+/// The element's name in an error about attributes.
 const char* getElementName( const xmlError& in_error ) {
     return in_error.code == XML_RELAXNG_ERR_INVALIDATTR ? in_error.str2 : in_error.str1;
 }
 
-/// The element that the error is about; null when it is about none. For attributes, libxml2 tells the element's name
-/// but hands over its first child where it has one.
+/// The element that the error is about; null when it is about none. In an error about attributes, libxml2 names the
+/// element but hands over its first child, if it has one.
 xmlNode* getElement( const xmlError& in_error ) {
     auto* const pNode = static_cast<xmlNode*>( in_error.node );
     if ( !pNode || pNode->type != XML_ELEMENT_NODE )
@@ -84,15 +84,15 @@ xmlNode* getElement( const xmlError& in_error ) {
     return pNode;
 }
 
-/// The child at which an interleave gave up: of an element whose content fails, libxml2 tells the name and hands over
-/// that child, or the element where there is none. Null when the error isn't about that.
+/// The child at which an interleave gave up. In an error about an element's content, libxml2 names the element but
+/// hands over that child, or the element if there is no such child. Null when the error isn't about that.
 xmlNode* getUnexpectedChild( const xmlError& in_error ) {
     xmlNode* const pElement = isAboutContent( in_error ) ? getElement( in_error ) : nullptr;
     return pElement && in_error.str1 && std::strcmp( fromXml( pElement->name ), in_error.str1 ) != 0 ? pElement
                                                                                                      : nullptr;
 }
 
-/// The element that may miss a child, at the end of its children or in front of one that is not expected.
+/// The element that may lack a child, at the end of its children or in front of one that is not expected.
 xmlNode* getParentOfMissing( const xmlError& in_error ) {
     xmlNode* const pElement = getElement( in_error );
     if ( getUnexpectedChild( in_error ) ||
@@ -106,10 +106,10 @@ bool isText( const xmlNode* in_pNode ) {
            xmlIsBlankNode( in_pNode ) == 0;
 }
 
-/// libxml2's message; of an interleave, in the words that libxml2 has for other content.
+/// libxml2's message. For an interleave, the words are those that libxml2 has for other content.
 std::string getMessage( const xmlError& in_error ) {
     if ( isAboutMissingChild( in_error ) )
-        return "Expecting an element, got nothing"; // libxml2 leaves a hole where it has no name
+        return "Expecting an element, got nothing"; // libxml2 leaves the name out when it has none
     if ( const xmlNode* const pChild = getUnexpectedChild( in_error ) )
         return std::string( "Did not expect element " ) + fromXml( pChild->name ) + " there";
     const xmlNode* const pElement = isAboutContent( in_error ) ? getElement( in_error ) : nullptr;
@@ -150,7 +150,7 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
     if ( const xmlNode* const pNode = getElement( in_error ) ) {
         finding.ullLine = getElementLine( pNode );
         finding.strElementPath = getElementPath( pNode );
-        // The document knows the file as the program named it.
+        // The document has the file's name as the program gave it.
         if ( const char* const szFile = getElementFile( pNode ); *szFile != '\0' )
             finding.strFile = szFile;
     }
@@ -188,7 +188,7 @@ void LibXml2ErrorRoute::onStructuredError( void* in_pRoute, XmlErrorPtr in_pErro
                   uTimes <= MAX_ERRORS )
             ++uTimes;
     } catch ( ... ) {
-        // libxml2's C code in between must not be unwound.
+        // An exception must not pass through libxml2's C code.
         reportCurrentException( route.m_logger, __func__, __FILE__, __LINE__ );
     }
 }
@@ -206,7 +206,7 @@ void LibXml2ErrorRoute::reportWrongAttributes( std::string in_strName, xmlNode* 
     report( error );
 }
 
-/// Reports the error and keeps the element, for advice.
+/// Reports the error, and keeps the element for the SchemaAdvisor.
 void LibXml2ErrorRoute::report( const xmlError& in_error ) {
     reportLibXml2Error( m_logger, Logger::ERROR_LEVEL, in_error, m_strFile.c_str(), m_uErrors );
     if ( m_uErrors > MAX_ERRORS )
@@ -214,7 +214,7 @@ void LibXml2ErrorRoute::report( const xmlError& in_error ) {
     appendElement( m_vecWrongChildren, getParentOfMissing( in_error ) );
     if ( isAboutAttributes( in_error ) )
         appendElement( m_vecWrongAttributes, getElement( in_error ) );
-    // An optional child with wrong attributes is one that an interleave doesn't expect.
+    // An interleave doesn't expect an optional child with wrong attributes.
     appendElement( m_vecWrongAttributes, getUnexpectedChild( in_error ) );
 }
 

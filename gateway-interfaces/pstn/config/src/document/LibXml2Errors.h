@@ -14,17 +14,18 @@
 
 namespace Velquin::Pstn {
 
-/// Reports a finding about a file as a whole or a line of it: its message, with file and line in the log line too.
+/// Reports a finding about a file or one of its lines. The log line has the message, the file and the line.
 void reportInFile( const Logger& in_logger, Finding in_finding );
 
-/// Reports what libxml2 found: its message, with file and line in the log line too. Of a flood, the first hundred.
+/// Reports an error of libxml2. The log line has the message, the file and the line. Only the first hundred errors are
+/// reported.
 /// @param in_szFile the file that is meant when the error names none
-/// @param inout_uErrors how many there were before, 0 at first
+/// @param inout_uErrors number of errors before this one, 0 at first
 void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError& in_error, const char* in_szFile,
                          unsigned int& inout_uErrors );
 
-/// Routes to a logger, at ERROR, what libxml2 reports on this thread, for as long as the object lives; then puts the
-/// program's own handlers back. It also serves as the context of libxml2's structured callbacks.
+/// While it lives, it sends libxml2's errors of this thread to a logger, at ERROR. Then it puts the program's own
+/// handlers back. It also serves as the context of libxml2's structured callbacks.
 class LibXml2ErrorRoute {
 public:
     /// @param in_szFile the file that is meant when an error names none
@@ -33,24 +34,25 @@ public:
     LibXml2ErrorRoute& operator=( const LibXml2ErrorRoute& ) = delete;
     ~LibXml2ErrorRoute();
 
-    /// Whether memory ended: libxml2's own verdict means nothing then.
+    /// Whether memory ended. If so, libxml2's own verdict means nothing.
     bool isOutOfMemory() const noexcept { return m_bOutOfMemory; }
 
-    /// The elements whose attributes validation refused, each once, as far as they were reported.
+    /// The reported elements whose attributes validation refused, each once.
     const std::vector<xmlNode*>& getElementsWithWrongAttributes() const noexcept { return m_vecWrongAttributes; }
 
-    /// The elements in which validation may have missed a child, each once, as far as they were reported.
+    /// The reported elements that may lack a child, each once.
     const std::vector<xmlNode*>& getElementsWithWrongChildren() const noexcept { return m_vecWrongChildren; }
 
-    /// The names of elements whose attributes validation refused without telling which elements they are, and how often
-    /// it did. Not reported: who finds the elements does it.
+    /// Names of elements whose attributes validation refused without saying which elements these are, and how often it
+    /// did. They are not reported yet: call reportWrongAttributes for each element found.
     const std::map<std::string, unsigned int>& getUnplaced() const noexcept { return m_mapUnplaced; }
 
-    /// Reports that the attributes of an element are refused, unless that was reported before.
-    /// @param in_pElement null for one of that name that was not found
+    /// Reports that the attributes of an element are refused, once for each element.
+    /// @param in_pElement null when no such element of that name was found
     void reportWrongAttributes( std::string in_strName, xmlNode* in_pElement );
 
-    /// A structured error callback of libxml2, whose context is a LibXml2ErrorRoute.
+    /// The structured error callback for libxml2.
+    /// @param in_pRoute the LibXml2ErrorRoute
     static void onStructuredError( void* in_pRoute, XmlErrorPtr in_pError );
 
 private:

@@ -10,22 +10,23 @@
 
 namespace Velquin::Pstn {
 
-/// Tells which attribute of an element the schema refuses, and what it would take, or which child it misses: libxml2's
-/// validation names only the element, and not always that. Asks the schema's own patterns.
+/// Says which attribute of an element the schema refuses and what it would take, or which child is missing. It asks the
+/// schema's own patterns: libxml2's validation names only the element, and at times not even that.
 class SchemaAdvisor {
 public:
-    /// @param in_pSchema a schema in the XML syntax, which outlives this object
+    /// @param in_pSchema a schema in the XML syntax; it outlives this object
     SchemaAdvisor( const xmlDoc* in_pSchema, const Logger& in_logger )
         : m_patterns( in_pSchema ), m_logger( in_logger ) {}
 
     /// Reports every attribute of the element that is missing, unknown, or has a value that the schema doesn't take.
-    /// Says nothing of a schema that refers to itself, or to one definition over and over, beyond measure.
+    /// Reports nothing for a schema that is too tangled to follow.
     void adviseOnAttributes( xmlNode* in_pElement );
 
-    /// Reports every child element that is required and absent.
+    /// Reports every child element that the schema requires and the element lacks.
     void adviseOnChildren( xmlNode* in_pElement );
 
-    /// The elements of that name, the first ones of the document, whose attributes the schema refuses.
+    /// The first elements of that name in the document whose attributes the schema refuses.
+    /// @param in_uMost how many elements are looked for
     std::vector<xmlNode*> findMisfits( xmlNode* in_pRoot, std::string_view in_strName, std::size_t in_uMost );
 
 private:

@@ -11,7 +11,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
-// Far beyond what describes one element, and soon reached by a schema that never ends.
+// One element needs far fewer steps. A schema that never ends reaches the limit soon.
 constexpr unsigned int MAX_STEPS = 20'000;
 constexpr unsigned int MAX_DEPTH = 500;
 
@@ -52,7 +52,7 @@ std::vector<std::string> SchemaPatterns::findMissingChildren( const xmlNode* in_
     return vecMissing;
 }
 
-/// What the content of a pattern requires of the children of the element and doesn't find, by their names.
+/// The names of the children that the content of a pattern requires and the element lacks.
 std::vector<std::string> SchemaPatterns::findMissingAmong( const xmlNode* in_pPattern, const xmlNode* in_pElement ) {
     std::vector<std::string> vecMissing;
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
@@ -60,7 +60,7 @@ std::vector<std::string> SchemaPatterns::findMissingAmong( const xmlNode* in_pPa
     return vecMissing;
 }
 
-/// What a pattern requires of the children of the element in whose content it stands, alternatives as one text.
+/// The names of the children that a pattern requires and the element around it lacks. Alternatives are one text.
 std::vector<std::string> SchemaPatterns::findMissing( const xmlNode* in_pPattern, const xmlNode* in_pElement ) {
     const Step step( *this );
     if ( m_bLost || isPattern( in_pPattern, "optional" ) || isPattern( in_pPattern, "zeroOrMore" ) )
@@ -72,7 +72,7 @@ std::vector<std::string> SchemaPatterns::findMissing( const xmlNode* in_pPattern
         return { strName };
     }
     if ( isPattern( in_pPattern, "choice" ) ) {
-        // Those alternatives count that miss least. Several orders of the same elements are one.
+        // The alternatives that lack least count. Several orders of the same elements count as one.
         std::vector<std::vector<std::string>> vecLeast;
         for ( const xmlNode* const pAlternative : ChildElements( in_pPattern ) ) {
             std::vector<std::string> vecMissing = findMissing( pAlternative, in_pElement );
@@ -99,13 +99,11 @@ std::vector<std::string> SchemaPatterns::findMissing( const xmlNode* in_pPattern
     return vecMissing;
 }
 
-/// The patterns of the element, found from the root down.
 const SchemaPatterns::Patterns& SchemaPatterns::find( const xmlNode* in_pElement ) {
     const xmlNode* const pParent = in_pElement->parent;
     return find( pParent->type == XML_ELEMENT_NODE ? find( pParent ) : getDefinitions( nullptr ), in_pElement );
 }
 
-/// The patterns of the element, which its parent's hold.
 const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecParents, const xmlNode* in_pElement ) {
     const char* const szName = getElementName( in_pElement );
     const auto [it, bNew] = m_mapPatterns.try_emplace( { in_vecParents, szName } );
@@ -117,7 +115,7 @@ const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecPare
     return it->second;
 }
 
-/// The `element` patterns of that name directly in the content of a pattern.
+/// Collects the `element` patterns of that name that stand directly in the content of a pattern.
 void SchemaPatterns::collectElements( const xmlNode* in_pPattern, std::string_view in_strName,
                                       std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns ) {
     const Step step( *this );
@@ -136,7 +134,6 @@ void SchemaPatterns::collectElements( const xmlNode* in_pPattern, std::string_vi
     }
 }
 
-/// What a reference refers to; the start of the grammar for none.
 const SchemaPatterns::Patterns& SchemaPatterns::getDefinitions( const xmlNode* in_pRef ) const {
     static const Patterns s_vecNone;
     const auto it = m_mapDefinitions.find( in_pRef ? getPatternAttribute( in_pRef, "name" ) : "" );

@@ -12,13 +12,13 @@
 
 namespace Velquin::Pstn {
 
-/// The patterns of a RelaxNG schema in the XML syntax, found by the elements of a document.
+/// Finds the patterns of a RELAX NG schema, in the XML syntax, that describe the elements of a document.
 class SchemaPatterns {
 public:
     using Patterns = std::vector<const xmlNode*>;
 
-    /// One step into a pattern. A schema's size says nothing of how many there are: definitions can refer to each
-    /// other.
+    /// One step into a pattern. Definitions can refer to each other, so a small schema can have any number of steps:
+    /// too many make isLost() true.
     class Step {
     public:
         explicit Step( SchemaPatterns& in_patterns );
@@ -33,20 +33,21 @@ public:
     /// @param in_pSchema outlives this object
     explicit SchemaPatterns( const xmlDoc* in_pSchema );
 
-    /// Begins to count steps anew, for another element.
+    /// Starts to count steps for another element.
     void beginElement() noexcept { m_uSteps = 0; }
-    /// Whether the schema refers to itself, or to one definition over and over, beyond measure. What was found is no
-    /// more than a part then.
+    /// Whether the schema is too tangled to follow: it refers to itself, or too often to one definition. What was found
+    /// is then only a part.
     bool isLost() const noexcept { return m_bLost; }
 
-    /// The `element` patterns of an element, found from the root down.
+    /// The `element` patterns of an element. The search starts at the root.
     const Patterns& find( const xmlNode* in_pElement );
-    /// Those of an element whose parent's patterns are known; those of the grammar's start are a root's.
+    /// The `element` patterns of an element whose parent's patterns are known. A root has the start of the grammar as
+    /// parent.
     const Patterns& find( const Patterns& in_vecParents, const xmlNode* in_pElement );
-    /// What a reference refers to; the start of the grammar for none.
+    /// The definitions that a reference names; the start of the grammar for null.
     const Patterns& getDefinitions( const xmlNode* in_pRef ) const;
 
-    /// The names of the children that the element must have and hasn't; alternatives as one text.
+    /// The names of the required children that the element lacks. Alternatives are one text.
     std::vector<std::string> findMissingChildren( const xmlNode* in_pElement );
 
 private:
@@ -56,17 +57,17 @@ private:
                           std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns );
 
     std::map<std::string, Patterns, std::less<>> m_mapDefinitions;
-    std::map<std::pair<Patterns, std::string>, Patterns> m_mapPatterns; // of an element, by those of its parent
+    std::map<std::pair<Patterns, std::string>, Patterns> m_mapPatterns; // by the parent's patterns and the name
     unsigned int m_uDepth = 0;
-    unsigned int m_uSteps = 0; // for the element at hand
-    bool m_bLost = false;      // once and for all: to lose the way for each element takes too long
+    unsigned int m_uSteps = 0; // for the current element
+    bool m_bLost = false;      // stays true: to try again for each element would take too long
 };
 
 /// The attribute of a pattern; empty when it has none of that name.
 std::string getPatternAttribute( const xmlNode* in_pPattern, const char* in_szName );
 bool isPattern( const xmlNode* in_pNode, std::string_view in_strName );
 
-/// Appends what isn't there yet.
+/// Appends the items that aren't there yet.
 template <class T>
 void merge( std::vector<T>& inout_vecAll, const std::vector<T>& in_vecMore ) {
     for ( const T& one : in_vecMore ) {

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view RELAX_NG = "http://relaxng.org/ns/structure/1.0";
 
-/// Whether a schema draws in other files, which a load doesn't read.
+/// Whether a schema includes other files: a load doesn't read them.
 bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
     for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
         const std::string_view strName = getElementName( pChild );
@@ -34,13 +34,12 @@ bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
     return false;
 }
 
-/// Reports which attributes and children of the document the schema refuses or misses, where libxml2 named the element
-/// and where it didn't.
+/// Reports which attributes are wrong and which children are missing, whether libxml2 named the element or not.
 void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xmlDoc* in_pDocument,
              const Logger& in_logger ) {
     SchemaAdvisor advisor( in_pSchema, in_logger );
     for ( const auto& [strName, uTimes] : inout_route.getUnplaced() ) {
-        // Some of them may have been named by another error.
+        // Another error may have named some of them.
         const std::size_t uMost = uTimes + inout_route.getElementsWithWrongAttributes().size();
         const std::vector<xmlNode*> vecMisfits =
             advisor.findMisfits( xmlDocGetRootElement( in_pDocument ), strName, uMost );
@@ -55,7 +54,7 @@ void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xml
         advisor.adviseOnChildren( pElement );
 }
 
-/// Compiles the schema, and hands out its document for those who ask what it says.
+/// Compiles the schema, and hands out its document for the SchemaAdvisor.
 XmlRelaxNGPtr compileSchema( const char* in_szSchemaFile, const Logger& in_logger, XmlDocumentPtr& out_pSchema ) {
     VELQUIN_LOG_DEBUG( in_logger, "Validating Relax-NG file (" << in_szSchemaFile << ")..." );
     VELQUIN_LOG_DEBUG( in_logger, "Creating RelaxNG parser context..." );
@@ -106,7 +105,7 @@ XmlDocumentPtr loadAndValidateXmlDocument( const char* in_szConfigFile, const ch
         VELQUIN_REPORT_ERROR( in_logger, "failed to parse XML file " << in_szConfigFile );
         return nullptr;
     }
-    // Of a document that has a URL, libxml2 walks over all preceding siblings for every error.
+    // If a document has a URL, libxml2 walks over all preceding siblings for every error.
     XmlStringPtr pUrl( const_cast<xmlChar*>( std::exchange( pDocument->get()->URL, nullptr ) ) );
     const bool bValid = xmlRelaxNGValidateDoc( pContext.get(), pDocument->get() ) == 0;
     pDocument->get()->URL = pUrl.release();

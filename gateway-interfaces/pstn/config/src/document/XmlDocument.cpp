@@ -12,7 +12,7 @@ XmlDocument::XmlDocument( XmlDocPtr in_pDocument, std::unique_ptr<DocumentBlocks
 
 XmlDocument::~XmlDocument() {
     if ( m_pBlocks && getRoot() )
-        xmlUnlinkNode( getRoot() ); // or libxml2 would free it
+        xmlUnlinkNode( getRoot() ); // else libxml2 would free the nodes
 }
 
 } // namespace Velquin::Pstn

@@ -9,22 +9,21 @@
 
 namespace Velquin::Pstn {
 
-/// A document that was parsed, with what its nodes stand in.
+/// A parsed document. Owns the blocks in which its nodes stand.
 class XmlDocument {
 public:
-    /// @param in_pDocument the document
-    /// @param in_pBlocks what holds its nodes; null when libxml2 made them
+    /// @param in_pBlocks the nodes of the document; null when libxml2 made the nodes
     XmlDocument( XmlDocPtr in_pDocument, std::unique_ptr<DocumentBlocks> in_pBlocks );
     XmlDocument( const XmlDocument& ) = delete;
     XmlDocument& operator=( const XmlDocument& ) = delete;
     ~XmlDocument();
 
-    /// Not to be changed: libxml2 could free a node that isn't its own.
+    /// The document. Don't change it: libxml2 could free a node that isn't its own.
     xmlDoc* get() const noexcept { return m_pDocument.get(); }
     xmlNode* getRoot() const noexcept { return xmlDocGetRootElement( get() ); }
 
 private:
-    std::unique_ptr<DocumentBlocks> m_pBlocks; // outlives the document, which may refer to its attributes
+    std::unique_ptr<DocumentBlocks> m_pBlocks; // outlives the document, which may refer to attributes in it
     XmlDocPtr m_pDocument;
 };
 

@@ -19,10 +19,10 @@ namespace {
 
 constexpr int MAX_ATTRIBUTES = 1000; // of an element
 constexpr int MAX_NAMESPACES = 100;  // in scope
-constexpr int MAX_NAMES = 100000;    // different ones in a file
+constexpr int MAX_NAMES = 100000;    // different names in a file
 constexpr std::streamsize MAX_DTD_BYTES = 16384;
 
-/// What the callbacks of one parse share. The context holds it in `_private`.
+/// The state that the callbacks of one parse share. The context's `_private` points to it.
 struct ParseState {
     const Logger& logger;
     const char* szPath;
@@ -31,11 +31,11 @@ struct ParseState {
     std::ifstream stream{};
     bool bInDtd = false;
     std::streamsize nDtdBytes = 0;
-    std::vector<int> vecNamespaces{}; ///< how many each open element declares
-    int nNamespaces = 0;              ///< the sum
+    std::vector<int> vecNamespaces{}; ///< number of namespaces that each open element declares
+    int nNamespaces = 0;              ///< their sum
     unsigned int uErrors = 0;
-    bool bRefused = false; // and told
-    bool bEnded = false;   // by us: what libxml2 says of the rest is about nothing in the file
+    bool bRefused = false; // the reason is reported
+    bool bEnded = false;   // we ended the parse: libxml2's further errors are no faults of the file
 
     static ParseState& of( void* in_pContext ) {
         return *static_cast<ParseState*>( static_cast<xmlParserCtxt*>( in_pContext )->_private );
@@ -57,7 +57,7 @@ void reportFile( const ParseState& in_state, Finding::Kind in_eKind, unsigned lo
     reportInFile( in_state.logger, std::move( finding ) );
 }
 
-/// Reports why the file is refused, once. The caller sees to it that parsing ends.
+/// Reports once why the file is refused. The caller ends the parse.
 void refuse( ParseState& inout_state, std::string in_strWhy ) {
     if ( !inout_state.bEnded )
         reportFile( inout_state, Finding::Kind::OTHER, getLine( const_cast<xmlParserCtxt*>( inout_state.pContext ) ),
@@ -65,7 +65,7 @@ void refuse( ParseState& inout_state, std::string in_strWhy ) {
     inout_state.bRefused = inout_state.bEnded = true;
 }
 
-/// Runs a callback's body; libxml2's C code above it must not be unwound. Ends the parse when the body says so.
+/// Runs the body of a callback, and ends the parse when the body says so. No exception passes through libxml2's C code.
 template <class Body>
 void runCallback( void* in_pContext, Body in_body ) noexcept {
     ParseState& state = ParseState::of( in_pContext );
@@ -83,15 +83,15 @@ void onError( void* in_pContext, XmlErrorPtr in_pError ) {
     if ( ParseState::of( in_pContext ).bEnded )
         return;
     runCallback( in_pContext, [in_pError]( ParseState& inout_state ) {
-        // Without a name for its prefix, or when memory ends, libxml2 hands out what it has and calls it well-formed.
+        // When a prefix has no namespace, or memory ends, libxml2 hands out what it has and calls it well-formed.
         inout_state.bRefused = inout_state.bRefused || in_pError->level >= XML_ERR_ERROR;
         const int nLevel = in_pError->level == XML_ERR_WARNING ? Logger::WARNING_LEVEL : Logger::ERROR_LEVEL;
         reportLibXml2Error( inout_state.logger, nLevel, *in_pError, inout_state.szPath, inout_state.uErrors );
     } );
 }
 
-/// What the file has too much of; null when of nothing.
-/// @param in_nAttributes of the present start tag, as far as they are known
+/// What the file has too much of; null when there is nothing.
+/// @param in_nAttributes number of attributes of the current start tag, as far as it is known
 const char* findExcess( const ParseState& in_state, int in_nAttributes, int in_nNamespaces ) {
     if ( in_nAttributes > MAX_ATTRIBUTES )
         return "An element has more than 1000 attributes";
@@ -149,7 +149,7 @@ void onText( void* in_pContext, const xmlChar* in_pText, int in_nLength ) {
 void onEndDocument( void* in_pContext ) {
     runCallback( in_pContext, [&]( ParseState& inout_state ) {
         xmlSAX2EndDocument( in_pContext );
-        // libxml2 takes a NUL character for the file's end.
+        // libxml2 takes a NUL character for the end of the file.
         if ( const xmlParserInput* const pRest = inout_state.pContext->input;
              pRest && pRest->cur < pRest->end && *pRest->cur == 0 )
             refuse( inout_state, "NUL character" );
@@ -162,7 +162,7 @@ void onInternalSubset( void* in_pContext, const xmlChar* in_szName, const xmlCha
     xmlSAX2InternalSubset( in_pContext, in_szName, in_szPublicId, in_szSystemId );
 }
 
-/// Comes when the internal subset has ended. The external one is not read.
+/// Called when the internal subset has ended. The external subset is not read.
 void onExternalSubset( void* in_pContext, const xmlChar*, const xmlChar*, const xmlChar* ) {
     ParseState::of( in_pContext ).bInDtd = false;
 }
@@ -198,7 +198,7 @@ void onAttributeDeclaration( void* in_pContext, const xmlChar* in_szElement, con
 
 int readChunk( void* in_pState, char* out_pBuffer, int in_nSize ) {
     auto& state = *static_cast<ParseState*>( in_pState );
-    // libxml2 asks for a few thousand bytes at a time, amid a start tag too.
+    // libxml2 asks for a few thousand bytes at a time, also amid a start tag.
     if ( const char* const szExcess =
              findExcess( state, countAttributes( *state.pContext ), countNamespaces( *state.pContext ) ) ) {
         try {
@@ -232,10 +232,10 @@ void setHandlers( xmlSAXHandler& out_handlers, bool in_bBlocks ) {
     out_handlers.attributeDecl = &onAttributeDeclaration;
     if ( in_bBlocks ) {
         out_handlers.characters = &onText;
-        out_handlers.cdataBlock = nullptr; // comes as text then
+        out_handlers.cdataBlock = nullptr; // CDATA then comes as text
         out_handlers.comment = nullptr;
         out_handlers.processingInstruction = nullptr;
-        out_handlers.reference = nullptr; // of an entity that isn't declared, which is an error
+        out_handlers.reference = nullptr; // only undeclared entities come here, and they are errors
     }
 }
 
@@ -260,7 +260,7 @@ XmlDocumentPtr readXmlDocument( const char* in_szPath, const Logger& in_logger )
         reportFile( state, Finding::Kind::UNREADABLE_FILE, 0, "Can't read to the end" );
     if ( state.bRefused )
         return nullptr;
-    // libxml2 keeps a URI, escaped; messages name the file as the program named it.
+    // libxml2 stores an escaped URI, but messages name the file as the program named it.
     XmlStringPtr pUrl( xmlStrdup( toXml( in_szPath ) ) );
     if ( !pDocument || !pUrl )
         throw std::bad_alloc();

@@ -15,7 +15,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
-/// Appends the line with its number in front, right-aligned in a field of six.
+/// Appends the line, with its number in front, right-aligned in six columns.
 void appendNumberedLine( std::string& inout_strText, unsigned long long in_ullLine, std::string_view in_strLine ) {
     char szNumber[20];
     const auto [pEnd, eError] = std::to_chars( std::begin( szNumber ), std::end( szNumber ), in_ullLine );
@@ -39,7 +39,7 @@ bool logContent( const char* in_szConfigFile, const Logger& in_logger ) {
         return true;
     std::string strText = std::string( "PSTN configuration: " ) + in_szConfigFile + "\n";
     char szLine[2048];
-    // A longer line comes in pieces, which all have its number.
+    // A longer line comes in pieces. Each piece has the number of the line.
     for ( unsigned long long ullLine = 1; stream.getline( szLine, sizeof( szLine ) ) || stream.gcount() > 0; ) {
         appendNumberedLine( strText, ullLine, szLine );
         if ( stream.fail() && !stream.eof() && !stream.bad() )

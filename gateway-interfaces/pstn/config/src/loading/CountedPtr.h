@@ -17,12 +17,12 @@ public:
     unsigned int m_uCount = 1;
 };
 
-/// Shares an object between the copies of its owner, all on one thread. The object's class is complete where the
+/// Shares an object between the copies of its owner, all on one thread. The object's class must be complete where the
 /// pointer is made, copied or released.
 template <class T>
 class CountedPtr {
 public:
-    /// Takes ownership, also when memory for the count ends.
+    /// Takes ownership, even when there is no memory for the count: the object is then deleted.
     explicit CountedPtr( T* in_pObject ) : m_pObject( in_pObject ) {
         std::unique_ptr<T> pObject( in_pObject );
         m_pCount = new ReferenceCount();

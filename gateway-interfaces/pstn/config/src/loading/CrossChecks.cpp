@@ -11,7 +11,7 @@
 #include "hardware/InterfaceKind.h"
 #include "hardware/TirvanaAnalogBoardConfig.h"
 
-// The checks are part of a load, and their assertions are those of the loader.
+// The checks are part of a load, so their assertions name the loader's file.
 #define ASSERT_OF_LOADER( ... )                                                                                        \
     static_cast<bool>( Assertion( static_cast<bool>( __VA_ARGS__ ), #__VA_ARGS__, "XmlConfig", __LINE__ ) )
 
@@ -73,10 +73,10 @@ void checkDigitalPhysicalConfigs( const CrossCheckSubject& in_subject, CrossChec
     checkPhysicalConfigs( in_subject.vecDigitalInterfaces, "Digital interface", out_findings );
 }
 
-/// Numbers that are mostly taken in ascending order.
+/// The numbers taken so far. Most come in ascending order.
 class TakenNumbers {
 public:
-    /// False when the number is taken already.
+    /// False when the number is already taken.
     bool take( unsigned int in_uNumber ) {
         if ( m_vecAscending.empty() || m_vecAscending.back() < in_uNumber ) {
             m_vecAscending.push_back( in_uNumber );
@@ -112,8 +112,8 @@ void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out
     }
 }
 
-/// @param in_vecConfigured the interfaces that have call control, gathered in one sweep over the groups: to ask group
-/// after group for every interface would cost their product
+/// @param in_vecConfigured the interfaces that have call control, from one sweep over the groups: to ask group after
+/// group for each interface would cost the product of both
 template <class TInterface>
 void checkCallControl( const std::vector<const TInterface*>& in_vecInterfaces,
                        std::vector<const TInterface*> in_vecConfigured, const char* in_szSubject,

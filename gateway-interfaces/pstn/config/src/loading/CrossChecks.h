@@ -8,7 +8,7 @@
 
 namespace Velquin::Pstn {
 
-/// The model that is checked, and all its interfaces, which it owns: board after board, ascending by identifier.
+/// The model that is checked, and all its interfaces: board after board, ascending by identifier. The model owns them.
 struct CrossCheckSubject {
     const Config& config;
     std::vector<const AnalogInterfaceConfig*> vecAnalogInterfaces;
@@ -17,23 +17,23 @@ struct CrossCheckSubject {
     explicit CrossCheckSubject( const Config& in_config ) noexcept : config( in_config ) {}
 
     /// Gathers the interfaces.
-    /// @return false, after an assertion, when the model is broken; nothing can be asked of it then
+    /// @return false, after an assertion, when the model is broken; then the checks must not run
     bool gather();
 };
 
-/// What the cross-checks found wrong, and with which board or interface.
+/// A fault that a cross-check found, and its board or interface.
 struct CrossCheckFinding {
     bool bAnalog;
     unsigned int uBoardId;
-    std::optional<unsigned int> uInterfaceId; ///< unset when the board itself is meant
+    std::optional<unsigned int> uInterfaceId; ///< unset when the fault is the board's
     std::string strText;
 };
 using CrossCheckFindings = std::vector<CrossCheckFinding>;
 
-/// One question about the whole model. Appends what it finds.
+/// One question about the whole model. Appends the faults that it finds.
 using CrossCheck = void ( * )( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings );
 
-/// All questions, in the order in which they are asked. None costs more than the model is large.
+/// All questions, in the order in which they are asked. The cost of each grows with the size of the model, not faster.
 const std::vector<CrossCheck>& getCrossChecks();
 
 } // namespace Velquin::Pstn

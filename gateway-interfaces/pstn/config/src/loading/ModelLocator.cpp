@@ -10,7 +10,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
-/// The identifier of a board or an interface, as its reader took it.
+/// The identifier of a board or an interface, as its reader reads it.
 unsigned int readId( const xmlNode* in_pElement, NumberPolicy in_ePolicy ) {
     AttributeText id;
     static_cast<void>( findAttribute( in_pElement, "ID", id ) );
@@ -37,7 +37,7 @@ ModelLocator::Place ModelLocator::find( bool in_bAnalog, unsigned int in_uBoardI
 }
 
 ModelLocator::Elements ModelLocator::gather( const xmlNode* in_pParent, NumberPolicy in_ePolicy ) {
-    // libxml2 would count the siblings again for each path.
+    // Not xmlGetNodePath: it would count the siblings again for each path.
     std::map<std::string_view, unsigned long> mapCounts;
     Elements elements;
     for ( const xmlNode* const pElement : ChildElements( in_pParent ) )

@@ -10,25 +10,25 @@
 
 namespace Velquin::Pstn {
 
-/// Finds the element from which a board or an interface was read. What it needs it gathers when it is asked, board by
-/// board: only a model that is at fault is asked about.
+/// Finds the element from which a board or an interface was read. It looks through a board only when it is asked about
+/// that board: nobody asks about a model without faults.
 class ModelLocator {
 public:
     struct Place {
-        const xmlNode* pElement = nullptr; ///< null when there is none
+        const xmlNode* pElement = nullptr; ///< null when no element was found
         std::string strPath;               ///< the element's XPath
     };
 
     explicit ModelLocator( const xmlNode* in_pRoot ) noexcept : m_pRoot( in_pRoot ) {}
 
-    /// The place of the board or, when its identifier is given, of the interface.
+    /// The place of the board or, if an interface identifier is given, of the interface.
     Place find( bool in_bAnalog, unsigned int in_uBoardId, std::optional<unsigned int> in_uInterfaceId );
 
 private:
     struct Element {
         unsigned int uId;
         const xmlNode* pElement;
-        unsigned long ulPosition; ///< among the siblings of its name, from 1; 0 when it has none
+        unsigned long ulPosition; ///< among the siblings of its name, from 1; 0 when it is the only one
     };
     using Elements = std::vector<Element>; ///< ascending by identifier
 

@@ -26,7 +26,7 @@ public:
     const Definition& getConfigFile() const noexcept { return m_aDefinitions[0]; }
     /// Path of the RelaxNG schema.
     const Definition& getSchemaFile() const noexcept { return m_aDefinitions[1]; }
-    /// All of them, in the order in which they are declared.
+    /// All parameters, in the order in which they are declared.
     const std::array<Definition, 2>& getDefinitions() const noexcept { return m_aDefinitions; }
 
 private:
@@ -44,8 +44,8 @@ private:
 
 namespace Velquin::PSTNConfig {
 
-/// Declares the library's parameters in the gateway's parameter database. The gateway calls it once, before it loads
-/// the configuration. A name that is declared already keeps its first declaration.
+/// Declares the library's parameters in the gateway's parameter database. The gateway calls this once, before it loads
+/// the configuration. A name that is already declared keeps its first declaration.
 VELQUIN_PSTN_CONFIG_EXPORT bool addParametersToDB();
 
 } // namespace Velquin::PSTNConfig

@@ -32,7 +32,7 @@ namespace {
 
 constexpr const char* CONTAINS_ERRORS = " contains one ore more errors. ";
 
-/// The file that is being loaded: the place of what has no nearer one.
+/// The file that is being loaded: the place of findings that have no nearer place.
 class FilePlace : private FindingPlace {
 public:
     explicit FilePlace( const char* in_szFile ) noexcept : m_szFile( in_szFile ) {}
@@ -48,7 +48,7 @@ private:
 
 } // namespace
 
-/// What a load consists of. Shared by the copies of an XmlConfig; works for the one that is loading.
+/// The steps of a load. The copies of an XmlConfig share this object; it works for the copy that is loading.
 class XmlConfig::Impl {
     VELQUIN_MEM_ACCOUNT( Impl );
 
@@ -70,7 +70,7 @@ private:
     bool loadCallControlConfig( const xmlNode* in_pRootNode );
     bool crossCheck( const xmlNode* in_pRootNode ) const;
 
-    XmlConfig* m_pOwner = nullptr; // while it loads
+    XmlConfig* m_pOwner = nullptr; // the copy that is loading
     UniqueObjPtr<XmlSerializerObjectFactory> m_pFactory{ new XmlSerializerObjectFactory() };
 };
 
@@ -81,7 +81,7 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
     const XML::LibraryScope library;
     const FilePlace place( in_szConfigFile );
     const LibXml2ErrorRoute errorRoute( getLogger(), in_szConfigFile );
-    // A watch of the findings may load another file through a copy of this configuration.
+    // A watch of findings may load another file, with a copy of this configuration.
     const auto restoreOwner = [this, pOuter = m_pOwner]( XmlConfig* ) { m_pOwner = pOuter; };
     const std::unique_ptr<XmlConfig, decltype( restoreOwner )> pOwner( m_pOwner = &in_owner, restoreOwner );
 
@@ -97,7 +97,7 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
            loadInterfacePhysicalsConfig( pRootNode ) && loadCallControlConfig( pRootNode ) && crossCheck( pRootNode );
 }
 
-/// Reads the entries of one section, in document order; a section that is absent or empty is valid.
+/// Reads the entries of one section, in document order. An absent or empty section is valid.
 /// @param in_readEntry reads one entry and attaches it to the model
 template <class ReadEntry>
 bool XmlConfig::Impl::loadSection( const xmlNode* in_pRootNode, const char* in_szSection, const char* in_szSubject,
@@ -154,7 +154,7 @@ bool XmlConfig::Impl::loadInterfacePhysicalsConfig( const xmlNode* in_pRootNode 
             m_pFactory->newInterfacePhysicalConfigXmlSerializer( in_szName ) );
         if ( !VELQUIN_ASSERT( !pInterfacePhysicalConfigXmlSerializer.isNull() ) )
             return Entry::REFUSED;
-        // The interfaces hold what was read.
+        // The interfaces hold the configuration.
         return pInterfacePhysicalConfigXmlSerializer->read( in_pEntry, *m_pOwner ).isNull() ? Entry::CONTAINS_ERRORS
                                                                                             : Entry::ATTACHED;
     };

@@ -71,7 +71,7 @@ constexpr Entry<DtmfRemovalConfigXmlSerializer> DTMF_REMOVALS[] = {
     { HARDWARE, &create<DtmfRemovalConfigXmlSerializer, HardwareDtmfRemovalConfigXmlSerializer> },
 };
 
-/// @param in_szUnknown what is logged, with the keyword, when nothing matches
+/// @param in_szUnknown logged, with the keyword, when nothing matches
 template <class TBase, std::size_t N>
 TBase* createByKeyword( const Entry<TBase> ( &in_aEntries )[N], const char* in_szKeyword, const char* in_szUnknown,
                         const Logger& in_logger ) noexcept try {

@@ -17,15 +17,15 @@ class InterfacePhysicalConfigXmlSerializer;
 class LevelControlConfigXmlSerializer;
 class ProviderConfigXmlSerializer;
 
-/// Creates the serializer that a keyword of the format asks for: an element's name or, for the voice-processing
-/// blocks, the value of its `type` attribute. Keywords are compared exactly. The caller owns the result; it is null,
-/// with an ERROR line, when the keyword is unknown. Has no state: all operations may be called from any thread.
+/// Creates the serializer for a keyword of the format: an element's name or, for the voice-processing blocks, the value
+/// of the attribute `type`. Keywords are compared exactly. The caller owns the result. The result is null, after an
+/// ERROR line, when the keyword is unknown. The factory has no state: any thread may call its operations.
 class VELQUIN_PSTN_CONFIG_EXPORT XmlSerializerObjectFactory : public virtual Object {
     PSTN_CONFIG_CLASS( XmlSerializerObjectFactory );
 
 public:
     virtual ProviderConfigXmlSerializer* newProviderConfigXmlSerializer( const char* in_szKeyword ) const;
-    /// The serializer that writes the board, by its dynamic type.
+    /// Creates the serializer that writes a board of this dynamic type.
     virtual BoardConfigXmlSerializer* newBoardConfigXmlSerializer( BoardConfig& in_boardConfig ) const;
     virtual BoardConfigXmlSerializer* newBoardConfigXmlSerializer( const char* in_szKeyword ) const;
     virtual InterfacePhysicalConfigXmlSerializer*

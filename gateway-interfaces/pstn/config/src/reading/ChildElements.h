@@ -6,7 +6,7 @@
 
 namespace Velquin::Pstn {
 
-/// The child elements of an element, or those of one name, in document order, for a range-based for.
+/// The child elements of an element in document order, all or those of one name. For a range-based for.
 class ChildElements {
 public:
     class Iterator {
@@ -27,7 +27,7 @@ public:
 
     explicit ChildElements( const xmlNode* in_pParent, const char* in_szName = nullptr ) noexcept
         : ChildElements( in_pParent, in_szName, in_szName ) {}
-    /// The first one of one name, and those of another that follow it.
+    /// The first child of one name, and after it the children of another name.
     ChildElements( const xmlNode* in_pParent, const char* in_szFirstName, const char* in_szName ) noexcept
         : m_pParent( in_pParent ), m_szFirstName( in_szFirstName ), m_szName( in_szName ) {}
 

@@ -5,10 +5,10 @@
 
 namespace Velquin::Pstn {
 
-/// Walks the entries of a list, in document order, up to the first that is refused. Each is the place of what is
-/// reported while it is read.
-/// @param in_read called for each; false refuses it
-/// @return whether all were taken
+/// Walks the entries of a list, in document order, up to the first that is refused. While an entry is read, it is the
+/// place of all findings.
+/// @param in_read called for each entry; false refuses the entry
+/// @return whether all entries were taken
 template <class TRead>
 bool readEntries( const ChildElements& in_entries, const TRead& in_read ) {
     for ( xmlNode* const pEntry : in_entries ) {

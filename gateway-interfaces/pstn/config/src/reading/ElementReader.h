@@ -15,7 +15,7 @@
 
 namespace Velquin::Pstn {
 
-/// The words of a reader's messages that differ from reader to reader. A message about an attribute reads
+/// The words in messages that differ from reader to reader. A message about an attribute reads
 ///
 ///     lead + path + "/" + attribute + noun + element + " declared in file " + file + " at line " + line + tail
 ///
@@ -28,13 +28,13 @@ struct ReaderWording {
     std::string_view strInvalidLead = "Invalid attribute  [";
 };
 
-// How an attribute is taken, and what is said of a value that is refused: a rule is one of these, or a KeywordTable,
-// whose refusals have no hint.
+// A rule says which values an attribute takes, and what the message about any other value says. It is one of the types
+// below or a KeywordTable, which gives no hint.
 
 struct NumberRule {
     NumberPolicy ePolicy;
     std::string_view strHint;
-    const char* szReportedName = nullptr; ///< the attribute's name in the message, where it isn't the attribute's own
+    const char* szReportedName = nullptr; ///< the attribute's name in the message; null for the attribute's own
 };
 
 inline constexpr std::string_view DECIMAL_HINT = "The value must be a decimal number.";
@@ -42,7 +42,7 @@ inline constexpr std::string_view DECIMAL_HINT = "The value must be a decimal nu
 inline constexpr NumberRule LEADING_DECIMAL{ NumberPolicy::LEADING, DECIMAL_HINT };
 inline constexpr NumberRule WHOLE_DECIMAL{ NumberPolicy::WHOLE, DECIMAL_HINT };
 
-/// Any text that the setter takes. A setter that refuses tells why; with a hint, the reader tells it too.
+/// Any text that the setter takes. A setter that refuses reports why. With a hint, the reader reports it, too.
 struct TextRule {
     std::string_view strHint;
 };
@@ -55,7 +55,7 @@ struct HintedKeywords {
     std::string_view strHint;
 };
 
-/// Keywords of the table; any other value is reported as invalid, with the hint.
+/// Takes the keywords of the table. Any other value is reported as invalid, with the hint.
 template <class E, std::size_t N>
 constexpr HintedKeywords<E, N> hinted( const KeywordTable<E, N>& in_table, std::string_view in_strHint ) {
     return { in_table, in_strHint };
@@ -67,8 +67,8 @@ struct SchemaKeywords {
     SourcePlace where;
 };
 
-/// Keywords of the table where the schema lets nothing else through: any other value is an assertion, whose text
-/// compares the attribute with the keywords.
+/// Takes the keywords of the table, where the schema takes nothing else either. Any other value is an assertion; its
+/// text compares the attribute with the keywords.
 template <class E, std::size_t N>
 constexpr SchemaKeywords<E, N> bySchema( const KeywordTable<E, N>& in_table,
                                          SourcePlace in_where = SourcePlace::current() ) {
@@ -77,14 +77,14 @@ constexpr SchemaKeywords<E, N> bySchema( const KeywordTable<E, N>& in_table,
 
 class ElementReader;
 
-/// Reads the attributes and children of one element. What is absent or wrong is reported in the reader's wording, and
-/// the operation yields false (or null): the caller only returns.
+/// Reads the attributes and children of one element. When something is absent or wrong, an operation reports it in the
+/// reader's words and yields false (or null): the caller only returns.
 class AttributeReader {
 public:
     AttributeReader( xmlNode* in_pElement, const Logger& in_logger, const ReaderWording& in_wording ) noexcept
         : m_pElement( in_pElement ), m_pLogger( &in_logger ), m_pWording( &in_wording ) {}
 
-    /// The same element with other words.
+    /// Reads the same element with other words.
     AttributeReader as( const ReaderWording& in_wording ) const noexcept {
         return { m_pElement, *m_pLogger, in_wording };
     }
@@ -93,14 +93,14 @@ public:
     const Logger& getLogger() const noexcept { return *m_pLogger; }
     const char* getName() const noexcept { return getElementName( m_pElement ); }
 
-    /// Reads a required attribute into the model: one line of a reader.
+    /// Reads a required attribute into the model.
     template <class TRule, class TConfig, class TSetter>
     bool require( const char* in_szAttribute, const TRule& in_rule, TConfig& out_config, TSetter in_set ) const {
         AttributeText text;
         return requireText( in_szAttribute, text ) && setFrom( text, in_szAttribute, in_rule, out_config, in_set );
     }
 
-    /// The same for an attribute that may be absent: the model then keeps what it has.
+    /// Reads an optional attribute into the model. When it is absent, the model keeps what it has.
     template <class TRule, class TConfig, class TSetter>
     bool accept( const char* in_szAttribute, const TRule& in_rule, TConfig& out_config, TSetter in_set ) const {
         AttributeText text;
@@ -116,11 +116,11 @@ public:
 
     bool requireText( const char* in_szAttribute, AttributeText& out_text ) const;
 
-    /// Whether the attribute is there. Nothing is reported.
+    /// Whether the attribute is there. Reports nothing.
     bool findText( const char* in_szAttribute, AttributeText& out_text ) const;
     bool has( const char* in_szAttribute ) const;
 
-    /// What a text means that was read before; a value that is refused is reported as the rule has it.
+    /// Takes the value of a text that was read before. Reports a value that the rule refuses.
     template <class T>
     bool take( const AttributeText& in_text, const char* in_szAttribute, const NumberRule& in_rule,
                T& out_number ) const {
@@ -161,7 +161,7 @@ public:
         return pValue != nullptr;
     }
 
-    /// Requires the first child element of that name, and reads it with the same logger and words.
+    /// Reads the first child element of that name, which is required, with the same logger and words.
     /// @param in_read called with the child's reader and the other arguments; yields whether all went well
     template <class TRead, class... TArguments>
     bool readChild( const char* in_szName, const TRead& in_read, TArguments&... inout_arguments ) const;
@@ -213,10 +213,10 @@ private:
     const ReaderWording* m_pWording;
 };
 
-/// The element whose reading the model's operations take part in: the place of what they refuse.
+/// Makes an element the place of what model operations report while this object lives.
 class ElementPlace : private FindingPlace {
 public:
-    /// @param in_strPath the element's path where it is known; a text that outlives the object
+    /// @param in_strPath the element's path; empty when it is not known yet. The text outlives this object
     explicit ElementPlace( const xmlNode* in_pElement, std::string_view in_strPath = {} ) noexcept
         : m_pElement( in_pElement ), m_strPath( in_strPath ) {}
 
@@ -227,8 +227,8 @@ private:
     std::string_view m_strPath;
 };
 
-/// Stands between libxml2 and a reader for as long as the reader works on its element: reads attributes and children,
-/// and is the place of whatever the model refuses meanwhile.
+/// Stands between libxml2 and a reader while the reader works on its element: reads attributes and children, and is the
+/// place of whatever the model refuses meanwhile.
 class ElementReader : public AttributeReader {
 public:
     ElementReader( xmlNode* in_pElement, const Logger& in_logger, const ReaderWording& in_wording ) noexcept

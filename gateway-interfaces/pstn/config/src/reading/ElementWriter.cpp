@@ -9,7 +9,7 @@ namespace Velquin::Pstn {
 xmlNode* setRootElement( _xmlDoc* in_pDocument, const char* in_szName ) {
     xmlNode* const pRoot = in_pDocument ? xmlNewDocNode( in_pDocument, nullptr, toXml( in_szName ), nullptr ) : nullptr;
     if ( pRoot )
-        XmlNodePtr( xmlDocSetRootElement( in_pDocument, pRoot ) ).reset(); // frees the root that was there before
+        XmlNodePtr( xmlDocSetRootElement( in_pDocument, pRoot ) ).reset(); // frees the old root
     return pRoot;
 }
 

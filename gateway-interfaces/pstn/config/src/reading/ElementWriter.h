@@ -10,17 +10,17 @@ struct _xmlDoc;
 
 namespace Velquin::Pstn {
 
-/// Gives the document a new root element, in place of the one that it has; null when libxml2 can't. Nothing is logged.
+/// Replaces the root element of the document by a new one; null when libxml2 can't. Logs nothing.
 xmlNode* setRootElement( _xmlDoc* in_pDocument, const char* in_szName );
 
-/// Appends a new child element to the parent; null when libxml2 can't. Nothing is logged.
+/// Appends a new child element to the parent; null when libxml2 can't. Logs nothing.
 xmlNode* addChildElement( xmlNode* in_pParent, const char* in_szName );
 
-/// False when libxml2 can't. Nothing is logged.
+/// False when libxml2 can't. Logs nothing.
 bool addAttribute( xmlNode* in_pElement, const char* in_szAttribute, const char* in_szValue );
 
-/// Writes the attributes of one element. A failure is reported as "Failed to add " + attribute +
-/// " to board XML element.", and the result is false.
+/// Writes the attributes of one element. On failure it reports "Failed to add " + attribute +
+/// " to board XML element." and yields false.
 class ElementWriter {
 public:
     ElementWriter( xmlNode* in_pElement, const Logger& in_logger ) noexcept

@@ -6,15 +6,15 @@
 
 namespace Velquin::Pstn {
 
-/// One keyword of the format and what it stands for.
+/// One keyword of the format and its value.
 template <class E>
 struct KeywordEntry {
     std::string_view strKeyword;
     E value;
 };
 
-/// The keywords of one enumeration, in the order in which they are compared. Two keywords may stand for one value; the
-/// first of them is the one that is written.
+/// The keywords of one enumeration, in the order in which they are compared. Two keywords may have one value: the first
+/// of them is written.
 template <class E, std::size_t N>
 class KeywordTable {
 public:
@@ -29,7 +29,7 @@ public:
         }
     }
 
-    /// What the keyword stands for (exact comparison), null when it is unknown.
+    /// The value of the keyword (exact comparison); null for an unknown keyword.
     constexpr const E* find( std::string_view in_strKeyword ) const {
         for ( const auto& entry : m_aEntries ) {
             if ( entry.strKeyword == in_strKeyword )
@@ -38,7 +38,7 @@ public:
         return nullptr;
     }
 
-    /// The keyword that is written for the value, empty for a value without one. The text ends with a zero.
+    /// The keyword to write for the value; empty for a value without one. The text ends with a zero.
     constexpr std::string_view keywordOf( const E& in_value ) const {
         for ( const auto& entry : m_aEntries ) {
             if ( entry.value == in_value )
@@ -55,13 +55,13 @@ private:
     std::array<std::string_view, N> m_aKeywords;
 };
 
-/// Makes the table of an enumeration; a keyword that stands in it twice does not compile.
+/// Makes the table of an enumeration. A table with a keyword twice does not compile.
 template <class E, std::size_t N>
 consteval KeywordTable<E, N> keywordTable( const KeywordEntry<E> ( &in_aEntries )[N] ) {
     return KeywordTable<E, N>( in_aEntries );
 }
 
-/// The format's keywords, one table for each enumeration; each stands beside its enumeration.
+/// The format's keywords. Each enumeration has a table beside it.
 namespace Keywords {
 
 inline constexpr auto TRUE_FALSE = keywordTable<bool>( { { "TRUE", true }, { "FALSE", false } } );

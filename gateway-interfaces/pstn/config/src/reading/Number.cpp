@@ -14,12 +14,12 @@ bool isDigit( char in_c ) {
     return in_c >= '0' && in_c <= '9';
 }
 
-/// What std::isspace takes in the "C" locale.
+/// Same as std::isspace in the "C" locale.
 bool isBlank( char in_c ) {
     return in_c == ' ' || ( in_c >= '\t' && in_c <= '\r' );
 }
 
-/// Takes the digits at the front of the text, as far as they fit.
+/// Takes the digits at the front of the text, if their number fits the type.
 template <std::unsigned_integral T>
 std::optional<T> extractDigits( std::string_view& inout_strText, T in_max ) {
     T value = 0;
@@ -47,8 +47,8 @@ std::optional<T> extract( std::string_view& inout_strDigits, bool in_bNegative )
     return static_cast<T>( in_bNegative ? static_cast<Unsigned>( 0U - *magnitude ) : *magnitude );
 }
 
-/// Whether a number that no floating-point type takes is too large, by where its first digit stands: else it is too
-/// small.
+/// Whether a number that doesn't fit a floating-point type is too large; otherwise it is too small. The place of its
+/// first digit tells.
 bool isTooLarge( std::string_view in_strMantissa, std::string_view in_strExponent ) {
     const bool bNegative = in_strExponent.starts_with( '-' );
     if ( bNegative || in_strExponent.starts_with( '+' ) )
@@ -66,7 +66,7 @@ bool isTooLarge( std::string_view in_strMantissa, std::string_view in_strExponen
 template <std::floating_point T>
 std::optional<T> extract( std::string_view& inout_strNumber, bool in_bNegative ) {
     if ( inout_strNumber.empty() || !( isDigit( inout_strNumber.front() ) || inout_strNumber.front() == '.' ) )
-        return std::nullopt; // from_chars would take "inf" and "nan" too
+        return std::nullopt; // from_chars would take "inf" and "nan", too
     const char* const pFirst = inout_strNumber.data();
     const char* const pLast = pFirst + inout_strNumber.size();
     T value = 0;
@@ -74,7 +74,7 @@ std::optional<T> extract( std::string_view& inout_strNumber, bool in_bNegative )
     const auto isExponent = []( char in_c ) { return in_c == 'e' || in_c == 'E'; };
     const char* const pExponent = std::find_if( pFirst, pEnd, isExponent );
     if ( eError == std::errc::result_out_of_range ) {
-        // A stream takes what is too small for the type as zero and refuses what is too large.
+        // A stream takes a number that is too small for the type as zero, and refuses one that is too large.
         const char* const pDigits = pExponent == pEnd ? pEnd : pExponent + 1;
         if ( isTooLarge( { pFirst, pExponent }, { pDigits, pEnd } ) )
             return std::nullopt;
@@ -82,7 +82,7 @@ std::optional<T> extract( std::string_view& inout_strNumber, bool in_bNegative )
     } else if ( eError != std::errc{} ) {
         return std::nullopt;
     }
-    // A stream gathers an exponent's letter as part of the number and then finds that digits are missing.
+    // A stream takes the letter of an exponent as part of the number, and then fails without digits behind it.
     if ( pExponent == pEnd && pEnd != pLast && isExponent( *pEnd ) )
         return std::nullopt;
     inout_strNumber.remove_prefix( static_cast<std::size_t>( pEnd - pFirst ) );

@@ -10,13 +10,13 @@ namespace Velquin::Pstn {
 
 /// How much of a text a number takes.
 enum class NumberPolicy {
-    LEADING, ///< what formatted stream extraction takes, and nothing is said of what follows: "12abc" is 12
-    WHOLE, ///< the same, with no minus in front and nothing but blanks behind: " +12 " is 12, "12abc" and "-1" are none
+    LEADING, ///< what formatted stream extraction takes; anything may follow: "12abc" is 12
+    WHOLE,   ///< the same, without a minus sign, and with nothing but blanks behind: " +12 " is 12; "12abc", "-1" fail
 };
 
-/// The number that the text holds; nothing when it holds none or one that the type can't take. Agrees with
-/// `std::istringstream >> number` in the "C" locale wherever the policy takes the text at all: an unsigned number with
-/// a minus sign wraps around.
+/// The number in the text; nothing when there is none, or the type can't hold it. Agrees with
+/// `std::istringstream >> number` in the "C" locale wherever the policy takes the text: an unsigned number with a minus
+/// sign wraps around.
 template <class T>
 requires std::integral<T> || std::floating_point<T> VELQUIN_PSTN_CONFIG_EXPORT std::optional<T>
 parseNumber( std::string_view in_strText, NumberPolicy in_ePolicy );

@@ -1,5 +1,5 @@
 #pragma once
 
-// libxml2's node, for headers that only pass it on.
+// Declares libxml2's node, for headers that only pass it on.
 struct _xmlNode;
 typedef struct _xmlNode xmlNode;
