@@ -5,8 +5,8 @@
 
 namespace Velquin::Pstn {
 
-// Documents mostly list what they declare in ascending order, so that the end of an ordered container is tried before
-// the place is searched for. What is taken already is not added, nor moved from. May throw.
+// Documents mostly list things in ascending order: these functions try the end of an ordered container before they
+// search for the place. They neither add nor move from an item that is already there. May throw.
 
 template <class TMap, class TKey>
 bool appendUnique( TMap& inout_map, TKey&& in_key, typename TMap::mapped_type& inout_value ) {

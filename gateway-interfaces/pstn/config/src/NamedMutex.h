@@ -4,7 +4,7 @@
 
 namespace Velquin::Pstn {
 
-/// A mutex with a name, for std::lock_guard. Guards the creation of the library's singletons.
+/// A mutex with a name, for std::lock_guard. It guards the creation of the library's singletons.
 class NamedMutex {
 public:
     explicit NamedMutex( const char* in_szName );

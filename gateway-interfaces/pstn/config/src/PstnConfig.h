@@ -1,6 +1,6 @@
 #pragma once
 
-// All that a program needs to load a configuration and to read the model: XmlConfig and every model class.
+// Includes all that a program needs to load a configuration and to read the model: XmlConfig and every model class.
 
 #include "hardware/TirvanaAnalogBoardConfig.h"
 #include "hardware/TirvanaAnalogInterfaceConfig.h"

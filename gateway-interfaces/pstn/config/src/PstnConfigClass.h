@@ -4,7 +4,7 @@
 #include <velquin/MemAccount.h>
 
 /// Gives a class of this library its memory account, named after the class, and its logger, named
-/// "marovane.pstn.config." + the class. Stands first in the class, PSTN_CONFIG_CLASS_IMPL in its source file.
+/// "marovane.pstn.config." + the class. Put it first in the class, and PSTN_CONFIG_CLASS_IMPL into the source file.
 #define PSTN_CONFIG_CLASS( ClassName )                                                                                 \
     VELQUIN_MEM_ACCOUNT( ClassName );                                                                                  \
     VELQUIN_LOGGER()
@@ -13,7 +13,7 @@
     VELQUIN_MEM_ACCOUNT_IMPL( ClassName, #ClassName );                                                                 \
     VELQUIN_LOGGER_IMPL( ClassName, "marovane.pstn.config." #ClassName )
 
-/// The same for a class within another: its logger is below that of the class around it.
+/// The same for a class within a class: its logger is below the logger of the outer class.
 #define PSTN_CONFIG_NESTED_CLASS_IMPL( OuterName, ClassName )                                                          \
     VELQUIN_MEM_ACCOUNT_IMPL( OuterName::ClassName, #ClassName );                                                      \
     VELQUIN_LOGGER_IMPL( OuterName::ClassName, "marovane.pstn.config." #OuterName "." #ClassName )

@@ -10,7 +10,7 @@
 
 namespace Velquin::Pstn {
 
-/// Stores a handle or a reference in a field of the model. Null is refused, with an assertion of that text.
+/// Stores a handle or a reference in a field of the model. Refuses null, with an assertion of that text.
 template <class TPointer>
 bool setNotNull( TPointer& out_pField, TPointer in_pNew, const char* in_szAssertion,
                  SourcePlace in_where = SourcePlace::current() ) noexcept {
@@ -20,9 +20,9 @@ bool setNotNull( TPointer& out_pField, TPointer in_pNew, const char* in_szAssert
     return static_cast<bool>( assertion );
 }
 
-/// Takes ownership of an object for a field of the model. Yields false, and leaves the field alone, when memory ends
-/// (an ERROR line, and the object is deleted).
-/// @param in_szAssertion the text with which null is refused; without one, null leaves the field empty
+/// Takes ownership of an object for a field of the model. When memory ends, it deletes the object, leaves the field
+/// alone, logs an ERROR and yields false.
+/// @param in_szAssertion text of the assertion that refuses null; if it is null, a null object leaves the field empty
 template <class T>
 bool setOwned( TSHandle<T>& out_hField, T* in_pNew, const Logger& in_logger, const char* in_szAssertion = nullptr,
                SourcePlace in_where = SourcePlace::current() ) noexcept {

@@ -8,7 +8,7 @@
 namespace Velquin::Pstn {
 
 /// The one object of a class, made at first use under a named mutex and kept until the process ends. The class names
-/// its mutex in `SINGLETON_MUTEX` and befriends this one when its constructor is private.
+/// the mutex in `SINGLETON_MUTEX`. If its constructor is private, it declares Singleton a friend.
 template <class T>
 class Singleton {
 public:

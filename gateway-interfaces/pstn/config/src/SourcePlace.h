@@ -2,7 +2,7 @@
 
 namespace Velquin::Pstn {
 
-/// Where a caller stands, when it is a default argument.
+/// The caller's place in the source, when current() is a default argument.
 struct SourcePlace {
     const char* szFile;
     int nLine;

@@ -13,20 +13,20 @@ class AnalogFxsConfig;
 class InterfaceConfig;
 class IsdnCommonConfig;
 
-/// Consecutive channels of one interface, first and last included, and the signalling that governs them: at most one of
-/// ISDN, FXO and FXS. Keeps none of what it refers to alive. The setters of the references refuse null, with an
-/// assertion.
+/// Consecutive channels of one interface, including the first and the last, and their signalling: at most one of ISDN,
+/// FXO and FXS. The references keep nothing alive. Their setters refuse null, with an assertion.
 class VELQUIN_PSTN_CONFIG_EXPORT BChannelRangeConfig : public virtual Object {
     PSTN_CONFIG_CLASS( BChannelRangeConfig );
 
 public:
-    /// Timeslots of a span, or 1 for an analog port; 0 until set. That the first is not beyond the last is not checked.
+    /// Timeslots of a span, or 1 for an analog port; 0 until set. The first may be greater than the last: nothing
+    /// checks that here.
     unsigned int getFirstChannel() const noexcept { return m_uFirstChannel; }
     void setFirstChannel( unsigned int in_uFirstChannel ) noexcept { m_uFirstChannel = in_uFirstChannel; }
     unsigned int getLastChannel() const noexcept { return m_uLastChannel; }
     void setLastChannel( unsigned int in_uLastChannel ) noexcept { m_uLastChannel = in_uLastChannel; }
 
-    /// The interface whose channels these are; null until set.
+    /// The interface that has the channels; null until set.
     const LimitedObjPtr<const InterfaceConfig>& getInterfaceConfig() const noexcept { return m_pInterfaceConfig; }
     bool setInterfaceConfig( const LimitedObjPtr<const InterfaceConfig>& in_pInterfaceConfig );
 

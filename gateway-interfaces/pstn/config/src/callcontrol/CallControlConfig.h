@@ -12,17 +12,17 @@
 namespace Velquin::Pstn {
 
 /// Root of call control: owns the channel groups and the ISDN and analog call control. Adders and setters take
-/// ownership of what they are given, also when they refuse it.
+/// ownership of their argument, even when they refuse it.
 class VELQUIN_PSTN_CONFIG_EXPORT CallControlConfig : public virtual Object {
     PSTN_CONFIG_CLASS( CallControlConfig );
 
 public:
     using ChannelGroups = std::map<std::string, TSHandle<ChannelGroupConfig>>;
 
-    /// Takes ownership of the group. Refuses, and destroys, one whose identifier is taken; refuses null, with an
+    /// Takes ownership of the group. Refuses and destroys it if its identifier is taken. Refuses null, with an
     /// assertion.
     bool addChannelGroupConfig( ChannelGroupConfig* in_pNewChannelGroupConfig );
-    /// The group of that identifier; null, with an ERROR line, when there is none or the identifier is null.
+    /// The group of that identifier; null, after an ERROR line, when there is none or the identifier is null.
     TSHandle<ChannelGroupConfig> getChannelGroupConfig( const char* in_szId ) const;
     /// All groups, ordered by identifier.
     const ChannelGroups& getChannelGroupsConfig() const noexcept { return m_mapChannelGroups; }

@@ -9,7 +9,7 @@ namespace Velquin::Pstn {
 
 class XmlConfig;
 
-/// Reads the `callControl` element: the channel groups, then ISDN, then analog call control, which name the groups.
+/// Reads the `callControl` element: first the channel groups, then ISDN and analog call control, which name the groups.
 class VELQUIN_PSTN_CONFIG_EXPORT CallControlConfigXmlSerializer : public virtual Object {
     PSTN_CONFIG_CLASS( CallControlConfigXmlSerializer );
 

@@ -15,7 +15,7 @@ PSTN_CONFIG_CLASS_IMPL( ChannelGroupConfig );
 
 namespace {
 
-/// What the adding of a range is told with, at DEBUG and when it is refused.
+/// The words for a range in the log lines about adding it.
 struct Adding {
     const BChannelRangeConfig& m_range;
     const char* m_szGroupId;

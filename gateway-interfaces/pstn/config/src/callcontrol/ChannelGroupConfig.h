@@ -10,7 +10,7 @@
 
 namespace Velquin::Pstn {
 
-/// A named pool of channels, which the gateway's router addresses by name. Owns its ranges.
+/// A pool of channels. The gateway's router addresses it by name. Owns its ranges.
 class VELQUIN_PSTN_CONFIG_EXPORT ChannelGroupConfig : public virtual Object {
     PSTN_CONFIG_CLASS( ChannelGroupConfig );
 
@@ -28,13 +28,12 @@ public:
     PSTNChannel::Direction getDirection() const noexcept { return m_eDirection; }
     void setDirection( PSTNChannel::Direction in_eDirection ) noexcept { m_eDirection = in_eDirection; }
 
-    /// Means nothing for a group whose direction is IN; LINEAR until set.
+    /// LINEAR until set. Has no meaning for a group of direction IN.
     HuntingScheme getOutboundHuntingScheme() const noexcept { return m_eOutboundHuntingScheme; }
     void setOutboundHuntingScheme( HuntingScheme in_eScheme ) noexcept { m_eOutboundHuntingScheme = in_eScheme; }
 
-    /// Takes ownership of a range, which has its interface. Refuses one without interface, and null, with an assertion;
-    /// refuses, and releases, a range that shares a channel with one of this group. The same channel may be in several
-    /// groups.
+    /// Takes ownership of a range. Refuses null, and a range without interface, with an assertion. Refuses and releases
+    /// a range that shares a channel with another range of this group. A channel may be in several groups.
     bool addBChannelRangeConfig( BChannelRangeConfig* in_pNewBChannelRangeConfig );
     /// The ranges by board, interface, channel.
     const BChannelRanges& getBChannelRangeConfig() const noexcept { return m_setBChannelRanges; }

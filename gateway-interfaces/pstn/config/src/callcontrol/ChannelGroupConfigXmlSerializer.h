@@ -9,7 +9,7 @@ namespace Velquin::Pstn {
 
 class XmlConfig;
 
-/// Reads a channel group, without its ranges: the ISDN and analog sections add those.
+/// Reads a channel group without its ranges: the ISDN and analog sections add them.
 class VELQUIN_PSTN_CONFIG_EXPORT ChannelGroupConfigXmlSerializer : public virtual Object {
     PSTN_CONFIG_CLASS( ChannelGroupConfigXmlSerializer );
 

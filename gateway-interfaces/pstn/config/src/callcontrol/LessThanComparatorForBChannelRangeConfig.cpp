@@ -25,8 +25,7 @@ bool LessThanComparatorForBChannelRangeConfig::operator()( const TSHandle<BChann
         return x.getId() < y.getId();
     if ( &x != &y && isAnalog( x ) != isAnalog( y ) )
         return isAnalog( x );
-    // Were it the last channel of one and the first of the other, a range whose ends are swapped would lie before
-    // itself.
+    // Not the last channel of one and the first of the other: a range with swapped ends would then stand before itself.
     return std::max( in_hX->getFirstChannel(), in_hX->getLastChannel() ) <
            std::min( in_hY->getFirstChannel(), in_hY->getLastChannel() );
 }

@@ -10,12 +10,13 @@
 
 namespace Velquin::Pstn {
 
-/// Configurations of one kind (FAS, NFAS, FXO, FXS) by their number, ascending. Each applies to interfaces.
+/// Configurations of one kind (FAS, NFAS, FXO, FXS), ascending by number. Each applies to interfaces.
 template <class TConfig>
 using NumberedConfigs = std::map<unsigned int, TSHandle<TConfig>>;
 
-/// Adds the configuration unless its number is taken; only then the handle is moved from. May throw.
-/// @param in_szKind "Fas", "NFas", "Fxo" or "Fxs", as the messages have it
+/// Adds the configuration unless its number is taken. Moves from the handle only if it adds the configuration. May
+/// throw.
+/// @param in_szKind "Fas", "NFas", "Fxo" or "Fxs", as in the messages
 template <class TConfig>
 bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, TSHandle<TConfig>& inout_hConfig,
                         const char* in_szKind, const Logger& in_logger ) {
@@ -26,7 +27,7 @@ bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, TSHandle<TCo
     return false;
 }
 
-/// Whether one of them, asked one after the other, applies to the interface of that long unique identifier.
+/// Whether one of them applies to the interface of that long unique identifier. Asks one after the other.
 template <class TConfig>
 bool isAnyAppliedTo( const NumberedConfigs<TConfig>& in_mapConfigs, const char* in_szUniqueId ) {
     return std::any_of( in_mapConfigs.begin(), in_mapConfigs.end(), [in_szUniqueId]( const auto& in_entry ) {

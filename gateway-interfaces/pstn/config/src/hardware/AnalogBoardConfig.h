@@ -15,11 +15,11 @@ class VELQUIN_PSTN_CONFIG_EXPORT AnalogBoardConfig : public BoardConfig {
     PSTN_CONFIG_CLASS( AnalogBoardConfig );
 
 public:
-    /// Takes ownership of the interface. Refuses, and destroys, one whose identifier is already on the board.
+    /// Takes ownership of the interface. Refuses and destroys it if its identifier is already on the board.
     bool addAnalogInterfaceConfig( AnalogInterfaceConfig* in_pNewAnalogInterfaceConfig );
     /// The interface of that identifier; null, with an ERROR line, when there is none.
     TSHandle<AnalogInterfaceConfig> getAnalogInterfaceConfig( unsigned int in_uId ) const;
-    /// Fills an empty vector with all interfaces, ascending by identifier.
+    /// Fills the vector, which must be empty, with all interfaces, ascending by identifier.
     bool getAnalogInterfacesConfig( std::vector<TSHandle<AnalogInterfaceConfig>>& out_vecAnalogInterfaceConfig ) const;
 
 private:

@@ -29,8 +29,8 @@ public:
     MediaType getMediaType() const noexcept { return m_eMediaType; }
     void setMediaType( MediaType in_eMediaType ) noexcept { m_eMediaType = in_eMediaType; }
 
-    /// Number and name of the telephone on an FXS port, for the caller's identification; empty for an FXO port.
-    /// The setters refuse null, with an assertion.
+    /// Number and name of the telephone on an FXS port, which identify the caller. Empty for an FXO port. The setters
+    /// refuse null, with an assertion.
     const char* getPhoneNumber() const noexcept { return m_strPhoneNumber.c_str(); }
     bool setPhoneNumber( const char* in_szPhoneNumber );
     const char* getCallerName() const noexcept { return m_strCallerName.c_str(); }

@@ -20,14 +20,14 @@ public:
     void setId( unsigned int in_uId ) noexcept { m_uId = in_uId; }
 
     const char* getDisplayName() const noexcept { return m_strDisplayName.c_str(); }
-    /// Takes letters, digits, '-', '_' and blanks, also none; anything else is refused and the old name stays.
+    /// Takes letters, digits, '-', '_' and blanks; may be empty. Refuses anything else, and keeps the old name.
     bool setDisplayName( const char* in_szDisplayName );
 
-    /// The card's model, a free text.
+    /// The card's model, any text.
     const char* getModel() const noexcept { return m_strModel.c_str(); }
     bool setModel( const char* in_szModel );
 
-    /// Where the card sits on the PCI bus; unset when the configuration doesn't tell. Not checked against the bus.
+    /// Where the card sits on the PCI bus; unset when the configuration doesn't say. Not checked against the bus.
     const Fallible<unsigned long long>& getPCISlot() const noexcept { return m_ullPCISlot; }
     void setPCISlot( unsigned long long in_ullSlot ) { m_ullPCISlot.set( in_ullSlot ); }
     const Fallible<unsigned long long>& getPCIBus() const noexcept { return m_ullPCIBus; }

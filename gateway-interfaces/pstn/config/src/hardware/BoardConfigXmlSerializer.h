@@ -16,8 +16,8 @@ class VELQUIN_PSTN_CONFIG_EXPORT BoardConfigXmlSerializer : public virtual Objec
 public:
     /// A new board, which the caller owns; null after an ERROR line.
     virtual BoardConfig* read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig );
-    /// Writes the common attributes into the board's own element. The concrete serializers are given the parent
-    /// element and make the board's element under it.
+    /// Writes the common attributes into the board's own element. The concrete serializers take the parent element
+    /// instead, and make the board's element in it.
     virtual bool write( xmlNode* const in_pElement, const BoardConfig& in_boardConfig );
     /// Creates the empty object of the concrete class, which the caller owns; null in this class.
     virtual BoardConfig* newBoardConfig();

@@ -14,9 +14,9 @@ namespace Velquin::Pstn {
 
 class XmlConfig;
 
-/// The assertions with which a board's reader refuses what the reader of its interfaces yields.
+/// Texts of the assertions with which a board's reader refuses an interface.
 struct InterfaceAssertions {
-    const char* szNone; ///< of no interface; null where nothing more is said
+    const char* szNone; ///< when there is no interface; null to log nothing more
     const char* szOtherClass;
 };
 
@@ -42,8 +42,8 @@ bool readInterfaces( xmlNode* in_pBoardElement, XmlConfig& in_xmlConfig, typenam
     } );
 }
 
-/// Writes the interfaces of a board, ascending by identifier, under the board's element.
-/// @param in_szNone what is logged at DEBUG, with the board's identifier, when there are none
+/// Writes the interfaces of a board, ascending by identifier, into the board's element.
+/// @param in_szNone logged at DEBUG, with the board's identifier, when there are no interfaces
 template <class TKind, class TInterfaceXmlSerializer>
 bool writeInterfaces( xmlNode* in_pBoardElement, const typename TKind::Board& in_board,
                       TInterfaceXmlSerializer& in_interfaceXmlSerializer, const char* in_szNone,

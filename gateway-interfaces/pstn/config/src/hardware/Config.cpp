@@ -54,7 +54,7 @@ TSHandle<typename TKind::Interface> findInterface( const Config& in_config, unsi
 }
 
 /// Adds the tone sets of one kind of board.
-/// @param in_szTail what the message about a board that can't be read ends with
+/// @param in_szTail the end of the message about a board that can't be read
 template <class TKind>
 bool addToneSets( const Config& in_config, std::set<std::string>& out_setToneSets, const char* in_szTail,
                   const Logger& in_logger ) {

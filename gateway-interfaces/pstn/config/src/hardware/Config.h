@@ -14,11 +14,11 @@
 
 namespace Velquin::Pstn {
 
-/// Root of the configuration model: owns providers, boards and call control, and answers lookups. It is filled once,
-/// by the one thread that loads, and read-only afterwards; nothing is ever removed. Readers on other threads may keep
-/// handles of its children beyond its life.
+/// Root of the configuration model: owns providers, boards and call control, and answers lookups. One thread fills it
+/// once, when it loads. Afterwards it is read-only; nothing is ever removed. Other threads may keep handles of its
+/// children after it is gone.
 ///
-/// Adders take ownership of what they are given, also when they refuse it.
+/// Adders take ownership of their argument, even when they refuse it.
 class VELQUIN_PSTN_CONFIG_EXPORT Config : public virtual Object {
     PSTN_CONFIG_CLASS( Config );
 
@@ -29,7 +29,7 @@ public:
 
     /// Refuses a provider whose name is taken.
     bool addProviderConfig( ProviderConfig* in_pNewProviderConfig );
-    /// Adds an analog or a digital board. Refuses one whose identifier is taken among the boards of its kind.
+    /// Adds an analog or a digital board. Refuses it if its identifier is taken among the boards of its kind.
     bool addBoardConfig( BoardConfig* in_pNewBoardConfig );
     bool addAnalogBoardConfig( AnalogBoardConfig* in_pNewAnalogBoardConfig );
     bool addDigitalBoardConfig( DigitalBoardConfig* in_pNewDigitalBoardConfig );
@@ -40,7 +40,7 @@ public:
     /// Null until set.
     TSHandle<CallControlConfig> getCallControlConfig() const noexcept { return m_hCallControlConfig; }
 
-    // Lookups. What is not there is null, with an ERROR line.
+    // Lookups. Each yields null, after an ERROR line, when the object is not there.
     TSHandle<ProviderConfig> getProviderConfig( const char* in_szName ) const;
     TSHandle<AnalogBoardConfig> getAnalogBoardConfig( unsigned int in_uBoardId ) const;
     TSHandle<DigitalBoardConfig> getDigitalBoardConfig( unsigned int in_uBoardId ) const;
@@ -54,8 +54,8 @@ public:
     const AnalogBoardConfigs& getAnalogBoardsConfig() const noexcept { return m_mapAnalogBoards; }
     const DigitalBoardConfigs& getDigitalBoardsConfig() const noexcept { return m_mapDigitalBoards; }
 
-    /// Adds the names of the tone sets that the physical configurations of the Tirvana interfaces name. Interfaces
-    /// without a physical configuration name none.
+    /// Adds the names of the tone sets in the physical configurations of the Tirvana interfaces. An interface without
+    /// physical configuration adds none.
     bool getToneSets( std::set<std::string>& out_setToneSets ) const;
 
 private:

@@ -15,11 +15,11 @@ class VELQUIN_PSTN_CONFIG_EXPORT DigitalBoardConfig : public BoardConfig {
     PSTN_CONFIG_CLASS( DigitalBoardConfig );
 
 public:
-    /// Takes ownership of the interface. Refuses, and destroys, one whose identifier is already on the board.
+    /// Takes ownership of the interface. Refuses and destroys it if its identifier is already on the board.
     bool addDigitalInterfaceConfig( DigitalInterfaceConfig* in_pNewDigitalInterfaceConfig );
     /// The interface of that identifier; null, with an ERROR line, when there is none.
     TSHandle<DigitalInterfaceConfig> getDigitalInterfaceConfig( unsigned int in_uId ) const;
-    /// Fills an empty vector with all interfaces, ascending by identifier.
+    /// Fills the vector, which must be empty, with all interfaces, ascending by identifier.
     bool
     getDigitalInterfacesConfig( std::vector<TSHandle<DigitalInterfaceConfig>>& out_vecDigitalInterfaceConfig ) const;
 

@@ -17,7 +17,7 @@ public:
     /// Refuses null, with an assertion.
     bool setPhysicalConfig( TSHandle<DigitalInterfacePhysicalConfig> in_hPhysicalConfig );
 
-    /// Whether the span has a D-channel. Without a physical configuration it has none, with a WARNING line.
+    /// Whether the span has a D-channel. False, after a WARNING line, when it has no physical configuration.
     bool hasDChannel() const;
 
     const char* getUniqueId( bool in_bShort ) const override { return composeUniqueId( in_bShort, "di" ); }

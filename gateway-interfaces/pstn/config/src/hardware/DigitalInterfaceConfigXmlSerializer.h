@@ -4,7 +4,7 @@
 
 namespace Velquin::Pstn {
 
-/// Reads what all digital interfaces have in common, which is what all interfaces have.
+/// Reads what all digital interfaces have in common: no more than what all interfaces have.
 class VELQUIN_PSTN_CONFIG_EXPORT DigitalInterfaceConfigXmlSerializer : public InterfaceConfigXmlSerializer {
     PSTN_CONFIG_CLASS( DigitalInterfaceConfigXmlSerializer );
 

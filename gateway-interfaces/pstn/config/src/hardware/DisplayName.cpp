@@ -17,9 +17,8 @@ namespace Velquin::Pstn {
 
 namespace {
 
-/// Which characters a name may have. The expression allows any run of some characters, so that it is asked once which
-/// they are: a large model has thousands of names, and matching each would cost more than all else that is done with
-/// it.
+/// The characters that a name may have. The expression allows any run of certain characters, so it is asked once which
+/// ones. A large model has thousands of names: to match each would cost more than all other work on it.
 std::array<bool, 256> findAllowed() {
     const boost::regex regex( "([-0-9a-zA-Z_ ]*)" );
     std::array<bool, 256> abAllowed{};

@@ -23,7 +23,7 @@ std::string concatenate( std::initializer_list<std::string_view> in_parts ) {
     std::size_t uSize = 0;
     for ( const std::string_view strPart : in_parts )
         uSize += strPart.size();
-    std::string strText( uSize, '\0' ); // no byte more: a large model keeps thousands of them
+    std::string strText( uSize, '\0' ); // not a byte more: a large model keeps thousands of these texts
     auto it = strText.begin();
     for ( const std::string_view strPart : in_parts )
         it = std::copy( strPart.begin(), strPart.end(), it );

@@ -22,19 +22,18 @@ public:
     void setId( unsigned int in_uId ) noexcept { m_uId = in_uId; }
 
     const char* getDisplayName() const noexcept { return m_strDisplayName.c_str(); }
-    /// Takes letters, digits, '-', '_' and blanks, also none; anything else is refused and the old name stays.
+    /// Takes letters, digits, '-', '_' and blanks; may be empty. Refuses anything else, and keeps the old name.
     bool setDisplayName( const char* in_szDisplayName );
 
-    /// The board that holds the interface, which owns it.
+    /// The board, which owns the interface.
     LimitedObjPtr<const BoardConfig> getBoardConfig() const noexcept { return m_pBoardConfig; }
     /// Refuses null, with an assertion.
     bool setBoardConfig( LimitedObjPtr<const BoardConfig> in_pBoardConfig );
 
-    /// The text that names the interface across the model: "b1di2" in its short form, "b1(Span board)di2(Trunk-A)" in
-    /// its long one ("ai" for analog interfaces). Composed at the first call, from what board and interface are named
-    /// then, and kept. The first call must come before the interface is shared between threads: the reader of
-    /// interfaces makes it for both forms, so that threads which share a loaded model never compose. Empty, after an
-    /// assertion, without a board.
+    /// The text that names the interface across the model: "b1di2" in the short form, "b1(Span board)di2(Trunk-A)" in
+    /// the long form ("ai" for analog interfaces). The first call composes the text from the numbers and names at that
+    /// moment, and keeps it. It must come before threads share the interface. The reader of interfaces calls once for
+    /// each form, so threads that share a loaded model never compose. Empty, after an assertion, without a board.
     virtual const char* getUniqueId( bool in_bShort ) const = 0;
 
 protected:

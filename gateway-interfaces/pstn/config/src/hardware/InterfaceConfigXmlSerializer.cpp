@@ -28,9 +28,9 @@ InterfaceConfig* InterfaceConfigXmlSerializer::read( xmlNode* const in_pElement,
         return nullptr;
     if ( !reader.require( "displayName", DISPLAY_NAME, *pInterfaceConfig, &InterfaceConfig::setDisplayName ) )
         return nullptr;
-    // The identifiers are composed at their first use; the model may be shared between threads by then.
+    // The first call composes an identifier, and must come before threads share the model.
     if ( *pInterfaceConfig->getUniqueId( true ) == '\0' || *pInterfaceConfig->getUniqueId( false ) == '\0' )
-        return nullptr; // memory ended, which is told
+        return nullptr; // memory ended, and the log says so
     return pInterfaceConfig.release();
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )

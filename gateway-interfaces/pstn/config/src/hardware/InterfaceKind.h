@@ -8,7 +8,7 @@
 
 namespace Velquin::Pstn {
 
-/// What differs between analog and digital wherever both are treated alike.
+/// What differs between analog and digital, for code that serves both.
 struct AnalogKind {
     using Board = AnalogBoardConfig;
     using Interface = AnalogInterfaceConfig;

@@ -12,12 +12,12 @@
 
 namespace Velquin::Pstn {
 
-/// The interfaces of one board, by identifier. Serves analog and digital boards, which differ in the word for their
-/// kind and in the logger; nothing may throw out of their operations, out of these it may.
+/// The interfaces of one board, by identifier. Serves analog and digital boards: they differ in the word for their kind
+/// and in the logger. These operations may throw; the boards' operations must not.
 template <class TInterface>
 class InterfaceMap {
 public:
-    /// Adds the interface unless its identifier is taken; only then the handle is moved from.
+    /// Adds the interface unless its identifier is taken. Moves from the handle only if it adds the interface.
     bool add( TSHandle<TInterface>& inout_hInterface, const char* in_szKind, const Logger& in_logger ) {
         VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " interface: " << inout_hInterface->getId() << "<"
                                                     << inout_hInterface->getDisplayName() << ">" );
@@ -45,7 +45,7 @@ public:
         out_vecInterfaces.reserve( m_map.size() );
         for ( const auto& [uId, hInterface] : m_map )
             out_vecInterfaces.push_back( hInterface );
-        // They stand in that order unless an interface was given another identifier since it was added.
+        // They are already in order, unless the identifier of an interface changed after it was added.
         if ( !std::is_sorted( out_vecInterfaces.begin(), out_vecInterfaces.end(), &isBefore ) )
             std::sort( out_vecInterfaces.begin(), out_vecInterfaces.end(), &isBefore );
     }

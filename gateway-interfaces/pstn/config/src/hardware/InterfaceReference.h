@@ -10,9 +10,9 @@
 
 namespace Velquin::Pstn {
 
-/// An element that names a board in `boardID`, and an interface of it in `interfaceID` or, without that, all of them.
-/// The two attributes are read one by one, since some readers have others in between. What is wrong is reported in the
-/// words of the reader.
+/// An element that names a board in `boardID`, and one of its interfaces in `interfaceID`; without `interfaceID` it
+/// names all interfaces. The two attributes are read one by one, since some readers read others in between. Faults are
+/// reported in the reader's words.
 template <class TKind>
 class InterfaceReference {
 public:
@@ -33,7 +33,7 @@ public:
 
     bool namesInterface() { return m_reader.findText( "interfaceID", m_interfaceId ); }
 
-    /// Finds the interface that is named, which is asked before, among those of the board.
+    /// Finds the named interface on the board. Call it only after namesInterface() was true.
     /// @param in_bNameBoard whether the hint about an unknown interface ends with the board's identifier
     bool readInterface( bool in_bNameBoard = true ) {
         unsigned int uInterfaceId = 0;
@@ -52,7 +52,7 @@ public:
     }
 
     /// Takes all interfaces of the board, ascending by identifier.
-    /// @param in_szKind what the interfaces are called in the message when that fails
+    /// @param in_szKind the word for the interfaces in the message when that fails
     bool takeAllInterfaces( const char* in_szKind ) {
         if ( TKind::getInterfaces( *m_hBoard, m_vecInterfaces ) )
             return true;

@@ -9,7 +9,7 @@
 
 namespace Velquin::Pstn {
 
-/// A family of telephony hardware driver. Base of all providers.
+/// A family of telephony hardware drivers. Base of all providers.
 class VELQUIN_PSTN_CONFIG_EXPORT ProviderConfig : public virtual Object {
     PSTN_CONFIG_CLASS( ProviderConfig );
 

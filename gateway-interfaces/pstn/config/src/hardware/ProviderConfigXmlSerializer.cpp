@@ -7,7 +7,7 @@ namespace Velquin::Pstn {
 PSTN_CONFIG_CLASS_IMPL( ProviderConfigXmlSerializer );
 
 ProviderConfig* ProviderConfigXmlSerializer::read( xmlNode* const, XmlConfig& ) {
-    // Which class a provider has is known to the derived serializers only.
+    // Only the derived serializers know the class of their provider.
     reportNotImplemented( getLogger(), "ProviderConfigXmlSerializer::read" );
     return nullptr;
 }

@@ -10,7 +10,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT TirvanaDigitalBoardConfig : public DigitalBoard
     PSTN_CONFIG_CLASS( TirvanaDigitalBoardConfig );
 
 public:
-    /// The interface from which the board takes its clock; null when none is named.
+    /// The interface from which the board takes its clock; null when the configuration names none.
     TSHandle<TirvanaDigitalInterfaceConfig> getPrimaryClockReferenceInterfaceConfig() const;
 };
 

@@ -18,7 +18,7 @@ namespace {
 constexpr ReaderWording WORDING{ "] for tirvana digital board  ", "] for tirvana digital board  " };
 constexpr InterfaceAssertions ASSERTIONS{ nullptr, "!pDigitalInterfaceConfig.isNull()" };
 
-/// Sets the flag of the interface that the board's attribute names; without the attribute there is none.
+/// Sets the flag of the interface that the board's attribute names; without the attribute, does nothing.
 bool readPrimaryClockReference( const ElementReader& in_reader, const TirvanaDigitalBoardConfig& in_board ) {
     AttributeText text;
     if ( !in_reader.findText( "primaryClockReference", text ) )

@@ -4,7 +4,7 @@
 
 namespace Velquin::Pstn {
 
-/// A board without hardware, whose interfaces are virtual spans linked to each other.
+/// A board without hardware. Its interfaces are virtual spans, linked with spans of other virtual boards.
 class VELQUIN_PSTN_CONFIG_EXPORT TirvanaDigitalVirtualBoardConfig : public DigitalBoardConfig {
     PSTN_CONFIG_CLASS( TirvanaDigitalVirtualBoardConfig );
 };

@@ -9,8 +9,8 @@ class VELQUIN_PSTN_CONFIG_EXPORT TirvanaDigitalVirtualInterfaceConfig : public D
     PSTN_CONFIG_CLASS( TirvanaDigitalVirtualInterfaceConfig );
 
 public:
-    // The other end of the link: a virtual board, and the number of a span on it. That there is such a span is not
-    // checked. 0 until set.
+    // The other end of the link: a virtual board, and the number of a span on it; 0 until set. Nothing checks that
+    // board and span exist.
     unsigned int getPeerVirtualBoardId() const noexcept { return m_uPeerVirtualBoardId; }
     void setPeerVirtualBoardId( unsigned int in_uId ) noexcept { m_uPeerVirtualBoardId = in_uId; }
     unsigned int getPeerVirtualInterfaceId() const noexcept { return m_uPeerVirtualInterfaceId; }

@@ -10,11 +10,11 @@ class VELQUIN_PSTN_CONFIG_EXPORT TirvanaProviderConfig : public ProviderConfig {
     PSTN_CONFIG_CLASS( TirvanaProviderConfig );
 
 public:
-    /// Whether the bit order of received media is reversed; off by default.
+    /// Whether the gateway reverses the bit order of received media; off by default.
     bool isReverseBitsOfRxMediaStreamsEnabled() const noexcept { return m_bReverseBitsOfRxMediaStreams; }
     void setReverseBitsOfRxMediaStreams( bool in_bReverse ) noexcept { m_bReverseBitsOfRxMediaStreams = in_bReverse; }
 
-    /// Whether the bit order of transmitted media is reversed; off by default.
+    /// Whether the gateway reverses the bit order of transmitted media; off by default.
     bool isReverseBitsOfTxMediaStreamsEnabled() const noexcept { return m_bReverseBitsOfTxMediaStreams; }
     void setReverseBitsOfTxMediaStreams( bool in_bReverse ) noexcept { m_bReverseBitsOfTxMediaStreams = in_bReverse; }
 

@@ -17,7 +17,7 @@ namespace {
 constexpr ReaderWording WORDING{ "] for tirvana provider  ", "] for tirvana provider  " };
 constexpr auto REVERSE = hinted( Keywords::TRUE_FALSE, "Valid values are: TRUE and FALSE." );
 
-/// Reads the flag of an optional child; an absent child, or one that doesn't say, leaves the model alone.
+/// Reads the flag of an optional child. Leaves the model alone when the child or its flag is absent.
 bool readReverseBits( xmlNode* in_pProvider, const char* in_szChild, const Logger& in_logger,
                       TirvanaProviderConfig& out_config, void ( TirvanaProviderConfig::*in_set )( bool ) ) {
     xmlNode* const pChild = XML::findFirstElement( in_pProvider, in_szChild );

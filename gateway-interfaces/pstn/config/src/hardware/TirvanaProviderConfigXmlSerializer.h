@@ -4,7 +4,7 @@
 
 namespace Velquin::Pstn {
 
-/// Reads a `tirvana` element under `providers`. The provider's name is the element's.
+/// Reads a `tirvana` element in `providers`. The provider is named after the element.
 class VELQUIN_PSTN_CONFIG_EXPORT TirvanaProviderConfigXmlSerializer : public ProviderConfigXmlSerializer {
     PSTN_CONFIG_CLASS( TirvanaProviderConfigXmlSerializer );
 

@@ -8,7 +8,7 @@
 
 namespace Velquin::Pstn {
 
-/// How many threads serve a kind of channel, and at which priority.
+/// How many threads serve one kind of channel, and at which priority.
 class VELQUIN_PSTN_CONFIG_EXPORT TirvanaThreadGroupConfig : public virtual Object {
     PSTN_CONFIG_CLASS( TirvanaThreadGroupConfig );
 

@@ -16,14 +16,15 @@ class VELQUIN_PSTN_CONFIG_EXPORT AnalogInterfacePhysicalConfig : public Interfac
     PSTN_CONFIG_CLASS( AnalogInterfacePhysicalConfig );
 
 public:
-    /// References only: each of these interfaces holds a handle of this object, and the boards own the interfaces.
+    /// These references own nothing: the boards own the interfaces, and each interface holds a handle of this object.
     using Interfaces = std::vector<LimitedObjPtr<AnalogInterfaceConfig>>;
 
-    /// The country whose line settings are followed; Country::INVALID until set.
+    /// The country whose line settings the ports follow; Country::INVALID until set.
     Country::Type getVariantType() const noexcept { return m_eVariantType; }
     void setVariantType( Country::Type in_eVariantType ) noexcept { m_eVariantType = in_eVariantType; }
 
-    /// The interfaces that this configuration was applied to, in that order. They must outlive their use here.
+    /// The interfaces that this configuration was applied to, in that order. They must live as long as they are used
+    /// here.
     const Interfaces& getApplyToAnalogInterfaces() const noexcept { return m_vecApplyToInterfaces; }
     /// Refuses null, with an assertion.
     bool addApplyToAnalogInterface( LimitedObjPtr<AnalogInterfaceConfig> in_pAnalogInterface );

@@ -5,7 +5,7 @@
 
 namespace Velquin::Pstn {
 
-/// Reads what all analog physical configurations have in common, and applies them.
+/// Reads what all analog physical configurations have in common, and applies the configuration to the interfaces.
 class VELQUIN_PSTN_CONFIG_EXPORT AnalogInterfacePhysicalConfigXmlSerializer
     : public InterfacePhysicalConfigXmlSerializer {
     PSTN_CONFIG_CLASS( AnalogInterfacePhysicalConfigXmlSerializer );

@@ -23,9 +23,9 @@ bool resolveInterfaces( xmlNode* in_pEntry, const Config& in_config, const Logge
     return true;
 }
 
-/// Applies a physical configuration to the interfaces that its `applyTo` element names. An interface takes one
-/// physical configuration only; those that came before a fault keep it.
-/// @param in_onApplied called for each interface that took it; false is a fault
+/// Applies a physical configuration to the interfaces that its `applyTo` element names. An interface takes only one
+/// physical configuration. After a fault, the interfaces before it keep the configuration.
+/// @param in_onApplied called for each interface that took the configuration; false is a fault
 template <class TKind, class TPhysicalConfig, class OnApplied>
 bool applyToInterfaces( const ElementReader& in_reader, const Config& in_config, const Logger& in_logger,
                         const TSHandle<TPhysicalConfig>& in_hPhysicalConfig, OnApplied in_onApplied ) {

@@ -2,8 +2,8 @@
 
 #include "../reading/KeywordTable.h"
 
-// The countries and regions in which the settings of analog lines differ, by their names in a configuration. TBR21 is
-// the common European standard (ETSI TBR 21).
+// Countries and regions with different settings of analog lines, by their names in a configuration. TBR21 is the common
+// European standard (ETSI TBR 21).
 #define PSTN_CONFIG_COUNTRIES( X )                                                                                     \
     X( ARGENTINA )                                                                                                     \
     X( AUSTRALIA )                                                                                                     \

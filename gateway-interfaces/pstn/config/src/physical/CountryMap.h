@@ -19,7 +19,7 @@ public:
     /// @throws std::bad_alloc at the first use, when memory ends
     static const CountryMap& getInstance();
 
-    /// The country of that upper-case English name (exact comparison), Country::INVALID when it is unknown.
+    /// The country of that English name in upper case (exact comparison); Country::INVALID for an unknown name.
     Country::Type getType( const char* in_szName ) const noexcept;
     /// The country's name; empty for Country::INVALID.
     const char* getName( Country::Type in_eType ) const noexcept;

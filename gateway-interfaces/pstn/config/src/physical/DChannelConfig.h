@@ -9,7 +9,7 @@
 
 namespace Velquin::Pstn {
 
-/// The D-channel of a span, which carries its ISDN signalling, and the capture of its frames.
+/// The D-channel of a span, and the capture of its frames. A D-channel carries ISDN signalling.
 class VELQUIN_PSTN_CONFIG_EXPORT DChannelConfig : public virtual Object {
     PSTN_CONFIG_CLASS( DChannelConfig );
 
@@ -29,7 +29,7 @@ public:
     /// Refuses null, with an assertion.
     bool setPcapFilesFolder( const char* in_szPcapFilesFolder );
 
-    /// Whether frames are captured into pcap files; off until set.
+    /// Whether the gateway captures frames into pcap files; off until set.
     bool isPcapRecorderEnabled() const noexcept { return m_bPcapRecorderEnabled; }
     void enablePcapRecorder( bool in_bEnable ) noexcept { m_bPcapRecorderEnabled = in_bEnable; }
 

@@ -14,7 +14,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT DChannelConfigXmlSerializer : public virtual Ob
     PSTN_CONFIG_CLASS( DChannelConfigXmlSerializer );
 
 public:
-    /// A new D-channel, which the caller owns; null after an ERROR line. Without a folder of its own, captures go to
+    /// A new D-channel, which the caller owns; null after an ERROR line. If the element names no folder, captures go to
     /// the folder "logs/DChannelPcapFiles/" of the gateway's installation ("marovane.Installation.Directory").
     virtual DChannelConfig* read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig );
     /// Not implemented: false, with an ERROR line.

@@ -9,7 +9,7 @@
 namespace Velquin::Pstn {
 
 /// How E1 (ITU-T G.704, G.703) or T1 (ANSI T1.403) spans are driven. A T1 configuration keeps the defaults of the E1
-/// fields, an E1 configuration that of the line build-out.
+/// fields; an E1 configuration keeps the default of the line build-out.
 class VELQUIN_PSTN_CONFIG_EXPORT DigitalInterfacePhysicalConfig : public InterfacePhysicalConfig {
     PSTN_CONFIG_CLASS( DigitalInterfacePhysicalConfig );
 

@@ -18,7 +18,7 @@ namespace {
 
 using MediaType = DigitalInterfacePhysicalConfig::MediaType;
 
-/// The first child that has one of the two names; the first name goes before the second.
+/// The first child of the first name or, without one, the first child of the second name.
 xmlNode* findEither( xmlNode* in_pElement, const char* in_szName, const char* in_szOtherName ) {
     xmlNode* const pChild = XML::findFirstElement( in_pElement, in_szName );
     return pChild ? pChild : XML::findFirstElement( in_pElement, in_szOtherName );

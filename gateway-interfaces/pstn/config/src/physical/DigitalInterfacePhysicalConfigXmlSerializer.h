@@ -4,7 +4,7 @@
 
 namespace Velquin::Pstn {
 
-/// Reads what all digital physical configurations have in common, and applies them.
+/// Reads what all digital physical configurations have in common, and applies the configuration to the interfaces.
 class VELQUIN_PSTN_CONFIG_EXPORT DigitalInterfacePhysicalConfigXmlSerializer
     : public InterfacePhysicalConfigXmlSerializer {
     PSTN_CONFIG_CLASS( DigitalInterfacePhysicalConfigXmlSerializer );

@@ -11,8 +11,8 @@
 
 namespace Velquin::Pstn {
 
-/// How the lines of one or more interfaces are driven. Written once and applied to many interfaces, each of which
-/// holds a handle to it.
+/// How the lines of one or more interfaces are driven. One configuration may apply to many interfaces: each holds a
+/// handle to it.
 class VELQUIN_PSTN_CONFIG_EXPORT InterfacePhysicalConfig : public virtual Object {
     PSTN_CONFIG_CLASS( InterfacePhysicalConfig );
 

@@ -16,7 +16,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT InterfacePhysicalConfigXmlSerializer : public v
 
 public:
     /// A new physical configuration; null after an ERROR line. The concrete serializers apply it to the interfaces that
-    /// the element names; those that came before a fault keep it.
+    /// the element names. After a fault, the interfaces before it keep the configuration.
     virtual TSHandle<InterfacePhysicalConfig> read( xmlNode* const in_pElement, XmlConfig& in_xmlConfig );
     /// Not implemented: false, with an ERROR line.
     virtual bool write( xmlNode* const in_pParent, const InterfacePhysicalConfig& in_config );

@@ -4,7 +4,7 @@
 
 namespace Velquin::Pstn {
 
-// The words of the readers of physical configurations: they differ by a bracket and by a blank.
+// The words of the readers of physical configurations. They differ in a bracket and a blank.
 
 /// Attributes of the physical configuration itself
 inline constexpr ReaderWording PHYSICAL_WORDING{ " for interface physical config ",

@@ -10,7 +10,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT TirvanaAnalogInterfacePhysicalConfig : public A
     PSTN_CONFIG_CLASS( TirvanaAnalogInterfacePhysicalConfig );
 
 public:
-    /// INTERNAL: the card makes its clock itself, which it must when it is alone; EXTERNAL: it takes it from another.
+    /// INTERNAL: the card makes its own clock, as a single card must. EXTERNAL: it takes the clock of another card.
     enum class ClockingMode { INTERNAL = 1, EXTERNAL = 2 };
 
     /// INTERNAL by default.
@@ -27,11 +27,11 @@ public:
     double getFxsTxGain() const noexcept { return m_dFxsTxGain; }
     void setFxsTxGain( double in_dGainIndB ) noexcept { m_dFxsTxGain = in_dGainIndB; }
 
-    /// How long, in milliseconds, the battery must stay on or off before it counts; 64 by default.
+    /// How long, in milliseconds, the battery must stay on or off before the port notices the change; 64 by default.
     unsigned int getFxoBatteryDebounce() const noexcept { return m_uFxoBatteryDebounce; }
     void setFxoBatteryDebounce( unsigned int in_uDebounceInMs ) noexcept { m_uFxoBatteryDebounce = in_uDebounceInMs; }
 
-    /// Below this line voltage, in volts, the battery counts as off; 3 by default.
+    /// The line voltage, in volts, below which the battery counts as off; 3 by default.
     unsigned int getFxoBatteryThreshold() const noexcept { return m_uFxoBatteryThreshold; }
     void setFxoBatteryThreshold( unsigned int in_uThresholdInVolts ) noexcept {
         m_uFxoBatteryThreshold = in_uThresholdInVolts;

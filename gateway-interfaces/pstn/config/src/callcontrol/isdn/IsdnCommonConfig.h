@@ -66,12 +66,12 @@ public:
     CallerNameLocationType getCallerNameLocation() const noexcept { return m_eCallerNameLocation; }
     void setCallerNameLocation( CallerNameLocationType in_eLocation ) noexcept { m_eCallerNameLocation = in_eLocation; }
 
-    /// How long to wait for a FACILITY message that carries the caller's name, in milliseconds.
+    /// How long, in milliseconds, to wait for a FACILITY message with the caller's name.
     unsigned int getFacilityDelayMs() const noexcept { return m_uFacilityDelayMs; }
     void setFacilityDelayMs( unsigned int in_uDelayMs ) noexcept { m_uFacilityDelayMs = in_uDelayMs; }
 
 private:
-    // What the reader takes for an absent optional attribute
+    // Values for absent optional attributes
     unsigned int m_uId = 0;
     TerminationType m_eTermination = TerminationType::TERMINAL;
     SwitchVariantType m_eSwitchVariant = SwitchVariantType::ETSI;

@@ -14,8 +14,8 @@ PSTN_CONFIG_CLASS_IMPL( IsdnConfigXmlSerializer );
 
 namespace {
 
-/// Reads one group with a reader of its own; null when that fails or makes an object of another class. The caller owns
-/// the object.
+/// Reads one group with a reader of its own. The caller owns the result; it is null when reading fails or gives an
+/// object of another class.
 template <class TConfig, class TXmlSerializer>
 TConfig* readGroup( TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* in_pElement,
                     XmlConfig& in_xmlConfig ) {

@@ -10,7 +10,7 @@ namespace Velquin::Pstn {
 class CallControlConfig;
 class XmlConfig;
 
-/// Reads the `isdn` element: the NFAS groups, then the FAS groups, whatever their order in the document.
+/// Reads the `isdn` element: first the NFAS groups, then the FAS groups, in whatever order they stand in the document.
 class VELQUIN_PSTN_CONFIG_EXPORT IsdnConfigXmlSerializer : public virtual Object {
     PSTN_CONFIG_CLASS( IsdnConfigXmlSerializer );
 

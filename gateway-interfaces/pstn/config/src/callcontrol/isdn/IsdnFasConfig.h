@@ -9,18 +9,18 @@
 
 namespace Velquin::Pstn {
 
-/// A group of spans with facility-associated signalling: each carries its own D-channel.
+/// A group of spans with facility-associated signalling: each span carries its own D-channel.
 class VELQUIN_PSTN_CONFIG_EXPORT IsdnFasConfig : public IsdnCommonConfig {
     PSTN_CONFIG_CLASS( IsdnFasConfig );
 
 public:
-    /// The spans, in the order in which they were added. They are shared with their boards.
+    /// The spans, in the order in which they were added. The group shares them with their boards.
     const std::vector<TSHandle<DigitalInterfaceConfig>>& getApplyToDigitalInterfaces() const noexcept {
         return m_vecApplyToDigitalInterfaces;
     }
     /// Refuses a span without D-channel.
     bool addApplyToDigitalInterface( TSHandle<DigitalInterfaceConfig> in_hDigitalInterface );
-    /// Adds one after the other, up to the first that is refused.
+    /// Adds the spans one after the other, up to the first that is refused.
     bool
     addApplyToDigitalInterfaceVector( const std::vector<TSHandle<DigitalInterfaceConfig>>& in_vecDigitalInterfaces );
 

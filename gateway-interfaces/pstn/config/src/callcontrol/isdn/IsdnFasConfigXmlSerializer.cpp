@@ -23,7 +23,7 @@ constexpr ReaderWording ISDN_FAS_WORDING{ "] for isdn fas config  ", "] for isdn
 constexpr ReaderWording FAS_WORDING{ "] for fas config  ", "] for isdn fas config " };
 constexpr IsdnBChannelRange::Wording RANGE_WORDING{ FAS_WORDING, FAS_WORDING, ISDN_FAS_WORDING, "firstChannel" };
 
-/// Reads one entry of `applyTo`: a board or one interface of it, and the B-channel ranges.
+/// Reads one entry of `applyTo`: a board or one of its interfaces, and the B-channel ranges.
 class InterfaceRefReader {
 public:
     InterfaceRefReader( const CallControlConfig& in_callControlConfig, const Config& in_config, const Logger& in_logger,

@@ -4,8 +4,8 @@
 
 namespace Velquin::Pstn {
 
-/// Reads a `fasConfig` element and puts its B-channel ranges into channel groups. Those that came before a fault stay
-/// there.
+/// Reads a `fasConfig` element and adds its B-channel ranges to channel groups. After a fault, the ranges before it
+/// stay there.
 class VELQUIN_PSTN_CONFIG_EXPORT IsdnFasConfigXmlSerializer : public IsdnCommonConfigXmlSerializer {
     PSTN_CONFIG_CLASS( IsdnFasConfigXmlSerializer );
 

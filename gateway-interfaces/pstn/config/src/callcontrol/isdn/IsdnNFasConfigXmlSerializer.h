@@ -4,8 +4,8 @@
 
 namespace Velquin::Pstn {
 
-/// Reads an `nfasGroup` element and puts the B-channel ranges of its members into channel groups. Those that came
-/// before a fault stay there.
+/// Reads an `nfasGroup` element and adds the B-channel ranges of its members to channel groups. After a fault, the
+/// ranges before it stay there.
 class VELQUIN_PSTN_CONFIG_EXPORT IsdnNFasConfigXmlSerializer : public IsdnCommonConfigXmlSerializer {
     PSTN_CONFIG_CLASS( IsdnNFasConfigXmlSerializer );
 

@@ -36,7 +36,7 @@ bool IsdnNfasConfig::addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
 
-/// Brings the index up to date: the members that came since, or all of them after an identifier has changed.
+/// Brings the index up to date: adds the new members or, after an identifier changed, all members.
 void IsdnNfasConfig::indexMembers() {
     const unsigned long long ullIdChanges = IsdnNfasGroupMemberConfig::s_ullIdChanges.load( std::memory_order_relaxed );
     if ( m_ullIndexedIdChanges != ullIdChanges ) {

@@ -12,20 +12,20 @@
 
 namespace Velquin::Pstn {
 
-/// A group of spans with non-facility-associated signalling: one D-channel, with an optional backup, serves them all.
+/// A group of spans with non-facility-associated signalling: one D-channel, with an optional backup, serves all spans.
 class VELQUIN_PSTN_CONFIG_EXPORT IsdnNfasConfig : public IsdnCommonConfig {
     PSTN_CONFIG_CLASS( IsdnNfasConfig );
 
 public:
-    /// By the long unique identifier of the member's interface, in the order in which they were added.
+    /// The members, by the long unique identifier of their interface, in the order in which they were added.
     using Members = HashMapVector<std::string, TSHandle<IsdnNfasGroupMemberConfig>>;
 
-    /// Adds a member, which has its interface. Refuses one whose NFAS interface identifier another member has at that
-    /// moment, and one whose interface is already in the group.
+    /// Adds a member, which must have an interface. Refuses it if another member has its NFAS interface identifier now,
+    /// or if its interface is already in the group.
     bool addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in_hNfasGroupMember );
     const Members& getMemberInterfaces() const noexcept { return m_members; }
 
-    /// Whether a member carries the active D-channel; nothing here demands that exactly one does.
+    /// Whether a member carries the active D-channel. Nothing here checks that exactly one does.
     bool hasPrimaryDChannel() const noexcept;
     /// Whether the interface of that long unique identifier is a member.
     bool isAppliedToInterface( const char* in_szUniqueId ) const;
@@ -34,8 +34,8 @@ private:
     void indexMembers();
 
     Members m_members;
-    // The identifiers of the first members, as they were after so many changes: asking every member anew, for each that
-    // is added, would take the square of their number.
+    // An index of the first members' identifiers, and the number of changes that it includes. Without it, the cost of
+    // adding members would grow with the square of their number.
     HashMapVector<unsigned long long, LimitedObjPtr<const IsdnNfasGroupMemberConfig>> m_membersByNfasInterfaceID;
     std::size_t m_uIndexedMembers = 0;
     unsigned long long m_ullIndexedIdChanges = 0;

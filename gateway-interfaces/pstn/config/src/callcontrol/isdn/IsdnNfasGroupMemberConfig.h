@@ -21,7 +21,7 @@ public:
         BACKUP = 3,   ///< carries the standby D-channel
     };
 
-    /// The number by which the signalling refers to the span, unique in the group.
+    /// The number by which the signalling names the span, unique in the group.
     unsigned long long getNfasInterfaceID() const noexcept { return m_ullNfasInterfaceID; }
     void setNfasInterfaceID( unsigned long long in_ullId ) noexcept;
 
@@ -29,16 +29,17 @@ public:
     DChannelMode getDChannelMode() const noexcept { return m_eDChannelMode; }
     void setDChannelMode( DChannelMode in_eMode ) noexcept { m_eDChannelMode = in_eMode; }
 
-    /// The span, shared with its board; null until set.
+    /// The span, which the member shares with the board; null until set.
     const TSHandle<DigitalInterfaceConfig>& getInterfaceConfig() const noexcept { return m_hInterfaceConfig; }
-    /// To be called after setDChannelMode. Refuses a span without D-channel for PRIMARY and BACKUP, and one with a
+    /// Call it after setDChannelMode. Refuses a span without D-channel for PRIMARY and BACKUP, and a span with
     /// D-channel for DISABLED.
     bool setInterfaceMember( TSHandle<DigitalInterfaceConfig> in_hInterfaceConfig );
 
 private:
     friend class IsdnNfasConfig;
 
-    /// How often a member of a group got another identifier, in the whole process: groups look their members up by it.
+    /// How often any member in this process got another identifier. Groups check with it whether their index still
+    /// holds.
     static std::atomic<unsigned long long> s_ullIdChanges;
 
     unsigned long long m_ullNfasInterfaceID = 0;

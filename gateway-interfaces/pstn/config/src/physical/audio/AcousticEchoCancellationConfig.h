@@ -7,8 +7,7 @@
 
 namespace Velquin::Pstn {
 
-/// Cancellation of the echo between a telephone's loudspeaker and microphone (ITU-T G.167). Abstract base of what
-/// performs it.
+/// Cancellation of the echo between a telephone's loudspeaker and microphone (ITU-T G.167). Abstract base class.
 class VELQUIN_PSTN_CONFIG_EXPORT AcousticEchoCancellationConfig : public virtual Object {
     PSTN_CONFIG_CLASS( AcousticEchoCancellationConfig );
 

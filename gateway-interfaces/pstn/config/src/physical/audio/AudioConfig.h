@@ -17,8 +17,8 @@
 
 namespace Velquin::Pstn {
 
-/// How the voice of interfaces is coded and processed. The setters of the blocks take ownership and refuse null, with
-/// an assertion; a block is null until set.
+/// How the voice of interfaces is coded and processed. A voice-processing block is null until set. The setters of the
+/// blocks take ownership, and refuse null, with an assertion.
 class VELQUIN_PSTN_CONFIG_EXPORT AudioConfig : public virtual Object {
     PSTN_CONFIG_CLASS( AudioConfig );
 

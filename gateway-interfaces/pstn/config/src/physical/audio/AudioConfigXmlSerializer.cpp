@@ -19,7 +19,7 @@ PSTN_CONFIG_CLASS_IMPL( AudioConfigXmlSerializer );
 
 namespace {
 
-/// One voice-processing block: where it stands, who makes its serializer, where it goes.
+/// One voice-processing block: its element, the creator of its serializer, its setter.
 template <class TXmlSerializer, class TConfig>
 struct Block {
     const char* szElement;
@@ -28,7 +28,7 @@ struct Block {
     const char* szFailure;
 };
 
-// clang++ 14 deduces nothing for an aggregate by itself.
+// clang++ 14 needs a deduction guide for an aggregate.
 template <class TXmlSerializer, class TConfig>
 Block( const char*, TXmlSerializer* (XmlSerializerObjectFactory::*)( const char* ) const,
        bool ( AudioConfig::* )( TConfig* ), const char* ) -> Block<TXmlSerializer, TConfig>;

@@ -7,7 +7,7 @@
 
 namespace Velquin::Pstn {
 
-/// Attenuation of background noise. Abstract base of what performs it.
+/// Attenuation of background noise. Abstract base class.
 class VELQUIN_PSTN_CONFIG_EXPORT BackgroundNoiseAttenuationConfig : public virtual Object {
     PSTN_CONFIG_CLASS( BackgroundNoiseAttenuationConfig );
 

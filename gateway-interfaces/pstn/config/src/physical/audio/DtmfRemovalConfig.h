@@ -7,7 +7,7 @@
 
 namespace Velquin::Pstn {
 
-/// Removal of DTMF tones (ITU-T Q.23) from the voice. Abstract base of what performs it.
+/// Removal of DTMF tones (ITU-T Q.23) from the voice. Abstract base class.
 class VELQUIN_PSTN_CONFIG_EXPORT DtmfRemovalConfig : public virtual Object {
     PSTN_CONFIG_CLASS( DtmfRemovalConfig );
 

@@ -7,7 +7,7 @@
 
 namespace Velquin::Pstn {
 
-/// Cancellation of the echo that a line returns (ITU-T G.168). Abstract base of what performs it.
+/// Cancellation of the echo that a line returns (ITU-T G.168). Abstract base class.
 class VELQUIN_PSTN_CONFIG_EXPORT EchoCancellationConfig : public virtual Object {
     PSTN_CONFIG_CLASS( EchoCancellationConfig );
 

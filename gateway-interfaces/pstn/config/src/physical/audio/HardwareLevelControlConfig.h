@@ -22,11 +22,11 @@ public:
     Direction getDirection() const noexcept { return m_eDirection; }
     void setDirection( Direction in_eDirection ) noexcept { m_eDirection = in_eDirection; }
 
-    /// The gain of the MANUAL mode, in dB; a negative one attenuates; 0 until set.
+    /// The gain of the MANUAL mode, in dB; a negative gain attenuates; 0 until set.
     int getGain() const noexcept { return m_nGain; }
     void setGain( int in_nGainIndB ) noexcept { m_nGain = in_nGainIndB; }
 
-    /// The level that the AUTOMATIC mode aims at, in dBm0; 0 until set.
+    /// The target level of the AUTOMATIC mode, in dBm0; 0 until set.
     int getTargetLevel() const noexcept { return m_nTargetLevel; }
     void setTargetLevel( int in_nLevelIndBM0 ) noexcept { m_nTargetLevel = in_nLevelIndBM0; }
 

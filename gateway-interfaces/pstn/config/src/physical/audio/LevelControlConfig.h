@@ -7,7 +7,7 @@
 
 namespace Velquin::Pstn {
 
-/// Control of the voice level. Abstract base of what performs it.
+/// Control of the voice level. Abstract base class.
 class VELQUIN_PSTN_CONFIG_EXPORT LevelControlConfig : public virtual Object {
     PSTN_CONFIG_CLASS( LevelControlConfig );
 

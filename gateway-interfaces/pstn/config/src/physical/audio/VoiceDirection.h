@@ -4,7 +4,7 @@
 
 namespace Velquin::Pstn {
 
-/// The direction of the voice that is processed, seen from the gateway.
+/// Direction of the voice to process, seen from the gateway.
 enum class VoiceDirection { TO_PSTN = 1, FROM_PSTN = 2, ALL = 3 };
 
 /// The format's keywords for the enumerations above.

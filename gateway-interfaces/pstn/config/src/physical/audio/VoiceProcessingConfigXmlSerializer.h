@@ -16,17 +16,16 @@ namespace Velquin::Pstn {
 
 class XmlConfig;
 
-/// What a `write` of the family does: false, with the ERROR line that it is not implemented.
+/// The body of every `write` of the family: logs an ERROR that the operation is not implemented, and yields false.
 VELQUIN_PSTN_CONFIG_EXPORT bool reportBlockNotWritten( const Logger& in_logger,
                                                        const char* in_szXmlSerializer ) noexcept;
 
-/// Reads one voice-processing block of an `audio` element. What the five blocks have in common: `TSelf` is the block's
+/// Reads one voice-processing block of an `audio` element. The five blocks have this in common. `TSelf` is the block's
 /// serializer, `TConfig` its model class.
 template <class TSelf, class TConfig>
 class VoiceProcessingConfigXmlSerializer : public virtual Object {
 public:
-    /// A new block, which the caller owns; null after an ERROR line. Reads no attribute: those belong to what performs
-    /// the block.
+    /// A new block, which the caller owns; null after an ERROR line. Reads no attribute: derived serializers do.
     virtual TConfig* read( xmlNode* const, XmlConfig& ) try {
         UniqueObjPtr<TConfig> pConfig( newConfig() );
         if ( pConfig.isNull() ) {
@@ -42,11 +41,11 @@ public:
         return reportBlockNotWritten( TSelf::getLogger(), TSelf::getMemAccountName() );
     }
 
-    /// Creates the empty object of the class that performs the block, which the caller owns; null in this class.
+    /// Creates the empty object of the concrete class, which the caller owns; null in this class.
     virtual TConfig* newConfig() { return nullptr; }
 };
 
-/// Reads a block that the board's hardware performs. `TSelf::readAttributes` reads the attributes of the block.
+/// Reads a block that the board's hardware performs. `TSelf::readAttributes` reads its attributes.
 template <class TSelf, class TGeneric, class THardwareConfig>
 class HardwareVoiceProcessingConfigXmlSerializer : public TGeneric {
 public:
