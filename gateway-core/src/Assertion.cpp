@@ -15,7 +15,7 @@ class AssertionLog {
 VELQUIN_LOGGER_IMPL( AssertionLog, "marovane.core.Assertion" );
 
 std::string_view getBaseName( std::string_view in_strPath ) noexcept {
-    // Compilers name sources with the separators of the system on which they run.
+    // A compiler names sources with the separators of its own system.
     in_strPath.remove_prefix( in_strPath.find_last_of( "/\\" ) + 1 );
     return in_strPath.substr( 0, in_strPath.rfind( '.' ) );
 }

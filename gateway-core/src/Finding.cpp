@@ -52,20 +52,20 @@ void reportFinding( const Logger& in_logger, Finding in_finding, const char* in_
         in_finding.strLogger = in_logger.getName();
         if ( pPlace &&
              ( in_finding.strFile.empty() || in_finding.ullLine == 0 || in_finding.strElementPath.empty() ) ) {
-            // What a place reports itself isn't located, or it would be asked without end.
+            // A finding that a place itself reports gets no place: that would never end.
             t_pPlace = nullptr;
             pPlace->locate( in_finding );
         }
     } catch ( ... ) {
-        // A finding is told even when it isn't known where it was made.
+        // Report the finding even when its place is unknown.
     }
     t_pPlace = pPlace;
-    // What the callback reports goes to the next watch, or the callback would call itself without end.
+    // What the callback reports goes to the next watch: else the callback could call itself without end.
     t_pWatch = pWatch->m_pOuter;
     try {
         pWatch->m_callback( in_finding );
     } catch ( ... ) {
-        // The watching program's troubles are not those of the operation that it watches.
+        // A fault of the watching program must not become a fault of the operation that it watches.
     }
     t_pWatch = pWatch;
 }
@@ -84,7 +84,7 @@ void reportCurrentException( const Logger& in_logger, const char* in_szOperation
     try {
         strText = describeCurrentException( in_szOperation );
     } catch ( ... ) {
-        strText = "out of memory"; // short enough to need none
+        strText = "out of memory"; // short enough to need no memory
     }
     reportFinding( in_logger, Logger::ERROR_LEVEL, std::move( strText ), in_szFile, in_nLine );
 }

@@ -69,7 +69,7 @@ void GlobalConfig::remove( const char* in_szName ) {
 bool GlobalConfig::loadFile( const char* in_szPath ) try {
     if ( !VELQUIN_ASSERT( in_szPath ) )
         return false;
-    // Properties takes whatever can't be read for an empty file.
+    // Properties takes a file that can't be read for an empty one.
     std::error_code error;
     if ( !std::filesystem::is_regular_file( in_szPath, error ) )
         return refuseFile( in_szPath, error ? error.message() : "it is not a file" );

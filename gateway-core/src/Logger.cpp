@@ -26,7 +26,7 @@ int Logger::getLogLevel() const noexcept {
         if ( const Backend* const pBackend = getBackend() )
             return pBackend->logger.getChainedLogLevel();
     } catch ( ... ) {
-        // A logger whose level can't be told writes nothing.
+        // A logger of unknown level writes nothing.
     }
     return log4cplus::OFF_LOG_LEVEL;
 }
@@ -51,10 +51,10 @@ void Logger::log( int in_nLevel, const std::string& in_strMessage, const char* i
         try {
             write( in_strMessage );
         } catch ( const std::bad_alloc& ) {
-            write( "out of memory: a line of the log is lost" ); // it may have been the only one about a failure
+            write( "out of memory: a line of the log is lost" ); // it may have been the only line about a failure
         }
     } catch ( ... ) {
-        // There is nowhere left to tell that a record couldn't be written.
+        // There is no place left to say that a record couldn't be written.
     }
 }
 
@@ -65,7 +65,7 @@ const Logger::Backend* Logger::getBackend() const noexcept {
     try {
         std::unique_ptr<Backend> pNew(
             new Backend{ log4cplus::Logger::getInstance( LOG4CPLUS_C_STR_TO_TSTRING( m_szName ) ) } );
-        // When another thread was first, its back-end stays.
+        // If another thread was first, its back-end stays.
         if ( m_pBackend.compare_exchange_strong( pBackend, pNew.get(), std::memory_order_acq_rel ) )
             pBackend = pNew.release();
         return pBackend;

@@ -8,11 +8,11 @@ namespace Velquin {
 
 namespace {
 
-// Guards the list, which is touched at the first use of an account and at the end of its library only.
+// Guards the list. Only the first use of an account and the end of its library touch the list.
 std::mutex s_mutexList;
 MemAccount* s_pFirst = nullptr;
 
-// The size stands in front of the block, in a header that keeps the block as aligned as operator new made it.
+// The size stands in front of the block, in a header that keeps the alignment of operator new.
 constexpr std::size_t HEADER_SIZE = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 static_assert( sizeof( std::size_t ) <= HEADER_SIZE );
 
@@ -53,7 +53,7 @@ void MemAccount::add( std::size_t in_uBytes ) noexcept {
 
 void MemAccount::remove( std::size_t in_uBytes ) noexcept {
     m_ullObjects.fetch_sub( 1, std::memory_order_relaxed );
-    // Every peak ends with a release, so that it is enough to look here and when the figures are asked for.
+    // Every peak ends with a release: it is enough to look for peaks here and in the listing.
     const unsigned long long ullBytes = m_ullBytes.fetch_sub( in_uBytes, std::memory_order_relaxed );
     unsigned long long ullPeak = m_ullPeakBytes.load( std::memory_order_relaxed );
     while ( ullPeak < ullBytes &&

@@ -5,7 +5,7 @@
 namespace Velquin {
 
 void strTokenize( std::string_view in_strText, StringVector& out_vecFields, char in_cSeparator ) {
-    // The text may be one of the fields that are replaced.
+    // The text may be one of the old fields.
     StringVector vecFields;
     if ( !in_strText.empty() ) {
         std::size_t uEnd;

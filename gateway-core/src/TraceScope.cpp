@@ -18,7 +18,7 @@ void TraceScope::trace( const char* in_szWhat ) const noexcept {
     try {
         m_logger.log( Logger::TRACE_LEVEL, std::string( in_szWhat ) + m_szOperation, m_szFile, m_nLine );
     } catch ( ... ) {
-        // An operation doesn't fail for want of its trace.
+        // An operation must not fail because its trace does.
     }
 }
 

@@ -29,9 +29,9 @@ _xmlNode* findElement( _xmlNode* in_pNode, const char* in_szName ) noexcept {
 
 void initializeLibrary() {
     const std::lock_guard lock( s_mutex );
-    // Costs a compare when it was done, and does it again when the program has cleaned libxml2 up in between.
+    // A second call costs only a compare. It initialises again if the program cleaned libxml2 up in between.
     xmlInitParser();
-    // libxml2 would fill these tables at the first schema, in whatever thread that is, without a lock.
+    // Otherwise libxml2 would fill these tables at the first schema, on any thread and without a lock.
     xmlSchemaInitTypes();
     xmlRelaxNGInitTypes();
     ++s_uOpenCount;

@@ -35,8 +35,8 @@ struct SaveContextDeleter {
     void operator()( xmlSaveCtxt* in_pContext ) const noexcept { xmlSaveClose( in_pContext ); }
 };
 
-/// Hears libxml2's errors on this thread while it lives. Most operations that make or write a tree tell of a failure in
-/// no other way, and their callers would write what is left of the document.
+/// Receives libxml2's errors on this thread while it lives. Most operations that make or write a tree report a failure
+/// only as such an error. Their callers would write what is left of the document.
 class ErrorListener {
 public:
     ErrorListener() noexcept : m_pfnOuter( xmlStructuredError ), m_pOuterContext( xmlStructuredErrorContext ) {
@@ -50,7 +50,7 @@ public:
     ErrorListener& operator=( const ErrorListener& ) = delete;
     ~ErrorListener() { xmlSetStructuredErrorFunc( m_pOuterContext, m_pfnOuter ); }
 
-    /// Throws when there was an error or the step at hand wasn't done.
+    /// Throws when there was an error or the last step failed.
     void require( bool in_bDone ) const {
         if ( m_nCode == XML_ERR_NO_MEMORY || ( m_nCode == XML_ERR_OK && !in_bDone ) )
             throw std::bad_alloc();
@@ -60,7 +60,7 @@ public:
 
 private:
     void hear( int in_nCode, const char* in_szMessage ) noexcept {
-        // The first error is the cause of those that follow.
+        // The first error is the cause of all others.
         if ( m_nCode != XML_ERR_OK )
             return;
         m_nCode = in_nCode;
@@ -91,7 +91,7 @@ std::ostream& operator<<( std::ostream& inout_stream, const OutputStreamable& in
         if ( !bWritten )
             inout_stream.setstate( std::ios::failbit );
     } catch ( ... ) {
-        // A stream that throws for the bit has set it before.
+        // The stream may throw when the bit is set; the bit is set before that.
     }
     return inout_stream;
 }
@@ -113,11 +113,11 @@ bool XMLSTLDocOutputStreamableImpl::writeTo( std::ostream& inout_stream ) const 
     const bool bSaved = xmlSaveDoc( pContext.get(), pDocument.get() ) >= 0;
     const bool bClosed = xmlSaveClose( pContext.release() ) >= 0;
     errors.require( bSaved && bClosed );
-    // Where there is no memory for the encoding's name, some versions of libxml2 leave it out and say nothing.
+    // When there is no memory for the encoding's name, some versions of libxml2 leave it out without a word.
     const std::string_view strWritten( reinterpret_cast<const char*>( xmlBufferContent( pBuffer.get() ) ) );
     if ( !strWritten.starts_with( "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" ) )
         throw std::bad_alloc();
-    // What isn't UTF-8 in the model is written as it is.
+    // Text of the model that isn't UTF-8 is written as it is.
     if ( !xmlCheckUTF8( xmlBufferContent( pBuffer.get() ) ) )
         throw std::runtime_error( "a text is not UTF-8" );
 

@@ -10,21 +10,21 @@
 
 namespace Velquin {
 
-/// What an operation found wrong in what it was given: a record, of which the log line is one rendering.
+/// A fault that an operation found in its input, as a record. The log line is one way to show it.
 struct Finding {
-    /// What the finding is about; decides which of the fields below are filled.
+    /// What the finding is about. The kind decides which of the fields below are filled.
     enum class Kind {
-        OTHER,             ///< told by the text alone
+        OTHER,             ///< only the text says what is wrong
         MISSING_ATTRIBUTE, ///< strAttribute is required and absent
         MISSING_ELEMENT,   ///< strAttribute names a required child element that is absent
-        INVALID_VALUE,     ///< strValue, as written, is refused for strAttribute
+        INVALID_VALUE,     ///< strAttribute has the wrong value strValue
         UNREADABLE_FILE,   ///< strFile can't be read at all
     };
 
     Kind eKind = Kind::OTHER;
     int nLevel = Logger::ERROR_LEVEL; ///< Logger::WARNING_LEVEL or Logger::ERROR_LEVEL
     std::string strLogger;            ///< name of the logger that has the line
-    std::string strFile;              ///< the file as it was named to the load; empty when no file is concerned
+    std::string strFile;              ///< the file as the program named it; empty when no file is concerned
     unsigned long long ullLine = 0;   ///< line in the file, from 1; 0 when unknown
     std::string strElementPath;       ///< XPath of the element; empty when no element is concerned
     std::string strAttribute;         ///< attribute or child element concerned; see Kind
@@ -34,16 +34,16 @@ struct Finding {
     std::string strText;              ///< the whole log line
 };
 
-/// Where in its input an operation is, for the findings that the operations below it report without knowing of any
-/// input. Places stand on the stack of one thread, the innermost one is asked. A place counts from the moment when its
-/// base is made: what reports findings is done after that, not in the initialisers of a derived class.
+/// The place in the input where an operation is. It serves the findings of operations that are called meanwhile and
+/// know no input. Places stand on the stack of one thread; the innermost one fills the findings. A place counts as soon
+/// as its base object exists: the initialisers of a derived class must not report findings.
 class VELQUIN_CORE_EXPORT FindingPlace {
 public:
     FindingPlace() noexcept;
     FindingPlace( const FindingPlace& ) = delete;
     FindingPlace& operator=( const FindingPlace& ) = delete;
 
-    /// Fills file, line and element path, those that are still empty.
+    /// Fills file, line and element path if they are still empty.
     virtual void locate( Finding& inout_finding ) const = 0;
 
     /// The innermost place of this thread, null when there is none.
@@ -56,9 +56,9 @@ private:
     const FindingPlace* m_pOuter;
 };
 
-/// Lets a program watch the findings of what it calls on this thread, for as long as the watch lives. The log is
-/// written either way. Watches nest; the innermost one hears. What the callback throws is dropped; what it reports
-/// itself goes to the next watch outside.
+/// Hands the findings of this thread to a program while the watch lives. The log is written, too. Watches nest; the
+/// innermost one gets the findings. An exception of the callback is dropped. A finding that the callback itself reports
+/// goes to the next outer watch.
 class VELQUIN_CORE_EXPORT FindingWatch {
 public:
     using Callback = std::function<void( const Finding& )>;
@@ -75,17 +75,16 @@ private:
     FindingWatch* m_pOuter;
 };
 
-/// Logs the finding's text, made printable, at its level and tells the watch of this thread. Logger name and, from the
-/// innermost place, what is still unknown of file, line and element are filled in.
+/// Logs the finding's text, made printable, at its level, and hands the finding to the watch of this thread. Fills in
+/// the logger's name; the innermost place fills in file, line and element if they are unknown.
 VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, Finding in_finding, const char* in_szFile,
                                         int in_nLine ) noexcept;
 
-/// The same for a finding that is told by its text alone.
+/// The same for a finding that has only a text.
 VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, int in_nLevel, std::string in_strText,
                                         const char* in_szFile, int in_nLine ) noexcept;
 
-/// To be called in a catch block: reports a finding at ERROR that tells that the operation failed and why ("out of
-/// memory in load").
+/// Call it in a catch block. Reports a finding at ERROR: the operation failed, and why ("out of memory in load").
 VELQUIN_CORE_EXPORT void reportCurrentException( const Logger& in_logger, const char* in_szOperation,
                                                  const char* in_szFile, int in_nLine ) noexcept;
 
@@ -101,8 +100,8 @@ VELQUIN_CORE_EXPORT void reportCurrentException( const Logger& in_logger, const 
 #define VELQUIN_REPORT_ERROR( logger, streamed ) VELQUIN_REPORT( logger, ::Velquin::Logger::ERROR_LEVEL, streamed )
 #define VELQUIN_REPORT_WARNING( logger, streamed ) VELQUIN_REPORT( logger, ::Velquin::Logger::WARNING_LEVEL, streamed )
 
-/// Ends the function-try-block of an exported operation, which lets no exception out: the exception becomes an ERROR
-/// line and the operation yields `result`.
+/// Ends the function-try-block of an exported operation, which must not throw. The exception becomes an ERROR line, and
+/// the operation yields `result`.
 #define VELQUIN_CATCH_AND_RETURN( logger, result )                                                                     \
     catch ( ... ) {                                                                                                    \
         ::Velquin::reportCurrentException( ( logger ), __func__, __FILE__, __LINE__ );                                 \

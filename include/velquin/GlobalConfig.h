@@ -8,21 +8,21 @@
 
 namespace Velquin {
 
-/// The gateway's process-wide parameters. All operations may be called from any thread.
+/// The gateway's process-wide parameters. Any thread may call all operations.
 class VELQUIN_CORE_EXPORT GlobalConfig : public ROConfiguration {
 public:
     static GlobalConfig& getInstance();
 
     bool getString( const char* in_szName, std::string& out_strValue ) const override;
-    /// Sets a parameter, replacing the value that it may have. Refuses a null name or value, with an assertion.
-    /// @throws std::bad_alloc when memory ends; the parameter is then as it was
+    /// Sets a parameter, and replaces its old value. Refuses a null name or value, with an assertion.
+    /// @throws std::bad_alloc when memory ends; the parameter then keeps its old value
     void setString( const char* in_szName, const char* in_szValue );
-    /// Forgets a parameter.
+    /// Removes a parameter.
     void remove( const char* in_szName );
 
-    /// Sets the parameters that a file of `name=value` lines holds ('#' begins a comment line; blanks around name and
-    /// value don't count). Yields false, with an ERROR line on "marovane.core.GlobalConfig", when the file can't be
-    /// read; no parameter is set then.
+    /// Sets the parameters in a file of `name=value` lines ('#' begins a comment line; blanks around name and value
+    /// don't count). When the file can't be read, it sets no parameter, logs an ERROR on "marovane.core.GlobalConfig"
+    /// and yields false.
     bool loadFile( const char* in_szPath );
 
 private:

@@ -9,14 +9,14 @@
 
 namespace Velquin {
 
-/// Container that keeps its pairs in the order in which they were inserted and finds them by key in constant time.
+/// Container that keeps its pairs in the order of their insertion and finds them by key in constant time.
 template <class K, class V>
 class HashMapVector {
 public:
     using value_type = std::pair<K, V>;
     using const_iterator = typename std::vector<value_type>::const_iterator;
 
-    /// Appends the pair. When the key is already there, nothing changes and the result is false.
+    /// Appends the pair. If the key is already there, it changes nothing and yields false.
     bool insert( K in_key, V in_value ) {
         if ( find( in_key ) != end() )
             return false;
@@ -31,7 +31,7 @@ public:
         return true;
     }
 
-    /// The pair of that key, `end()` when there is none.
+    /// The pair of that key; `end()` when there is none.
     const_iterator find( const K& in_key ) const {
         const auto [itFirst, itEnd] = m_positions.equal_range( std::hash<K>()( in_key ) );
         const auto it = std::find_if(

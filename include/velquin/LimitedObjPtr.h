@@ -5,8 +5,7 @@
 
 namespace Velquin {
 
-/// Refers to an object that somebody else owns: a back-reference from child to parent. Counts nothing and keeps
-/// nothing alive.
+/// Refers to an object that somebody else owns, as from child to parent. Counts nothing and keeps nothing alive.
 template <class T>
 class LimitedObjPtr {
 public:

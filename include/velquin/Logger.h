@@ -10,12 +10,11 @@
 
 namespace Velquin {
 
-/// One named logger of the gateway. A thin front of the log4cplus logger of the same name; the program configures
+/// One named logger of the gateway. It writes to the log4cplus logger of the same name. The program configures
 /// log4cplus (appenders, levels) and shuts it down.
 ///
-/// A logger is made once, at its first use, and lives until the process ends (see VELQUIN_LOGGER_IMPL). While there is
-/// no memory to get the log4cplus logger, nothing is enabled; the next use tries again.
-/// All operations may be called from any thread.
+/// A logger is made once, at its first use, and lives until the process ends (see VELQUIN_LOGGER_IMPL). If there is no
+/// memory to get the log4cplus logger, no level is on; the next use tries again. Any thread may call all operations.
 class VELQUIN_CORE_EXPORT Logger {
 public:
     // The numeric levels are log4cplus's own.
@@ -25,18 +24,18 @@ public:
     static constexpr int WARNING_LEVEL = 30000;
     static constexpr int ERROR_LEVEL = 40000;
 
-    /// @param in_szName the logger's full name, for instance "marovane.pstn.config.XmlConfig"; outlives the logger
+    /// @param in_szName the logger's full name, for instance "marovane.pstn.config.XmlConfig"; it outlives the logger
     explicit Logger( const char* in_szName ) noexcept : m_szName( in_szName ) {}
     Logger( const Logger& ) = delete;
     Logger& operator=( const Logger& ) = delete;
     ~Logger();
 
     const char* getName() const noexcept { return m_szName; }
-    /// The level in force: the logger's own or the nearest inherited one.
+    /// The level that counts: the logger's own or the nearest inherited one.
     int getLogLevel() const noexcept;
     bool isEnabledFor( int in_nLevel ) const noexcept;
-    /// Writes one record if the level is on. Never throws: a record that can't be written is dropped; where there is no
-    /// memory for it, a line that says so takes its place, if there is memory for that.
+    /// Writes one record if the level is on. Never throws: drops a record that can't be written. If there is no memory
+    /// for the record, it writes a line that says so, if there is memory for that.
     void log( int in_nLevel, const std::string& in_strMessage, const char* in_szFile, int in_nLine ) const noexcept;
 
 private:
@@ -48,11 +47,11 @@ private:
     mutable std::atomic<Backend*> m_pBackend{ nullptr };
 };
 
-/// Puts a question mark for every control character, so that a text which holds values from a file stays on one line
-/// and can't pass for several.
+/// Replaces every control character by a question mark. A text with values from a file then stays on one line and can't
+/// look like several.
 VELQUIN_CORE_EXPORT void makePrintable( std::string& inout_strText ) noexcept;
 
-/// Composes a log record of literals, which may have line breaks, and of values, which are made printable.
+/// Composes a log record from literals, which may have line breaks, and from values, which are made printable.
 class LogText {
 public:
     template <std::size_t N>
@@ -85,8 +84,8 @@ public:                                                                         
 private:                                                                                                               \
     static_assert( true )
 
-/// Defines the logger of a class. It is never destroyed, so that static objects may log to the end, and stands in
-/// static memory, so that the end of memory can still be reported through it.
+/// Defines the logger of a class. It is never destroyed: static objects may log to the end. It stands in static memory:
+/// it can still report that memory ended.
 #define VELQUIN_LOGGER_IMPL( ClassName, szName )                                                                       \
     const ::Velquin::Logger& ClassName::getLogger() noexcept {                                                         \
         alignas( ::Velquin::Logger ) static std::byte roomOfClass_[sizeof( ::Velquin::Logger )];                       \
@@ -95,7 +94,7 @@ private:                                                                        
     }                                                                                                                  \
     static_assert( true )
 
-/// Logs what is streamed in the last argument; see LogText. Nothing is composed when the level is off.
+/// Logs what the last argument streams; see LogText. Composes nothing when the level is off.
 #define VELQUIN_LOG( logger, nLevel, streamed )                                                                        \
     do {                                                                                                               \
         const ::Velquin::Logger& logTarget_ = ( logger );                                                              \

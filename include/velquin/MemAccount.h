@@ -10,19 +10,19 @@
 
 namespace Velquin {
 
-/// Counts the live objects and bytes of one class. An account belongs to a class for the whole life of the library
-/// that defines the class; see VELQUIN_MEM_ACCOUNT. Counting is thread-safe and takes no lock.
+/// Counts the live objects and bytes of one class. An account lives as long as the library that defines the class; see
+/// VELQUIN_MEM_ACCOUNT. Counting is thread-safe and takes no lock.
 class VELQUIN_CORE_EXPORT MemAccount {
 public:
-    /// What an account holds at one moment.
+    /// The figures of an account at one moment.
     struct Figures {
         std::string strName;             ///< the account's name, which is the class name
         unsigned long long ullObjects;   ///< live allocations (an array counts once)
         unsigned long long ullBytes;     ///< bytes of the live allocations
-        unsigned long long ullPeakBytes; ///< the most bytes that were live at one time
+        unsigned long long ullPeakBytes; ///< the most bytes that were ever live at one time
     };
 
-    /// @param in_szName the account's name, a text that outlives the account
+    /// @param in_szName the account's name; it outlives the account
     constexpr explicit MemAccount( const char* in_szName ) noexcept : m_szName( in_szName ) {}
     MemAccount( const MemAccount& ) = delete;
     MemAccount& operator=( const MemAccount& ) = delete;
@@ -31,12 +31,13 @@ public:
     const char* getName() const noexcept { return m_szName; }
     Figures getFigures() const;
 
-    /// Books one allocation of that many bytes.
+    /// Counts one allocation of that many bytes.
     void add( std::size_t in_uBytes ) noexcept;
-    /// Books the release of one allocation of that many bytes.
+    /// Counts the release of one allocation of that many bytes.
     void remove( std::size_t in_uBytes ) noexcept;
 
-    /// All accounts that were ever used, by name; accounts of the same name are listed as one (their peaks added up).
+    /// All accounts that were ever used, by name. Accounts of the same name are listed as one, with the sum of their
+    /// peaks.
     /// @throws std::bad_alloc
     static std::vector<Figures> list();
 
@@ -51,7 +52,7 @@ private:
     MemAccount* m_pNext = nullptr;
 };
 
-/// Allocates blocks whose size the releasing side knows, on behalf of an account.
+/// Allocates blocks for an account. Whoever releases a block knows its size.
 class VELQUIN_CORE_EXPORT DefaultStaticMemAllocator {
 public:
     /// @throws std::bad_alloc when memory ends; nothing is booked then
@@ -62,8 +63,7 @@ public:
     static void deallocate( MemAccount& in_account, void* in_pBlock, std::size_t in_uBytes ) noexcept;
 };
 
-/// Allocates blocks whose size the releasing side doesn't know (arrays), on behalf of an account: the block remembers
-/// its size.
+/// Allocates blocks for an account. Each block stores its size: whoever releases an array doesn't know it.
 class VELQUIN_CORE_EXPORT NoSizeMemAllocator {
 public:
     /// @throws std::bad_alloc when memory ends; nothing is booked then
@@ -75,8 +75,9 @@ public:
 
 } // namespace Velquin
 
-/// Gives a class its memory account: `getMemAccountName()` and every form of `operator new` and `operator delete`.
-/// Stands in the class, with VELQUIN_MEM_ACCOUNT_IMPL in its source file. Every class of a hierarchy has its own.
+/// Gives a class its memory account: `getMemAccountName()` and every form of `operator new` and `operator delete`. Put
+/// it into the class, and VELQUIN_MEM_ACCOUNT_IMPL into the source file. Every class of a hierarchy has its own
+/// account.
 #define VELQUIN_MEM_ACCOUNT( ClassName )                                                                               \
 public:                                                                                                                \
     static const char* getMemAccountName();                                                                            \
@@ -100,8 +101,8 @@ public:                                                                         
 private:                                                                                                               \
     static ::Velquin::MemAccount s_memAccount
 
-/// Defines what VELQUIN_MEM_ACCOUNT declares. The first argument is the class as it is qualified at this place, the
-/// second the account's name.
+/// Defines what VELQUIN_MEM_ACCOUNT declares. The first argument is the class, qualified for this place; the second is
+/// the account's name.
 #define VELQUIN_MEM_ACCOUNT_IMPL( ClassName, szName )                                                                  \
     constinit ::Velquin::MemAccount ClassName::s_memAccount( szName );                                                 \
     const char* ClassName::getMemAccountName() {                                                                       \

@@ -4,8 +4,8 @@
 
 namespace Velquin {
 
-/// Virtual base of every model and serializer class. It makes them polymorphic, so that they can be destroyed and
-/// downcast through any of their bases.
+/// Virtual base of every model and serializer class. It makes them polymorphic: any of their bases can destroy and
+/// downcast them.
 class VELQUIN_CORE_EXPORT Object {
 public:
     Object() = default;

@@ -8,8 +8,8 @@
 
 namespace Velquin {
 
-/// The declarations of the gateway's global parameters: which exist and what they are for.
-/// All operations may be called from any thread.
+/// The declarations of the gateway's global parameters: which ones exist and what they are for. Any thread may call all
+/// operations.
 class VELQUIN_CORE_EXPORT ParameterInfoDB : public virtual Object {
 public:
     /// Kinds of value.
@@ -19,8 +19,8 @@ public:
         std::string strName;
         int nKind;      ///< KIND_STRING
         bool bRequired; ///< the gateway doesn't start without it
-        bool bReadOnly; ///< can't change while the gateway runs
-        bool bHidden;   ///< not shown to operators
+        bool bReadOnly; ///< it can't change while the gateway runs
+        bool bHidden;   ///< operators don't see it
         std::string strDescription;
     };
 
@@ -29,7 +29,7 @@ public:
     /// All declarations, in the order in which they were made.
     /// @throws std::bad_alloc
     virtual std::vector<ParameterInfo> getParameters() const;
-    /// Declares a parameter. A name that is already declared keeps its first declaration; the result is then false.
+    /// Declares a parameter. False when the name is already declared: it keeps its first declaration.
     virtual bool addParameter( const char* in_szName, int in_nKind, bool in_bRequired, bool in_bReadOnly,
                                bool in_bHidden, const char* in_szDescription );
 

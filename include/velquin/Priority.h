@@ -14,7 +14,7 @@ public:
     /// NORMAL.
     Priority() noexcept = default;
     Priority( Code in_eCode ) noexcept : m_nCode( in_eCode ) {}
-    /// From a name, compared exactly ("NORMAL"). An unknown name gives an invalid priority.
+    /// The priority of that name (exact comparison, for instance "NORMAL"); invalid for an unknown name.
     explicit Priority( const std::string& in_strName ) noexcept;
 
     bool isValid() const noexcept { return m_nCode != INVALID; }

@@ -9,15 +9,15 @@
 
 namespace Velquin {
 
-/// Thread-safe counted handle: copies share one object, the last one deletes it. The count is thread-safe; one handle
-/// object is not: threads copy, use and release handles of their own.
+/// Counted handle: copies share one object, and the last copy deletes it. The count is thread-safe, but a handle is
+/// not: each thread copies, uses and releases handles of its own.
 template <class T>
 class TSHandle {
 public:
     TSHandle() noexcept = default;
     TSHandle( std::nullptr_t ) noexcept {}
 
-    /// Takes ownership at once: when memory for the count ends, the object is deleted and std::bad_alloc thrown.
+    /// Takes ownership. If there is no memory for the count, it deletes the object and throws std::bad_alloc.
     explicit TSHandle( T* in_pObject ) {
         std::unique_ptr<T> pObject( in_pObject );
         if ( pObject )
@@ -34,12 +34,12 @@ public:
         : m_pObject( std::exchange( in_hOther.m_pObject, nullptr ) ),
           m_pCount( std::exchange( in_hOther.m_pCount, nullptr ) ) {}
 
-    /// From a handle of a derived class (or of the same class without const).
+    /// Takes a handle of a derived class, or of the same class without const.
     template <class U>
     TSHandle( const TSHandle<U>& in_hOther ) noexcept requires( std::is_convertible_v<U*, T*> )
         : TSHandle( in_hOther, in_hOther.get() ) {}
 
-    /// Shares the ownership of another handle but refers to the given object, which that handle keeps alive.
+    /// Shares the ownership of another handle, but refers to the given object, which the other handle must keep alive.
     template <class U>
     TSHandle( const TSHandle<U>& in_hOwner, T* in_pObject ) noexcept
         : m_pObject( in_pObject ), m_pCount( in_pObject ? in_hOwner.m_pCount : nullptr ) {

@@ -6,8 +6,7 @@
 
 namespace Velquin {
 
-/// The count object behind TSHandle: how many handles hold one object. Starts at 1.
-/// All operations may be called from any thread.
+/// The count behind TSHandle: how many handles hold one object. Starts at 1. Any thread may call all operations.
 class VELQUIN_CORE_EXPORT TSReferenceCount {
     VELQUIN_MEM_ACCOUNT( TSReferenceCount );
 
@@ -19,7 +18,7 @@ public:
 
     /// Counts one more holder.
     void increment() noexcept;
-    /// Counts one holder less. Yields true for the last one, which then deletes the object and the count.
+    /// Counts one holder less. Yields true for the last holder, which must then delete the object and the count.
     bool decrement() noexcept;
     /// The number of holders at this moment.
     unsigned int getCount() noexcept;
@@ -27,7 +26,7 @@ public:
 private:
     class Section;
 
-    // Room for the operating system's critical section, whose header this one doesn't pull in.
+    // Room for the operating system's critical section. This header doesn't include its header.
     alignas( std::max_align_t ) std::byte m_aCriticalSection[48];
     unsigned int m_uCount = 1;
     bool m_bBusy = false; // a thread is inside the critical section

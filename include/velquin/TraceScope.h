@@ -7,7 +7,7 @@ namespace Velquin {
 /// Logs the entry and the exit of an operation at TRACE: "ENTER " and "EXIT " followed by the operation's name.
 class VELQUIN_CORE_EXPORT TraceScope {
 public:
-    /// @param in_szOperation the operation, for instance "XmlConfig::load"; outlives the scope
+    /// @param in_szOperation the operation, for instance "XmlConfig::load"; it outlives the scope
     TraceScope( const Logger& in_logger, const char* in_szOperation, const char* in_szFile, int in_nLine ) noexcept;
     TraceScope( const TraceScope& ) = delete;
     TraceScope& operator=( const TraceScope& ) = delete;

@@ -7,7 +7,7 @@
 
 namespace Velquin {
 
-/// The single owner of an object under construction: deletes it unless it is released to the next owner.
+/// The only owner of an object under construction. Deletes it unless it is released to the next owner.
 template <class T>
 class UniqueObjPtr {
 public:
@@ -26,7 +26,8 @@ private:
     std::unique_ptr<T> m_pObject;
 };
 
-/// Moves the object into an owner of a derived class. Null when it is none of that class; the object is deleted then.
+/// Moves the object into an owner of a derived class. If the object is of another class, it is deleted, and the result
+/// is null.
 template <class T, class U>
 UniqueObjPtr<T> dynamicOwnerCast( UniqueObjPtr<U> in_pObject ) noexcept {
     UniqueObjPtr<T> pDerived( dynamic_cast<T*>( in_pObject.get() ) );

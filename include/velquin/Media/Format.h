@@ -12,7 +12,7 @@ public:
 
     /// Makes this the format of that type.
     void initFrom( Type in_eType ) noexcept;
-    /// UNKNOWN until initialised.
+    /// UNKNOWN until initFrom.
     Type getType() const noexcept { return m_eType; }
 
     friend bool operator==( const Format&, const Format& ) noexcept = default;

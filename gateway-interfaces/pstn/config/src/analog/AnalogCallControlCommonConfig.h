@@ -18,7 +18,7 @@ public:
     unsigned int getId() const noexcept { return m_uId; }
     void setId( unsigned int in_uId ) noexcept { m_uId = in_uId; }
 
-    /// Name of the tone set of the lines, any text. A configuration file can't set it; empty until the program does.
+    /// Name of the lines' tone set, any text; empty until set. Only the program sets it, never a configuration file.
     const char* getToneSetName() const noexcept { return m_strToneSetName.c_str(); }
     bool setToneSetName( const char* in_szToneSetName );
 

@@ -17,7 +17,7 @@ class VELQUIN_PSTN_CONFIG_EXPORT AnalogCallControlCommonConfigXmlSerializer : pu
 
 public:
     /// A new configuration, which the caller owns; null after an ERROR line.
-    /// @param in_hCallControlConfig has the channel groups that the configuration's interfaces join
+    /// @param in_hCallControlConfig the root, with the channel groups that the interfaces join
     virtual AnalogCallControlCommonConfig* read( TSHandle<CallControlConfig>& in_hCallControlConfig,
                                                  xmlNode* const in_pElement, XmlConfig& in_xmlConfig );
     /// Not implemented: false, with an assertion.

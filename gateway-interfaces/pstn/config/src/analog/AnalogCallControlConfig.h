@@ -11,7 +11,7 @@
 namespace Velquin::Pstn {
 
 /// How calls run on the analog lines: owns the FXO and FXS configurations. A copy shares them. Adders take ownership of
-/// what they are given, also when they refuse it.
+/// their argument, even when they refuse it.
 class VELQUIN_PSTN_CONFIG_EXPORT AnalogCallControlConfig : public virtual Object {
     PSTN_CONFIG_CLASS( AnalogCallControlConfig );
 
@@ -19,8 +19,7 @@ public:
     using FxoConfigs = NumberedConfigs<AnalogFxoConfig>;
     using FxsConfigs = NumberedConfigs<AnalogFxsConfig>;
 
-    // Refuse a configuration whose number is taken among those of its kind, with an ERROR line, and null, with an
-    // assertion.
+    // Refuse a configuration whose number is taken among its kind, with an ERROR line. Refuse null, with an assertion.
     bool addFXOConfig( AnalogFxoConfig* in_pNewFxoConfig );
     bool addFXSConfig( AnalogFxsConfig* in_pNewFxsConfig );
 
@@ -28,9 +27,8 @@ public:
     const FxoConfigs& getFxoConfigs() const noexcept { return m_mapFxoConfigs; }
     const FxsConfigs& getFxsConfigs() const noexcept { return m_mapFxsConfigs; }
 
-    /// Whether an FXO or, failing that, an FXS configuration applies to the interface of that unique identifier, in its
-    /// long form. Asks one configuration after the other: a sweep over many interfaces better walks the interfaces of
-    /// each configuration.
+    /// Whether an FXO or FXS configuration applies to the interface of that long unique identifier. Asks one
+    /// configuration after the other: for many interfaces, go through the interfaces of each configuration instead.
     bool hasAnalogCallControlConfig( const char* in_szInterfaceUniqueId ) const;
 
 private:

@@ -16,8 +16,8 @@ namespace {
 constexpr const char* FXO_ELEMENT = "analogFxoConfig";
 constexpr const char* FXS_ELEMENT = "analogFxsConfig";
 
-/// Reads one configuration with a reader of its own; null when that fails or makes an object of another class. The
-/// caller owns the object.
+/// Reads one configuration with a reader of its own. The caller owns the result; it is null when reading fails or gives
+/// an object of another class.
 template <class TConfig, class TXmlSerializer>
 TConfig* readConfig( TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* in_pElement,
                      XmlConfig& in_xmlConfig ) {
@@ -53,8 +53,8 @@ AnalogCallControlConfig* AnalogCallControlConfigXmlSerializer::read( TSHandle<Ca
         VELQUIN_REPORT_ERROR( getLogger(), "Error while adding analog FXS config" );
         return false;
     };
-    // From the first FXS element the walk goes on to FXO elements: later FXS elements are passed over. The schema of
-    // the format lets none stand there.
+    // Behind the first FXS element the walk looks for FXO elements, and passes over further FXS elements. The format's
+    // schema allows neither there.
     if ( !readEntries( ChildElements( in_pElement, FXO_ELEMENT ), readFxo ) ||
          !readEntries( ChildElements( in_pElement, FXS_ELEMENT, FXO_ELEMENT ), readFxs ) )
         return nullptr;

@@ -11,16 +11,15 @@ namespace Velquin::Pstn {
 class CallControlConfig;
 class XmlConfig;
 
-/// Reads the `analog` element under `callControl`.
+/// Reads the `analog` element in `callControl`.
 class VELQUIN_PSTN_CONFIG_EXPORT AnalogCallControlConfigXmlSerializer : public virtual Object {
     PSTN_CONFIG_CLASS( AnalogCallControlConfigXmlSerializer );
 
 public:
-    /// A new configuration, which the caller owns; null after an ERROR line. Of several `analogFxsConfig` elements only
-    /// the first is read.
-    /// @param in_hCallControlConfig has the channel groups, to which the interfaces' channels are added; what was added
-    /// before a fault stays there and then refers to configurations that are gone, so that the whole call control is to
-    /// be given up
+    /// A new configuration, which the caller owns; null after an ERROR line. Reads only the first of several
+    /// `analogFxsConfig` elements.
+    /// @param in_hCallControlConfig the root; channels are added to its channel groups. After a fault, give up the
+    /// whole call control: the channels stay there and refer to configurations that are gone
     virtual AnalogCallControlConfig* read( TSHandle<CallControlConfig>& in_hCallControlConfig,
                                            xmlNode* const in_pElement, XmlConfig& in_xmlConfig );
     /// Not implemented: false, with an assertion.

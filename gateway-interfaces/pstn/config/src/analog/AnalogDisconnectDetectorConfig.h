@@ -11,12 +11,12 @@
 
 namespace Velquin::Pstn {
 
-/// A sequence on an FXO line that means that the far end hung up.
+/// A sequence of events on an FXO line. It means that the far end hung up.
 class VELQUIN_PSTN_CONFIG_EXPORT AnalogDisconnectDetectorConfig : public virtual Object {
     PSTN_CONFIG_CLASS( AnalogDisconnectDetectorConfig );
 
 public:
-    /// One item of a sequence: the text before the slash and the text after it, which is empty without a slash.
+    /// One item of a sequence: the text before the slash and the text after it. Without a slash, the second is empty.
     using Sequencemenber = std::pair<std::string, std::string>;
 
     /// The detector's name, unique within one supervision; any text.
@@ -26,9 +26,9 @@ public:
 
     /// The items, in the order of the text.
     const std::vector<Sequencemenber>& getSequence() const noexcept { return m_vecSequence; }
-    /// Replaces the sequence by that of a text: items with commas between them, each of them text with at most one
-    /// slash; blanks count. Null (an assertion) and a text that is no sequence (an ERROR line) are refused and leave
-    /// the sequence empty. An empty text is the empty sequence, but an empty item among others is refused.
+    /// Replaces the sequence. The text has items with commas between them; each item has at most one slash. Blanks
+    /// count. An empty text is the empty sequence, but an empty item among others is no item. Refuses null, with an
+    /// assertion, and a text that is no sequence, with an ERROR line; the sequence is then empty.
     bool parseSequence( const char* in_szSequence );
 
 private:

@@ -12,27 +12,27 @@
 
 namespace Velquin::Pstn {
 
-/// How the gateway notices on an FXO line that the far end hung up. A copy shares the detectors.
+/// How the gateway notices that the far end of an FXO line hung up. A copy shares the detectors.
 class VELQUIN_PSTN_CONFIG_EXPORT AnalogDisconnectSupervisionConfig : public virtual Object {
     PSTN_CONFIG_CLASS( AnalogDisconnectSupervisionConfig );
 
 public:
     using DisconnectDetectors = std::unordered_map<std::string, TSHandle<AnalogDisconnectDetectorConfig>>;
 
-    /// Off delay of a detection that is off.
+    /// The off delay when detection is off.
     static constexpr unsigned int NO_DELAY_MS = 0xFFFFFFFF;
 
-    /// Takes ownership of the detector. Refuses, and destroys, one whose name is taken, with an ERROR line; refuses
+    /// Takes ownership of the detector. Refuses and destroys it, with an ERROR line, if its name is taken. Refuses
     /// null, with an assertion.
     bool addDisconnectDetector( AnalogDisconnectDetectorConfig* in_pDetectorConfig );
     /// The detectors by name, in no order.
     const DisconnectDetectors& getDisconnectDetectorsMap() const noexcept { return m_mapDetectors; }
 
-    /// Whether a ringing that stays off is taken as a hang-up; off until set.
+    /// Whether ringing that stays off counts as a hang-up; off until set.
     bool isRingCadenceDetectionEnabled() const noexcept { return m_bRingCadenceDetection; }
     void setRingCadenceDetectionState( bool in_bEnabled ) noexcept { m_bRingCadenceDetection = in_bEnabled; }
 
-    /// How long the ringing must have stayed off, in milliseconds; NO_DELAY_MS until set.
+    /// How long, in milliseconds, the ringing must stay off; NO_DELAY_MS until set.
     unsigned int getRingCadenceOffDelayMs() const noexcept { return m_uRingCadenceOffDelayMs; }
     void setRingCadenceOffDelayMs( unsigned int in_uDelayMs ) noexcept { m_uRingCadenceOffDelayMs = in_uDelayMs; }
 

@@ -39,7 +39,7 @@ bool readDetector( xmlNode* in_pElement, const Logger& in_logger, AnalogDisconne
                                              << pDetectorConfig->getName() );
         return false;
     }
-    // A second detector of one name is dropped; the configuration stays good.
+    // A second detector of the same name is dropped; the configuration stays valid.
     static_cast<void>( inout_config.addDisconnectDetector( pDetectorConfig.release() ) );
     return true;
 }

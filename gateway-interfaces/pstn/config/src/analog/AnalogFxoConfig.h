@@ -8,8 +8,8 @@
 
 namespace Velquin::Pstn {
 
-/// How calls run on lines on which the gateway plays the telephone: a central office or PBX feeds the line. A copy
-/// shares what the configuration holds. The setters of its parts take ownership; null leaves the part out.
+/// How calls run on lines where the gateway plays the telephone: a central office or PBX feeds the line. A copy shares
+/// the parts of the configuration. The setters of parts take ownership; null leaves the part out.
 class VELQUIN_PSTN_CONFIG_EXPORT AnalogFxoConfig : public AppliedAnalogCallControlConfig {
     PSTN_CONFIG_CLASS( AnalogFxoConfig );
 
@@ -19,7 +19,7 @@ public:
         PSTN_CONFIG_CLASS( InboundCallHandlingConfig );
 
     public:
-        /// When the outbound side is told of the call.
+        /// When the gateway notifies the outbound side of the call.
         enum class NotifyCondition {
             ON_FIRST_RING = 0,
             ON_CALLER_ID = 1,
@@ -38,7 +38,7 @@ public:
         NotifyCondition getNotifyCondition() const noexcept { return m_eNotifyCondition; }
         void setNotifyCondition( NotifyCondition in_eCondition ) noexcept { m_eNotifyCondition = in_eCondition; }
 
-        /// Delay of the notification after its condition is met, in milliseconds; 0 until set.
+        /// Delay between the condition and the notification, in milliseconds; 0 until set.
         unsigned int getNotifyDelayMs() const noexcept { return m_uNotifyDelayMs; }
         void setNotifyDelayMs( unsigned int in_uDelayMs ) noexcept { m_uNotifyDelayMs = in_uDelayMs; }
 
@@ -49,7 +49,7 @@ public:
         CallerIdType getCallerIdType() const noexcept { return m_eCallerIdType; }
         void setCallerIdType( CallerIdType in_eCallerIdType ) noexcept { m_eCallerIdType = in_eCallerIdType; }
 
-        /// Means nothing unless the notify condition is AFTER_N_RING; 0 until set.
+        /// Has a meaning only if the notify condition is AFTER_N_RING; 0 until set.
         unsigned int getNumberOfRings() const noexcept { return m_uNumberOfRings; }
         void setNumberOfRings( unsigned int in_uNumberOfRings ) noexcept { m_uNumberOfRings = in_uNumberOfRings; }
 
@@ -61,13 +61,13 @@ public:
         unsigned int m_uNumberOfRings = 0;
     };
 
-    /// Calls that the gateway places on the line. The outbound side is the line, the inbound side is where the call
+    /// Calls that the gateway places on the line. The outbound side is the line; the inbound side is where the call
     /// came from.
     class VELQUIN_PSTN_CONFIG_EXPORT OutboundCallHandlingConfig : public virtual Object {
         PSTN_CONFIG_CLASS( OutboundCallHandlingConfig );
 
     public:
-        /// When the inbound side is connected. The numbers differ from those of the inbound enumeration.
+        /// When the gateway connects the inbound side. The numbers differ from those of the inbound enumeration.
         enum class ConnectCondition {
             ON_OUTBOUNDSIDE_CONNECTED = 0,
             ON_OUTBOUNDSIDE_NOTIFIED = 1,
@@ -81,7 +81,7 @@ public:
             ON_REMOTE_RING_STOPPED = 3,
         };
 
-        /// Whether dialling waits for the dial tone; off until set.
+        /// Whether the gateway waits for the dial tone before it dials; off until set.
         bool isWaitForDialToneEnabled() const noexcept { return m_bWaitForDialTone; }
         void enableWaitForDialTone( bool in_bEnable ) noexcept { m_bWaitForDialTone = in_bEnable; }
 
@@ -89,7 +89,7 @@ public:
         bool isDialingActive() const noexcept { return m_bDialingActive; }
         void setDialingActive( bool in_bActive ) noexcept { m_bDialingActive = in_bActive; }
 
-        // Delay before the first digit, pause between two digits and length of a digit, in milliseconds; 0 until set.
+        // Delay before the first digit, pause between two digits, length of a digit, in milliseconds; 0 until set.
         unsigned int getPreDialDelayMs() const noexcept { return m_uPreDialDelayMs; }
         void setPreDialDelayMs( unsigned int in_uDelayMs ) noexcept { m_uPreDialDelayMs = in_uDelayMs; }
         unsigned int getInterDigitDelayMs() const noexcept { return m_uInterDigitDelayMs; }
@@ -109,15 +109,15 @@ public:
             m_eConnectSupervision = in_eSupervision;
         }
 
-        /// Delay of the connection of the inbound side after its condition is met, in milliseconds; 0 until set.
+        /// Delay between the condition and the connection of the inbound side, in milliseconds; 0 until set.
         unsigned int getConnectDelayMs() const noexcept { return m_uConnectDelayMs; }
         void setConnectDelayMs( unsigned int in_uDelayMs ) noexcept { m_uConnectDelayMs = in_uDelayMs; }
 
-        /// In milliseconds. Means nothing when the supervision is AFTER_DIALING_DESTINATION_NUMBER; 0 until set.
+        /// In milliseconds; 0 until set. Has no meaning if the supervision is AFTER_DIALING_DESTINATION_NUMBER.
         unsigned int getDisconnectTimeoutMs() const noexcept { return m_uDisconnectTimeoutMs; }
         void setDisconnectTimeoutMs( unsigned int in_uTimeoutMs ) noexcept { m_uDisconnectTimeoutMs = in_uTimeoutMs; }
 
-        /// In milliseconds. Means nothing unless the supervision is ON_REMOTE_RING_STOPPED; 0 until set.
+        /// In milliseconds; 0 until set. Has a meaning only if the supervision is ON_REMOTE_RING_STOPPED.
         unsigned int getConnectOnNoRemoteRingTimeoutMs() const noexcept { return m_uConnectOnNoRemoteRingTimeoutMs; }
         void setConnectOnNoRemoteRingTimeoutMs( unsigned int in_uTimeoutMs ) noexcept {
             m_uConnectOnNoRemoteRingTimeoutMs = in_uTimeoutMs;
@@ -129,8 +129,8 @@ public:
             m_cSpecialCharacter = in_cCharacter;
         }
 
-        /// The digits that are dialled in its place; empty until set. Readers of configurations see to it that there
-        /// are only digits.
+        /// The digits that the gateway dials in its place; empty until set. The reader makes sure that there are only
+        /// digits; the setter doesn't check.
         const char* getInternationalDialingSpecialCharacterSubstitute() const noexcept {
             return m_strSpecialCharacterSubstitute.c_str();
         }
@@ -166,13 +166,13 @@ public:
     }
     bool setOutboundCallHandlingConfig( OutboundCallHandlingConfig* in_pOutboundCallHandlingConfig );
 
-    /// Null when the far end's hang-up is not detected.
+    /// Null when the gateway doesn't detect that the far end hung up.
     const TSHandle<AnalogDisconnectSupervisionConfig>& getDisconnectSupervisonConfigHandle() const noexcept {
         return m_hDisconnectSupervisionConfig;
     }
     bool setDisconnectSupervisionConfig( AnalogDisconnectSupervisionConfig* in_pDisconnectSupervisionConfig );
 
-    /// Shortest time that the gateway stays on-hook when it releases the line, in milliseconds; 0 until set.
+    /// Shortest time, in milliseconds, that the gateway stays on-hook after it releases the line; 0 until set.
     unsigned int getOnHookMinimumDurationMs() const noexcept { return m_uOnHookMinimumDurationMs; }
     void setOnHookMinimumDurationMs( unsigned int in_uDurationMs ) noexcept {
         m_uOnHookMinimumDurationMs = in_uDurationMs;

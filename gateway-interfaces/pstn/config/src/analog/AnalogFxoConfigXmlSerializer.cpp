@@ -65,7 +65,7 @@ bool readInbound( const ElementReader& in_reader, InboundConfig& out_config ) {
            in_reader.readChild( "callerID", readCallerId, out_config );
 }
 
-/// The character that marks an international number: one that can't be a digit of the number.
+/// The character that marks an international number. It must not be a digit.
 char readSpecialCharacter( const AttributeReader& in_reader ) {
     AttributeText text;
     static_cast<void>( in_reader.findText( SPECIAL_CHARACTER, text ) );
@@ -74,7 +74,7 @@ char readSpecialCharacter( const AttributeReader& in_reader ) {
     return bUsable ? strText.front() : DEFAULT_SPECIAL_CHARACTER;
 }
 
-/// The digits that stand for that character; text that isn't digits is reported and replaced.
+/// The digits that replace that character. A text with anything but digits is reported and replaced.
 std::string readSubstitute( const AttributeReader& in_reader ) {
     AttributeText text;
     if ( !in_reader.findText( SPECIAL_CHARACTER_SUBSTITUTE, text ) )
@@ -118,7 +118,7 @@ bool readOutboundSide( const ElementReader& in_reader, OutboundConfig& out_confi
     if ( !in_reader.requireText( "condition", condition ) )
         return false;
     const Supervision* const pSupervision = Keywords::FXO_CONNECT_SUPERVISION.find( condition.view() );
-    // Of an unknown condition without a timeout, the timeout is what is reported.
+    // If both condition and timeout are wrong, the log reports the timeout.
     if ( ( !pSupervision || *pSupervision != Supervision::AFTER_DIALING_DESTINATION_NUMBER ) &&
          !in_reader.require( "disconnectTimeoutMs", POSITIVE_INTERGER, out_config,
                              &OutboundConfig::setDisconnectTimeoutMs ) )
@@ -130,7 +130,7 @@ bool readOutboundSide( const ElementReader& in_reader, OutboundConfig& out_confi
                                 &OutboundConfig::setConnectOnNoRemoteRingTimeoutMs ) );
 }
 
-/// Reads when the inbound side is connected.
+/// Reads when the gateway connects the inbound side.
 bool readInboundSide( const ElementReader& in_reader, OutboundConfig& out_config ) {
     return in_reader.require( "condition", Keywords::FXO_OUTBOUND_CONNECT_CONDITION, out_config,
                               &OutboundConfig::setInboundSideConnectCondition ) &&
@@ -172,7 +172,7 @@ AnalogCallControlCommonConfig* AnalogFxoConfigXmlSerializer::read( TSHandle<Call
     xmlNode* const pDisconnectSupervision = reader.requireChild( "disconnectSupervision" );
     if ( !pDisconnectSupervision )
         return nullptr;
-    // Without a disconnect supervision that can be read, the line is used without any.
+    // When the disconnect supervision can't be read, the line works without it.
     AnalogDisconnectSupervisionConfigXmlSerializer disconnectSupervisionXmlSerializer;
     if ( !pFxoConfig->setDisconnectSupervisionConfig(
              disconnectSupervisionXmlSerializer.read( pDisconnectSupervision, in_xmlConfig ) ) )

@@ -7,8 +7,8 @@
 
 namespace Velquin::Pstn {
 
-/// How calls run on lines on which the gateway plays the exchange: a telephone is plugged into the gateway. A copy
-/// shares what the configuration holds. The setters of its parts take ownership; null leaves the part out.
+/// How calls run on lines where the gateway plays the exchange: a telephone is plugged into the gateway. A copy shares
+/// the parts of the configuration. The setters of parts take ownership; null leaves the part out.
 class VELQUIN_PSTN_CONFIG_EXPORT AnalogFxsConfig : public AppliedAnalogCallControlConfig {
     PSTN_CONFIG_CLASS( AnalogFxsConfig );
 
@@ -28,11 +28,11 @@ public:
         bool isRelayEarlyMediaEnabled() const noexcept { return m_bRelayEarlyMedia; }
         void enableRelayEarlyMedia( bool in_bEnable ) noexcept { m_bRelayEarlyMedia = in_bEnable; }
 
-        /// Number of digits below which a number is not complete; 0 until set.
+        /// Least number of digits of a complete number; 0 until set.
         unsigned int getMinExpectedDigits() const noexcept { return m_uMinExpectedDigits; }
         void setMinExpectedDigits( unsigned int in_uDigits ) noexcept { m_uMinExpectedDigits = in_uDigits; }
 
-        /// Time without a further digit after which dialling is over, in milliseconds; 0 until set.
+        /// Time, in milliseconds, after which dialling is over if no further digit comes; 0 until set.
         unsigned int getInterDigitTimeoutMs() const noexcept { return m_uInterDigitTimeoutMs; }
         void setInterDigitTimeoutMs( unsigned int in_uTimeoutMs ) noexcept { m_uInterDigitTimeoutMs = in_uTimeoutMs; }
 
@@ -55,7 +55,7 @@ public:
         PSTN_CONFIG_CLASS( HotlineDialingConfig );
 
     public:
-        /// Delay of a dialling that is off.
+        /// The delay when dialling is off.
         static constexpr unsigned int NO_DELAY_MS = 0xFFFFFFFF;
 
         /// Off until set.
@@ -92,7 +92,7 @@ public:
         Mode getMode() const noexcept { return m_eMode; }
         void setMode( Mode in_eMode ) noexcept { m_eMode = in_eMode; }
 
-        /// How long the current is interrupted, in milliseconds; 0 unless the mode is CURRENT_DISCONNECT.
+        /// Length of the interruption of the current, in milliseconds; 0 unless the mode is CURRENT_DISCONNECT.
         unsigned int getCurrentDisconnectDurationMs() const noexcept { return m_uCurrentDisconnectDurationMs; }
         void setCurrentDisconnectDurationMs( unsigned int in_uDurationMs ) noexcept {
             m_uCurrentDisconnectDurationMs = in_uDurationMs;
@@ -124,7 +124,7 @@ public:
     bool
     setDisconnectAnswerNotificationConfig( DisconnectAnswerNotificationConfig* in_pDisconnectAnswerNotificationConfig );
 
-    /// How long the telephone may be on-hook without the call being released, in milliseconds; 0 until set.
+    /// How long, in milliseconds, the telephone may be on-hook before the gateway releases the call; 0 until set.
     unsigned int getRegretTimeMs() const noexcept { return m_uRegretTimeMs; }
     void setRegretTimeMs( unsigned int in_uRegretTimeMs ) noexcept { m_uRegretTimeMs = in_uRegretTimeMs; }
 

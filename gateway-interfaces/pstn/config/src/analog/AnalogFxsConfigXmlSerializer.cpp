@@ -35,7 +35,7 @@ struct FxsFamily {
     }
 };
 
-// Those who read the log know a wrong timeout by the name of the attribute before it.
+// The log reports a wrong timeout under the name of the attribute before it.
 constexpr NumberRule INTER_DIGIT_TIMEOUT{ POSITIVE_INTERGER.ePolicy, POSITIVE_INTERGER.strHint, "minExpectedDigits" };
 
 bool readInbound( const ElementReader& in_reader, InboundConfig& out_config ) {
@@ -51,7 +51,7 @@ bool readInbound( const ElementReader& in_reader, InboundConfig& out_config ) {
 
     xmlNode* const pRelay = XML::findFirstElement( in_reader.getElement(), "relayEarlyMedia" );
     if ( !pRelay ) {
-        // Known in the log by the attribute that the element would have.
+        // The log reports the missing element under the name of its attribute.
         in_reader.reportMissing( "value" );
         return false;
     }
@@ -104,7 +104,7 @@ AnalogCallControlCommonConfig* AnalogFxsConfigXmlSerializer::read( TSHandle<Call
          !readPart( reader, "hotlineDialing", readHotline, *pFxsConfig, &AnalogFxsConfig::setHotlineDialingConfig ) )
         return nullptr;
 
-    // A new notification is that of an absent element: none.
+    // Without the element, the new object's default stays: no notification.
     UniqueObjPtr<NotificationConfig> pNotificationConfig( new NotificationConfig() );
     if ( ( XML::findFirstElement( in_pElement, "disconnectAnswerNotification" ) &&
            !reader.readChild( "disconnectAnswerNotification", readNotification, *pNotificationConfig ) ) ||

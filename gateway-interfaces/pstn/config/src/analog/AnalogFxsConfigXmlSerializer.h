@@ -19,9 +19,9 @@ public:
         PSTN_CONFIG_CLASS( InterfaceRefXmlSerializer );
 
     public:
-        /// Applies the configuration to the interfaces that the entry names, and makes each of them a channel of the
-        /// group that the entry names. False after an ERROR line; what came before the fault stays. The group's ranges
-        /// refer to the configuration without keeping it alive.
+        /// Applies the configuration to the interfaces that the entry names, and adds each of them as a channel to the
+        /// group that the entry names. False after an ERROR line; the interfaces before the fault stay. The group's
+        /// ranges refer to the configuration, but don't keep it alive.
         virtual bool read( const LimitedObjPtr<AnalogFxsConfig>& in_pFxsConfig,
                            TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* const in_pElement,
                            const Config& in_config );

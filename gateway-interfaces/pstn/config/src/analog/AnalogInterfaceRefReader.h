@@ -12,7 +12,7 @@
 
 namespace Velquin::Pstn {
 
-// How the entries of `applyTo` are read in FXO and FXS configurations. What differs is a traits type:
+// Reads the entries of `applyTo` in FXO and FXS configurations. A traits type holds what differs:
 //
 //     struct Family {
 //         using AnalogConfig = AnalogFxoConfig;               // or AnalogFxsConfig
@@ -22,8 +22,8 @@ namespace Velquin::Pstn {
 //         static bool setConfig( BChannelRangeConfig&, const AnalogConfig& );
 //     };
 
-/// Makes an interface, which is one channel, a member of a channel group.
-/// @param in_szInterfaceFailure what is logged when the range doesn't take the interface
+/// Adds an interface, which is one channel, to a channel group.
+/// @param in_szInterfaceFailure logged when the range doesn't take the interface
 template <class TFamily>
 bool addBChannelRange( const typename TFamily::AnalogConfig& in_analogConfig, const AnalogInterfaceConfig& in_interface,
                        const char* in_szInterfaceFailure, ChannelGroupConfig& inout_channelGroup,
@@ -47,8 +47,8 @@ bool addBChannelRange( const typename TFamily::AnalogConfig& in_analogConfig, co
     return true;
 }
 
-/// Applies a configuration to the interfaces that one entry names, and makes each a member of the channel group that
-/// the entry names. Interfaces and ranges that came before a fault stay; the load fails then.
+/// Applies a configuration to the interfaces that one entry names, and adds each interface to the channel group that
+/// the entry names. After a fault, the interfaces and ranges before it stay, and the load fails.
 template <class TFamily>
 bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
                              const TSHandle<CallControlConfig>& in_hCallControlConfig, xmlNode* in_pEntry,
@@ -98,8 +98,7 @@ bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
     return true;
 }
 
-/// Hands each entry of the required child `applyTo`, whatever its name, to the reader of entries; the first that fails
-/// ends it.
+/// Reads each entry of the required child `applyTo`, whatever its name, up to the first that fails.
 template <class TInterfaceRefXmlSerializer, class TAnalogConfig>
 bool applyToAnalogInterfaces( const AttributeReader& in_reader, TAnalogConfig& inout_analogConfig,
                               TSHandle<CallControlConfig>& in_hCallControlConfig, const Config& in_config ) {
@@ -113,7 +112,7 @@ bool applyToAnalogInterfaces( const AttributeReader& in_reader, TAnalogConfig& i
     } );
 }
 
-/// Reads a required child into a new part of a configuration, which then owns it.
+/// Reads a required child into a new part of a configuration. The configuration then owns the part.
 template <class TConfig, class TPart>
 bool readPart( const ElementReader& in_reader, const char* in_szChild,
                bool ( *in_read )( const ElementReader&, TPart& ), TConfig& out_config,

@@ -6,7 +6,7 @@ namespace Velquin::Pstn {
 
 // The words of the readers of analog call control.
 
-/// FXO configurations, and disconnect supervision, which is a part of them
+/// FXO configurations, including disconnect supervision
 inline constexpr ReaderWording FXO_WORDING{ "] for fxo analog config  ", "] for fxo analog config  " };
 inline constexpr ReaderWording FXS_WORDING{ "] for fxs analog config  ", "] for fxs analog config  " };
 

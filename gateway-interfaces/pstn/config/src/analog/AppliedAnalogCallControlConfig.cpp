@@ -16,7 +16,7 @@ PSTN_CONFIG_CLASS_IMPL( AppliedAnalogCallControlConfig );
 
 namespace {
 
-/// The board's number; 0 for an interface that has no board yet, which a log line must not stumble over.
+/// The board's number for a log line; 0 for an interface that has no board yet.
 unsigned int getBoardId( const AnalogInterfaceConfig& in_interface ) {
     const auto pBoardConfig = in_interface.getBoardConfig();
     return pBoardConfig.isNull() ? 0 : pBoardConfig->getId();
@@ -42,7 +42,7 @@ bool AppliedAnalogCallControlConfig::addApplyToAnalogInterfaceVector( const Inte
 }
 
 bool AppliedAnalogCallControlConfig::isAppliedToInterface( const char* in_szInterfaceuniqueId ) const {
-    // The assertion logs its own text, in which NULL stands.
+    // The text of the assertion must have NULL.
     if ( !VELQUIN_ASSERT( in_szInterfaceuniqueId != NULL ) ) // NOLINT(modernize-use-nullptr)
         return false;
     return std::any_of( m_vecInterfaces.begin(), m_vecInterfaces.end(), [&]( const auto& in_hInterface ) {

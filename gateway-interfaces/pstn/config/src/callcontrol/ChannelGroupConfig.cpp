@@ -15,7 +15,7 @@ PSTN_CONFIG_CLASS_IMPL( ChannelGroupConfig );
 
 namespace {
 
-/// The words for a range in the log lines about adding it.
+/// How the log lines about adding a range begin.
 struct Adding {
     const BChannelRangeConfig& m_range;
     const char* m_szGroupId;
