@@ -15,7 +15,7 @@ int main( int argc, char** argv ) {
         std::cerr << "usage: load_config FILE SCHEMA\n";
         return 2;
     }
-    // The program owns the log: here, what is WARNING or worse goes to the console.
+    // The program sets up the log. Here, WARNING and above goes to the console.
     const log4cplus::Initializer log;
     log4cplus::BasicConfigurator::doConfigure();
     log4cplus::Logger::getRoot().setLogLevel( log4cplus::WARN_LOG_LEVEL );

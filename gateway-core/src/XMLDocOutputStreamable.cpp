@@ -117,7 +117,7 @@ bool XMLSTLDocOutputStreamableImpl::writeTo( std::ostream& inout_stream ) const 
     const std::string_view strWritten( reinterpret_cast<const char*>( xmlBufferContent( pBuffer.get() ) ) );
     if ( !strWritten.starts_with( "<?xml version=\"1.0\" encoding=\"UTF-8\"?>" ) )
         throw std::bad_alloc();
-    // Text of the model that isn't UTF-8 is written as it is.
+    // libxml2 writes a text that isn't UTF-8 as it is.
     if ( !xmlCheckUTF8( xmlBufferContent( pBuffer.get() ) ) )
         throw std::runtime_error( "a text is not UTF-8" );
 

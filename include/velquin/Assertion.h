@@ -6,9 +6,9 @@
 
 namespace Velquin {
 
-/// A precondition that was checked. If it didn't hold, the logger "marovane.core.Assertion" logs at ERROR "Assertion
-/// failed: " + expression + ", file " + the source file's name without folder and extension + ", line " + the line.
-/// Throws nothing: the program goes on.
+/// A precondition that was checked. If it didn't hold, the logger "marovane.core.Assertion" logs at ERROR
+/// "Assertion failed: " + expression + ", file " + the source file's name without folder and extension + ", line " +
+/// the line. Throws nothing: the program goes on.
 class VELQUIN_CORE_EXPORT Assertion {
 public:
     /// @param in_szExpression the text of the condition

@@ -64,7 +64,7 @@ constexpr const char* FXS =
         <hotlineDialing enable="NO"/>
 )";
 
-/// Which digital boards, and which of their spans, a physical configuration is for.
+/// The digital boards, and the spans on them, that a physical configuration is for.
 enum class SpanKind { FAS, NFAS_WITH_DCHANNEL, NFAS_WITHOUT_DCHANNEL };
 
 /// Spans of an NFAS group that have a D-channel: the primary and the backup.
@@ -263,7 +263,7 @@ private:
         }
     }
 
-    /// @param in_uFirstSpan first of the spans that are named; 0 names the whole board
+    /// @param in_uFirstSpan the first span to name; 0 names the whole board
     void writeFasGroup( unsigned int in_uBoard, unsigned int in_uFirstSpan, unsigned int in_uLastSpan ) {
         m_stream << "      <fasConfig ID=\"" << ++m_uFasGroups
                  << "\" termination=\"TERMINAL\" switchVariant=\"ETSI\" BChannelNegotiation=\"EXCLUSIVE\">\n"
@@ -313,7 +313,7 @@ private:
     unsigned int m_uFasGroups = 0;
 };
 
-/// How many of that size make up the whole.
+/// How many parts of that size the whole needs.
 constexpr unsigned int divideRoundingUp( unsigned int in_uWhole, unsigned int in_uSize ) {
     return in_uWhole / in_uSize + ( in_uWhole % in_uSize == 0 ? 0 : 1 );
 }

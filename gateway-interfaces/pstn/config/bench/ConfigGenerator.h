@@ -6,17 +6,16 @@
 
 namespace Velquin::Pstn {
 
-/// What a generated configuration consists of. Boards and interfaces are numbered from 1; every board has a channel
-/// group of its own. NFAS groups have digital boards of their own, which come behind the others.
+/// What a generated configuration consists of. Boards and interfaces are numbered from 1. Every board has a channel
+/// group of its own. NFAS groups have digital boards of their own, behind the others.
 struct ConfigShape {
     enum class Line { E1, T1 };
-    /// How the FAS groups are cut: one for each span, one for each board, or none. Spans outside the NFAS groups need
-    /// one.
+    /// The FAS groups: one for each span, one for each board, or none. Spans outside the NFAS groups need a FAS group.
     enum class Fas { PER_SPAN, PER_BOARD, NONE };
     /// How a group or a physical configuration names the interfaces of a board: each of them, or the board.
     enum class References { PER_INTERFACE, PER_BOARD };
 
-    unsigned int uAnalogBoards = 0; ///< FXO and FXS boards in turn, the first one FXO
+    unsigned int uAnalogBoards = 0; ///< FXO and FXS boards in turn; the first is FXO
     unsigned int uPorts = 8;        ///< of an analog board
     unsigned int uDigitalBoards = 0;
     unsigned int uSpans = 16;        ///< of a digital board, those of the NFAS groups included
@@ -29,7 +28,7 @@ struct ConfigShape {
 
     /// Number of interfaces, of all kinds.
     unsigned long long getInterfaces() const noexcept;
-    /// Why no valid configuration has this shape; empty when there is one.
+    /// Why no valid configuration can have this shape; empty when one can.
     std::string getFault() const;
 };
 
@@ -39,11 +38,11 @@ struct ConfigShape {
 /// - "mixed": a quarter analog ports (FXO and FXS boards of 8), half E1 spans (boards of 16, a FAS group for each
 ///   board), a quarter virtual spans (linked boards of 8).
 /// @param in_uInterfaces at least this many interfaces: trunks and carrier grow by 16, mixed by 64
-/// @throws std::invalid_argument when there is no shape of that name
+/// @throws std::invalid_argument when no shape has that name
 ConfigShape getNamedShape( std::string_view in_strName, unsigned int in_uInterfaces );
 
-/// Writes a configuration that is valid, loads without a word and passes the cross-checks. Holds nothing of it in
-/// memory. What becomes of the stream, the caller asks the stream.
+/// Writes a configuration that is valid, loads without a word and passes the cross-checks. Keeps nothing of it in
+/// memory. The caller checks the stream for failure.
 /// @throws std::invalid_argument with ConfigShape::getFault()
 void generateConfig( const ConfigShape& in_shape, std::ostream& inout_stream );
 

@@ -1,4 +1,4 @@
-// libxml2 seeds the hash of its dictionaries by the clock: with this one, a program's instructions repeat.
+// libxml2 seeds the hash of its dictionaries by the clock. With this clock, the number of instructions repeats.
 
 #include <ctime>
 

@@ -4,7 +4,7 @@
 #include <log4cplus/logger.h>
 #include <log4cplus/nullappender.h>
 
-/// A log that lets lines pass from a level on and throws them away unformatted: what is measured is the library.
+/// A log that takes lines from a level on and drops them unformatted, so that only the library is measured.
 class QuietLog {
 public:
     explicit QuietLog( log4cplus::LogLevel in_nLevel ) {

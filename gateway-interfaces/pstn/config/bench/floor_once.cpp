@@ -1,7 +1,7 @@
 // Runs the floor once: floor_once FILE SCHEMA [--options-of-load|--time-validation]
-// To be run under callgrind with --toggle-collect=runFloor. --options-of-load reads the file with the parse options
-// that the library uses, instead of libxml2's defaults. --time-validation prints the CPU seconds that validation alone
-// takes, the best of three.
+// Run it under callgrind with --toggle-collect=runFloor. --options-of-load reads the file with the library's parse
+// options instead of libxml2's defaults. --time-validation prints the CPU seconds of validation alone, the best of
+// three.
 
 #include <algorithm>
 #include <ctime>

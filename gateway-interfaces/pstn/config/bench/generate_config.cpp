@@ -20,7 +20,7 @@ namespace {
 constexpr int EXIT_NOT_WRITTEN = 1;
 constexpr int EXIT_USAGE = 2;
 
-/// A count on the command line, which must not be negative.
+/// A count on the command line. It must not be negative.
 CLI::Option* addCount( CLI::App& inout_app, const char* in_szName, std::optional<unsigned int>& out_uCount,
                        const char* in_szHelp ) {
     return inout_app.add_option( in_szName, out_uCount, in_szHelp )

@@ -1,4 +1,5 @@
-// What a load costs, and its parts, beside the floor on the same document; what lookups, handles and writing cost.
+// Measures what a load and its parts cost, beside the floor on the same document; and what lookups, handles and writing
+// cost.
 //
 //     load_benchmark --benchmark_filter='/trunks/4096$'
 //
@@ -48,7 +49,7 @@ double getSecondsSince( Clock::time_point in_start ) {
     return std::chrono::duration<double>( Clock::now() - in_start ).count();
 }
 
-/// The documents that are measured, each generated at its first use and removed in the end.
+/// The documents of the benchmarks. Each is generated at its first use and removed at the end.
 class Documents {
 public:
     struct Document {
@@ -94,7 +95,7 @@ Documents& getDocuments() {
     return s_documents;
 }
 
-/// One long list each, whose members are what grows.
+/// Documents with one long list each. The number of its members grows.
 ConfigShape getListShape( const std::string& in_strList, unsigned int in_uMembers ) {
     ConfigShape shape;
     if ( in_strList == "spans" || in_strList == "fas-references" ) {
@@ -134,7 +135,7 @@ void setInterfaces( benchmark::State& inout_state, const Documents::Document& in
     inout_state.SetItemsProcessed( inout_state.iterations() * static_cast<std::int64_t>( in_document.ullInterfaces ) );
 }
 
-/// What is short beside what must be done before it need not fill the usual time.
+/// A benchmark that is short beside its preparation need not fill the usual time.
 constexpr double MIN_SECONDS_OF_PART = 0.05;
 
 /// A benchmark of one document.
@@ -185,7 +186,8 @@ void measureValidation( benchmark::State& inout_state, const Documents::Document
     }
 }
 
-/// The sections of a document, read one by one by the serializers that a load uses. A section needs those before it.
+/// Reads the sections of a document one by one, with the serializers that a load uses. A section needs the ones before
+/// it.
 enum class Section { PROVIDERS, BOARDS, PHYSICAL_CONFIGS, CALL_CONTROL };
 
 bool readSection( Section in_eSection, const XmlDocument& in_document, XmlConfig& inout_config ) {
@@ -259,7 +261,7 @@ void measureWrite( benchmark::State& inout_state, const Documents::Document& in_
     }
 }
 
-/// The model that threads read: 4,096 spans, loaded by the first who asks.
+/// The model that threads read: 4,096 spans. The first thread that asks loads it.
 const XmlConfig& getSharedModel() {
     static const XmlConfig& s_config = []() -> const XmlConfig& {
         static XmlConfig s_loaded;
@@ -271,7 +273,7 @@ const XmlConfig& getSharedModel() {
     return s_config;
 }
 
-/// Each thread looks up span after span, and starts elsewhere.
+/// Each thread looks up span after span, from a start of its own.
 void measureLookup( benchmark::State& inout_state ) {
     const XmlConfig& config = getSharedModel();
     auto uNext = static_cast<unsigned int>( inout_state.thread_index() ) * 997;

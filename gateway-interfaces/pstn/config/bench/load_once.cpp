@@ -1,8 +1,8 @@
 // Loads a configuration once: load_once FILE SCHEMA [--log-content|--memory|--native]
-// To be run under callgrind with --toggle-collect=runLoad. --log-content turns the log of the file's content on, at
-// INFO. --memory prints the bytes of heap that the loaded model holds, after a first load that warms up. --native lets
-// libxml2 itself build the document.
-// Exit code 0: loaded; 1: not loaded; 2: wrong usage.
+// Run it under callgrind with --toggle-collect=runLoad. --log-content turns the log of the file's content on, at INFO.
+// --memory loads once to warm up, loads again, and prints the heap bytes of the model. --native lets libxml2 itself
+// build the document.
+// Exit code 0: loaded; 1: not loaded; 2: the command line is wrong.
 
 #include <iostream>
 #include <string_view>

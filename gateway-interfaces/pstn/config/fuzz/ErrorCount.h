@@ -6,11 +6,11 @@
 
 namespace Velquin::Pstn::Fuzz {
 
-/// Counts the findings at ERROR of this thread, for as long as it lives.
+/// Counts the findings at ERROR of this thread while it lives.
 class ErrorCount {
 public:
     unsigned int get() const noexcept { return m_uErrors; }
-    /// Without those about the disconnect supervision of a line, which is then used without any: the load goes on.
+    /// Not counted: findings about the disconnect supervision of a line. The load goes on without it.
     unsigned int getThoseThatEndALoad() const noexcept { return m_uErrors - m_uAboutSupervision; }
 
 private:

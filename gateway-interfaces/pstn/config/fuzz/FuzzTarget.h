@@ -3,13 +3,13 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What libFuzzer calls, and `replay` with the inputs of the corpus: one input, as often as it likes.
+/// Runs the target on one input. libFuzzer calls it, and `replay` calls it with the inputs of the corpus.
 /// @return 0
 extern "C" int LLVMFuzzerTestOneInput( const std::uint8_t* in_pData, std::size_t in_uSize );
 
 namespace Velquin::Pstn::Fuzz {
 
-/// Aborts, which is how a fuzzer learns of a fault, when what should hold doesn't.
+/// Aborts when the condition doesn't hold: the fuzzer takes that for a fault.
 void require( bool in_bHolds, const char* in_szWhat );
 
 } // namespace Velquin::Pstn::Fuzz

@@ -41,7 +41,7 @@ void readBoards( const XmlConfig& in_config ) {
     }
 }
 
-/// What a model holds of that which is written.
+/// The part of a model that is written, as text.
 std::string describeWritten( const XmlConfig& in_config ) {
     std::istringstream boards( describeBoards( in_config ) );
     std::string strWritten;
@@ -75,10 +75,10 @@ void checkLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool i
     }
     const std::string strWritten = write( config );
     if ( strWritten.empty() )
-        return; // a virtual board, of which no text is written
+        return; // a virtual board is not written
     static const TemporaryFile s_written( "written.xml" );
     s_written.write( strWritten );
-    // What is written has no call control, so that this load ends in failure, with the boards in place.
+    // The written document has no call control: this load fails, but the boards are in place.
     XmlConfig again;
     require( !again.load( s_written.getPath(), PSTN_FUZZ_ANY_SCHEMA, false ), "boards alone are no configuration" );
     require( write( again ) == strWritten, "boards are written as they are read back" );

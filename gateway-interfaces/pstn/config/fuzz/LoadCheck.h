@@ -2,9 +2,9 @@
 
 namespace Velquin::Pstn::Fuzz {
 
-/// Loads a configuration as a gateway does, holds the verdict against the findings, reads the model, and writes and
-/// reads its boards back.
-/// @param in_bTalkative whether all that can be logged is composed, the file's content too
+/// Loads a configuration as a gateway does, compares the verdict with the findings, reads the model, writes its boards
+/// and reads them back.
+/// @param in_bTalkative whether the load logs everything, even the file's content
 void checkLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bTalkative );
 
 } // namespace Velquin::Pstn::Fuzz

@@ -12,8 +12,8 @@
 
 namespace Velquin::Pstn {
 
-/// What the parser of numbers does otherwise than a stream, or takes as a whole number though a minus stands in front
-/// or more than blanks behind; null when it does neither.
+/// What the parser of numbers does wrong: it differs from a stream, or takes a whole number with a minus in front or
+/// more than blanks behind. Null when nothing is wrong.
 template <class T>
 const char* findNumberFault( const std::string& in_strText ) {
     std::istringstream stream( in_strText );

@@ -8,7 +8,7 @@
 
 namespace Velquin::Pstn::Fuzz {
 
-/// A file in a directory of its own, which goes with the object. A load takes names of files, no bytes.
+/// A file in a directory of its own. The object removes both at its end. A load takes file names, not bytes.
 class TemporaryFile {
 public:
     explicit TemporaryFile( const char* in_szName );

@@ -1,4 +1,4 @@
-// A document as the library keeps it, held against the one that libxml2 makes by itself.
+// Compares a document as the library keeps it with the document that libxml2 makes by itself.
 
 #include <string>
 #include <string_view>
@@ -21,7 +21,7 @@ using namespace Velquin::Pstn;
 
 namespace {
 
-/// What a document says, less what is no matter to readers: comments, processing instructions, and how a text is cut.
+/// What a document says, without what readers don't see: comments, processing instructions, and how a text is cut.
 class Description {
 public:
     /// @param in_bBlanks whether blanks count
@@ -63,7 +63,7 @@ private:
     std::string m_strAll;
 };
 
-/// Whether libxml2 leaves out blanks where all of its functions and ours agree on them.
+/// Whether libxml2 leaves out blanks in a way on which all of its functions and ours agree.
 bool areBlanksPlain( const std::uint8_t* in_pData, std::size_t in_uSize ) {
     const std::string strText( in_pData, in_pData + in_uSize );
     for ( const char* const szMark : { "<!", "<?", "space" } ) {
@@ -98,7 +98,7 @@ int LLVMFuzzerTestOneInput( const std::uint8_t* in_pData, std::size_t in_uSize )
         const std::string strExpected = Description( xmlDocGetRootElement( pExpected.get() ), bBlanks ).get();
         Fuzz::require( Description( pDocument->getRoot(), bBlanks ).get() == strExpected,
                        "both documents say the same" );
-        // The copy has its lines from libxml2.
+        // The copy has libxml2's own lines.
         const XmlDocPtr pCopy( xmlCopyDoc( pDocument->get(), 1 ) );
         Fuzz::require( Description( xmlDocGetRootElement( pCopy.get() ), bBlanks ).get() == strExpected,
                        "so does a copy" );

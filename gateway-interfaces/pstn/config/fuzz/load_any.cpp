@@ -1,4 +1,4 @@
-// A document under a schema that accepts everything: every reader sees the damage.
+// Loads a document with a schema that accepts everything: every reader sees the damage.
 
 #include "FuzzTarget.h"
 #include "LoadCheck.h"

@@ -1,4 +1,4 @@
-// A document under the schema of the format: validation, and the advice on what it refuses.
+// Loads a document with the schema of the format: tests validation, and the advice on what it refuses.
 
 #include "FuzzTarget.h"
 #include "LoadCheck.h"

@@ -1,6 +1,7 @@
 // Prints a fuzzer's dictionary: make_dictionary --described|--used FILE...
-// --described: the elements, attributes and keywords that RelaxNG schemas describe, for fuzzing documents. A test holds
-// the keywords against the library's tables. --used: those that the files themselves consist of, for fuzzing schemas.
+// --described: the elements, attributes and keywords that RELAX NG schemas describe, for fuzzing documents. A test
+// compares the keywords with the library's tables. --used: the elements, attributes and values of the files themselves,
+// for fuzzing schemas.
 
 #include <cctype>
 #include <cstdio>

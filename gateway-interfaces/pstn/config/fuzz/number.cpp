@@ -1,4 +1,4 @@
-// Numbers are taken as a stream takes them, whole ones with nothing but blanks behind.
+// Checks that numbers are taken as a stream takes them, and whole numbers only with nothing but blanks behind.
 
 #include "FuzzTarget.h"
 #include "NumberCheck.h"

@@ -1,6 +1,6 @@
-// Runs a target on inputs that are kept: replay FILE|DIRECTORY...
-// Exit code 0: all inputs ran; 2: a file or directory is missing, or a directory holds none. A fault aborts, behind the
-// name of its input.
+// Runs a target on kept inputs: replay FILE|DIRECTORY...
+// Exit code 0: all inputs ran; 2: a file or directory is missing, or a directory is empty. A fault prints the name of
+// its input and aborts.
 
 #include <algorithm>
 #include <filesystem>

@@ -1,4 +1,4 @@
-// The input is the schema of a small document.
+// Takes the input as the schema of a small document.
 
 #include <cstddef>
 #include <string_view>
@@ -9,8 +9,8 @@
 
 namespace {
 
-/// libxml2 takes time that doubles with each definition that refers twice to the next one, which no caller can stop: a
-/// few references show what they do to the library.
+/// The time of libxml2 doubles with each definition that refers twice to the next one, and no caller can stop it. A few
+/// references are enough to show what they do to the library.
 bool hasManyReferences( std::string_view in_strSchema ) {
     constexpr std::string_view REFERENCE = "ref";
     unsigned int uReferences = 0;

@@ -1,4 +1,4 @@
-// The sequence of a disconnect detector, held against the rule of its text.
+// Compares the sequence of a disconnect detector with an independent rule for its text.
 
 #include <algorithm>
 #include <string>

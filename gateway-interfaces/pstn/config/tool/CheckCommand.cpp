@@ -23,8 +23,8 @@ ExitCode checkFile( const std::string& in_strFile, const CheckOptions& in_option
     {
         const Velquin::FindingWatch watch(
             [&printer]( const Velquin::Finding& in_finding ) { printer.print( in_finding ); } );
-        // The model of the last file goes with the process: to release it object by object would take a tenth of the
-        // CPU.
+        // The model of the last file ends with the process: to release it object by object would take a tenth of the
+        // CPU time.
         static Velquin::Pstn::XmlConfig* s_pConfig = nullptr;
         delete std::exchange( s_pConfig, nullptr );
         s_pConfig = new Velquin::Pstn::XmlConfig();
@@ -32,7 +32,7 @@ ExitCode checkFile( const std::string& in_strFile, const CheckOptions& in_option
     }
     const bool bNotChecked = !bValid && ( printer.isUnreadable() || printer.concerns( in_options.strSchema ) );
     std::string strCounts;
-    if ( printer.getErrors() > 0 ) // a valid file has some when the gateway leaves out what it can't read
+    if ( printer.getErrors() > 0 ) // a valid file has errors when the gateway leaves out what it can't read
         strCounts = count( printer.getErrors(), "error" );
     if ( printer.getWarnings() > 0 )
         strCounts += ( strCounts.empty() ? "" : ", " ) + count( printer.getWarnings(), "warning" );

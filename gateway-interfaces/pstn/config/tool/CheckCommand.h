@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-/// What `pstnconfig check` is asked for.
+/// The options and arguments of `pstnconfig check`.
 struct CheckOptions {
     std::vector<std::string> vecFiles;
     std::string strSchema;
@@ -16,7 +16,7 @@ struct CheckOptions {
 enum ExitCode {
     EXIT_VALID = 0,
     EXIT_INVALID = 1,
-    EXIT_NOT_CHECKED = 2, ///< wrong usage, or a file or the schema can't be read
+    EXIT_NOT_CHECKED = 2, ///< the command line is wrong, or a file or the schema can't be read
 };
 
 /// Checks every file and yields the worst of their exit codes.

@@ -5,7 +5,7 @@ using Velquin::Logger;
 
 namespace {
 
-/// What the finding says, without the place where it was found.
+/// The message of the finding without its place.
 std::string describe( const Finding& in_finding ) {
     switch ( in_finding.eKind ) {
     case Finding::Kind::MISSING_ATTRIBUTE:

@@ -6,7 +6,7 @@
 
 #include <velquin/Finding.h>
 
-/// Prints findings one a line in the GNU form, `file:line: error: message [element path]`, and counts them.
+/// Prints each finding on a line in the GNU form, `file:line: error: message [element path]`, and counts them.
 class FindingPrinter {
 public:
     /// @param in_strFile the file that is meant when a finding names none
@@ -17,9 +17,9 @@ public:
 
     unsigned int getErrors() const { return m_uErrors; }
     unsigned int getWarnings() const { return m_uWarnings; }
-    /// Whether a file could not be read at all.
+    /// Whether there is a file that could not be read at all.
     bool isUnreadable() const { return m_bUnreadable; }
-    /// Whether a finding is about that file.
+    /// Whether there is a finding about that file.
     bool concerns( const std::string& in_strFile ) const { return m_setFiles.contains( in_strFile ); }
 
 private:

@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Where the running program stands: only the operating system knows when it was found along the search path.
+/// Path of the running program. Only the operating system knows it when the shell found the program in its search path.
 fs::path getProgramPath( const char* in_szProgram ) {
 #if defined( _WIN32 )
     wchar_t szPath[32768];

@@ -45,8 +45,8 @@ int run( int in_nArguments, char** in_aszArguments ) {
 } // namespace
 
 int main( int argc, char** argv ) {
-    // Were the buffer allocated at the first line of output, after a large document was freed, malloc would tidy up all
-    // of that first.
+    // Allocates the buffer now. At the first line of output, a large document would already be freed, and malloc would
+    // tidy up all its memory first.
     static char s_aBuffer[BUFSIZ];
     std::setvbuf( stdout, s_aBuffer, _IOFBF, sizeof( s_aBuffer ) );
     try {
