@@ -1,4 +1,4 @@
-# What every target of the project is built with.
+# Options of every target of the project.
 function(velquin_target target)
   set_target_properties(${target} PROPERTIES CXX_STANDARD 20 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
                                              CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
@@ -18,17 +18,17 @@ function(velquin_target target)
     target_link_options(${target} PRIVATE -fsanitize=${VELQUIN_SANITIZE})
   endif()
   if(VELQUIN_COVERAGE)
-    # Counts that threads lost would make others wrong, which are derived from them.
+    # If threads lose counts, the counts derived from them are wrong, too.
     target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
     target_link_options(${target} PRIVATE --coverage)
   endif()
 endfunction()
 
-# A shared library leaves no symbol open and calls its own functions directly, as a Windows DLL does: no program puts
-# others in their place. The sanitizers' runtimes come with the program.
+# As a Windows DLL does, a shared library leaves no symbol open and calls its own functions directly: no program can
+# replace them. The sanitizers' runtimes come with the program.
 function(velquin_shared_library target)
   velquin_target(${target})
-  # Installed, the libraries find each other where they stand together.
+  # Installed libraries find each other in their common folder.
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
                                              INSTALL_RPATH "$ORIGIN")
   if(UNIX AND NOT APPLE AND NOT VELQUIN_SANITIZE)
