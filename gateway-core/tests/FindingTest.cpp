@@ -60,7 +60,7 @@ TEST( Logger, NothingIsComposedBelowTheLevel ) {
         EXPECT_EQ( s_logger.getLogLevel(), nLevel );
         {
             VELQUIN_TRACE_SCOPE( s_logger, "Op" );
-            VELQUIN_LOG_INFO( s_logger, "in" << ( bComposed = true ) );
+            VELQUIN_LOG( s_logger, Logger::INFO_LEVEL, "in" << ( bComposed = true ) );
             s_logger.log( Logger::DEBUG_LEVEL, "debug", __FILE__, __LINE__ );
         }
         EXPECT_EQ( bComposed, nLevel == 0 );

@@ -51,7 +51,8 @@ private:
 /// look like several.
 VELQUIN_CORE_EXPORT void makePrintable( std::string& inout_strText ) noexcept;
 
-/// Composes a log record from literals, which may have line breaks, and from values, which are made printable.
+/// Composes a log record from literals, which may have line breaks, and from values, which are made printable. An array
+/// of characters counts as a literal: stream the text of a buffer as a std::string.
 class LogText {
 public:
     template <std::size_t N>
@@ -106,4 +107,3 @@ private:                                                                        
     } while ( false )
 
 #define VELQUIN_LOG_DEBUG( logger, streamed ) VELQUIN_LOG( logger, ::Velquin::Logger::DEBUG_LEVEL, streamed )
-#define VELQUIN_LOG_INFO( logger, streamed ) VELQUIN_LOG( logger, ::Velquin::Logger::INFO_LEVEL, streamed )

@@ -83,14 +83,18 @@ int LLVMFuzzerTestOneInput( const std::uint8_t* in_pData, std::size_t in_uSize )
     s_document.write( in_pData, in_uSize );
     const bool bBlanks = areBlanksPlain( in_pData, in_uSize );
 
+    std::size_t uBuilders = 0;
+    std::size_t uRead = 0;
     for ( const DocumentBuilder eBuilder : { DocumentBuilder::NATIVE, DocumentBuilder::BLOCKS } ) {
         if ( !setDocumentBuilder( eBuilder ) )
             continue;
+        ++uBuilders;
         const Fuzz::ErrorCount errors;
         const XmlDocumentPtr pDocument = readXmlDocument( s_document.getPath(), s_logger );
         Fuzz::require( !pDocument == ( errors.get() > 0 ), "a document is read when nothing is wrong with it" );
         if ( !pDocument )
             continue;
+        ++uRead;
         const XmlDocPtr pExpected(
             xmlReadFile( s_document.getPath(), nullptr,
                          XML_PARSE_NONET | XML_PARSE_NOBLANKS | XML_PARSE_NOERROR | XML_PARSE_NOWARNING ) );
@@ -103,5 +107,6 @@ int LLVMFuzzerTestOneInput( const std::uint8_t* in_pData, std::size_t in_uSize )
         Fuzz::require( Description( xmlDocGetRootElement( pCopy.get() ), bBlanks ).get() == strExpected,
                        "so does a copy" );
     }
+    Fuzz::require( uRead == 0 || uRead == uBuilders, "each builder reads what the other reads" );
     return 0;
 }

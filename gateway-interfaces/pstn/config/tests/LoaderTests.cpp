@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <fstream>
 
 #include <gmock/gmock.h>
@@ -60,6 +61,7 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
     const std::string strGrammar = "<grammar xmlns=\"http://relaxng.org/ns/structure/1.0\">\n";
     for ( const auto& [strContent, strCause] :
           { std::pair<std::string, std::string>( "<grammar", "{libxml2} in file {file} at line 1." ),
+            { "", "Can't read, No such file or directory in file {file}." },
             { "<other/>", "{libxml2} in file {file}." },
             { strGrammar + "<start><element name=\"a\"/></start></grammar>", "{libxml2} in file {file} at line 2." },
             { strGrammar + "<start><externalRef href=\"x.rng\"/></start></grammar>",
@@ -67,6 +69,8 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
             { strGrammar + "<include href=\"http://127.0.0.1/x.rng\"/></grammar>",
               "The schema must stand in one file: element include declared in file {file} at line 2." } } ) {
         const TemporaryFile schema( strContent );
+        if ( strContent.empty() )
+            std::filesystem::remove( schema.getPath() );
         XmlConfig config;
         testing::internal::CaptureStderr();
         const LoadResult result = load( config, DATA_FOLDER + std::string( "/complete.xml" ), schema.getPath() );
@@ -130,6 +134,7 @@ TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
     EXPECT_THAT( getAdvice( "<a kind='fox'/>" ), testing::HasSubstr( "Valid values are fax, call and text." ) );
     EXPECT_THAT( getAdvice( "<a page='1'/>" ), testing::HasSubstr( "Missing attribute [/a/kind]" ) );
     EXPECT_THAT( getAdvice( "<a kind='text' read='x'/>" ), testing::HasSubstr( "The value must be of type boolean." ) );
+    EXPECT_THAT( getAdvice( "<b/>" ), testing::HasSubstr( " at line 1." ) ); // none for a root that fits nothing
     EXPECT_THAT( getAdvice( "<a kind='call' number='12' more=''/>" ), testing::HasSubstr( "/a/more=]" ) );
 }
 

@@ -68,7 +68,7 @@ bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
         return false;
 
     const char* szInterfaceFailure = nullptr;
-    if ( reference.namesInterface() ) {
+    if ( reference.findInterfaceId() ) {
         if ( !reference.readInterface( false ) )
             return false;
         const TSHandle<AnalogInterfaceConfig>& hInterface = reference.getInterfaces().front();

@@ -4,7 +4,8 @@
 #include <libxml/xmlerror.h>
 #include <libxml/xmlversion.h>
 
-// What differs between the versions of libxml2, from 2.9.14 on.
+// What differs between the versions of libxml2, from 2.9.14 on. The libxml2 that runs is not older than that of the
+// build.
 
 namespace Velquin::Pstn {
 

@@ -97,7 +97,7 @@ xmlNode* getParentOfMissing( const xmlError& in_error ) {
     xmlNode* const pElement = getElement( in_error );
     if ( getUnexpectedChild( in_error ) ||
          ( pElement && in_error.domain == XML_FROM_RELAXNGV && in_error.code == XML_RELAXNG_ERR_ELEMWRONG ) )
-        return pElement->parent;
+        return pElement->parent->type == XML_ELEMENT_NODE ? pElement->parent : nullptr;
     return isAboutMissingChild( in_error ) || isAboutContent( in_error ) ? pElement : nullptr;
 }
 

@@ -58,6 +58,7 @@ void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xml
 XmlRelaxNGPtr compileSchema( const char* in_szSchemaFile, const Logger& in_logger, XmlDocumentPtr& out_pSchema ) {
     VELQUIN_LOG_DEBUG( in_logger, "Validating Relax-NG file (" << in_szSchemaFile << ")..." );
     VELQUIN_LOG_DEBUG( in_logger, "Creating RelaxNG parser context..." );
+    // The context is made from the document, whose faults are faults of compiling.
     VELQUIN_LOG_DEBUG( in_logger, "Compiling RelaxNG schema file " << in_szSchemaFile << "..." );
     LibXml2ErrorRoute errorRoute( in_logger, in_szSchemaFile );
     XmlRelaxNGPtr pSchema;

@@ -65,27 +65,36 @@ void refuse( ParseState& inout_state, std::string in_strWhy ) {
     inout_state.bRefused = inout_state.bEnded = true;
 }
 
-/// Runs the body of a callback, and ends the parse when the body says so. No exception passes through libxml2's C code.
+/// Runs a body below libxml2's C code, through which no exception passes.
+template <class Body>
+void guard( ParseState& inout_state, Body in_body ) noexcept {
+    try {
+        in_body( inout_state );
+    } catch ( ... ) {
+        inout_state.bRefused = inout_state.bEnded = true;
+        reportCurrentException( inout_state.logger, "readXmlDocument", __FILE__, __LINE__ );
+    }
+}
+
+/// Runs the body of a SAX callback, and ends the parse when the body says so.
 template <class Body>
 void runCallback( void* in_pContext, Body in_body ) noexcept {
     ParseState& state = ParseState::of( in_pContext );
-    try {
-        in_body( state );
-    } catch ( ... ) {
-        state.bRefused = state.bEnded = true;
-        reportCurrentException( state.logger, "readXmlDocument", __FILE__, __LINE__ );
-    }
+    guard( state, in_body );
     if ( state.bEnded )
         xmlStopParser( static_cast<xmlParserCtxt*>( in_pContext ) );
 }
 
 void onError( void* in_pContext, XmlErrorPtr in_pError ) {
-    if ( ParseState::of( in_pContext ).bEnded )
+    // Blocks gather no identifiers, and the schema decides what must be unique.
+    if ( ParseState::of( in_pContext ).bEnded || in_pError->code == XML_DTD_ID_REDEFINED )
         return;
     runCallback( in_pContext, [in_pError]( ParseState& inout_state ) {
+        // Later versions warn of an entity that isn't declared, and read a value without it.
+        const bool bError = in_pError->level >= XML_ERR_ERROR || in_pError->code == XML_WAR_UNDECLARED_ENTITY;
         // When a prefix has no namespace, or memory ends, libxml2 hands out what it has and calls it well-formed.
-        inout_state.bRefused = inout_state.bRefused || in_pError->level >= XML_ERR_ERROR;
-        const int nLevel = in_pError->level == XML_ERR_WARNING ? Logger::WARNING_LEVEL : Logger::ERROR_LEVEL;
+        inout_state.bRefused = inout_state.bRefused || bError;
+        const int nLevel = bError ? Logger::ERROR_LEVEL : Logger::WARNING_LEVEL;
         reportLibXml2Error( inout_state.logger, nLevel, *in_pError, inout_state.szPath, inout_state.uErrors );
     } );
 }
@@ -200,14 +209,8 @@ int readChunk( void* in_pState, char* out_pBuffer, int in_nSize ) {
     auto& state = *static_cast<ParseState*>( in_pState );
     // libxml2 asks for a few thousand bytes at a time, also amid a start tag.
     if ( const char* const szExcess =
-             findExcess( state, countAttributes( *state.pContext ), countNamespaces( *state.pContext ) ) ) {
-        try {
-            refuse( state, szExcess );
-        } catch ( ... ) {
-            state.bRefused = state.bEnded = true;
-            reportCurrentException( state.logger, "readXmlDocument", __FILE__, __LINE__ );
-        }
-    }
+             findExcess( state, countAttributes( *state.pContext ), countNamespaces( *state.pContext ) ) )
+        guard( state, [szExcess]( ParseState& inout_state ) { refuse( inout_state, szExcess ); } );
     if ( state.bEnded )
         return 0;
     state.stream.read( out_pBuffer, in_nSize );

@@ -31,9 +31,9 @@ public:
         return !m_hBoard.isNull();
     }
 
-    bool namesInterface() { return m_reader.findText( "interfaceID", m_interfaceId ); }
+    bool findInterfaceId() { return m_reader.findText( "interfaceID", m_interfaceId ); }
 
-    /// Finds the named interface on the board. Call it only after namesInterface() was true.
+    /// Finds the named interface on the board. Call it only after findInterfaceId() was true.
     /// @param in_bNameBoard whether the hint about an unknown interface ends with the board's identifier
     bool readInterface( bool in_bNameBoard = true ) {
         unsigned int uInterfaceId = 0;

@@ -17,7 +17,7 @@ bool resolveInterfaces( xmlNode* in_pEntry, const Config& in_config, const Logge
     const AttributeReader reader( in_pEntry, in_logger, PHYSICAL_SETTING_WORDING );
     InterfaceReference<TKind> reference( reader, in_logger, LEADING_DECIMAL );
     if ( !reference.readBoard( in_config ) ||
-         !( reference.namesInterface() ? reference.readInterface() : reference.takeAllInterfaces( TKind::NAME ) ) )
+         !( reference.findInterfaceId() ? reference.readInterface() : reference.takeAllInterfaces( TKind::NAME ) ) )
         return false;
     out_vecInterfaceConfig = reference.releaseInterfaces();
     return true;

@@ -49,7 +49,7 @@ public:
 
 private:
     bool addInterfaces( InterfaceReference<DigitalKind>& inout_reference ) const {
-        if ( inout_reference.namesInterface() ) {
+        if ( inout_reference.findInterfaceId() ) {
             if ( !inout_reference.readInterface() )
                 return false;
             const auto& hInterface = inout_reference.getInterfaces().front();

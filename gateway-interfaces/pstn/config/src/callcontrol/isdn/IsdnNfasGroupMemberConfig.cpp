@@ -9,6 +9,19 @@ PSTN_CONFIG_CLASS_IMPL( IsdnNfasGroupMemberConfig );
 
 std::atomic<unsigned long long> IsdnNfasGroupMemberConfig::s_ullIdChanges{ 0 };
 
+IsdnNfasGroupMemberConfig::IsdnNfasGroupMemberConfig( const IsdnNfasGroupMemberConfig& in_other ) noexcept
+    : Object( in_other ),
+      m_ullNfasInterfaceID( in_other.m_ullNfasInterfaceID ),
+      m_hInterfaceConfig( in_other.m_hInterfaceConfig ),
+      m_eDChannelMode( in_other.m_eDChannelMode ) {}
+
+IsdnNfasGroupMemberConfig& IsdnNfasGroupMemberConfig::operator=( const IsdnNfasGroupMemberConfig& in_other ) noexcept {
+    setNfasInterfaceID( in_other.m_ullNfasInterfaceID );
+    m_hInterfaceConfig = in_other.m_hInterfaceConfig;
+    m_eDChannelMode = in_other.m_eDChannelMode;
+    return *this;
+}
+
 void IsdnNfasGroupMemberConfig::setNfasInterfaceID( unsigned long long in_ullId ) noexcept {
     m_ullNfasInterfaceID = in_ullId;
     if ( m_bInGroup )

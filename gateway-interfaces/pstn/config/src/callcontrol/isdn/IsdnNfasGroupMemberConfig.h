@@ -21,6 +21,11 @@ public:
         BACKUP = 3,   ///< carries the standby D-channel
     };
 
+    IsdnNfasGroupMemberConfig() noexcept = default;
+    /// A copy belongs to no group. A member that is assigned to stays in its group.
+    IsdnNfasGroupMemberConfig( const IsdnNfasGroupMemberConfig& in_other ) noexcept;
+    IsdnNfasGroupMemberConfig& operator=( const IsdnNfasGroupMemberConfig& in_other ) noexcept;
+
     /// The number by which the signalling names the span, unique in the group.
     unsigned long long getNfasInterfaceID() const noexcept { return m_ullNfasInterfaceID; }
     void setNfasInterfaceID( unsigned long long in_ullId ) noexcept;

@@ -26,7 +26,7 @@ TSHandle<DigitalInterfaceConfig> readInterface( const ElementReader& in_reader, 
     InterfaceReference<DigitalKind> reference( in_reader, in_logger, WHOLE_DECIMAL );
     if ( !reference.readBoard( in_config ) )
         return {};
-    if ( !reference.namesInterface() ) {
+    if ( !reference.findInterfaceId() ) {
         VELQUIN_REPORT_ERROR( in_logger, "failed to retrieve digital interface ID= "
                                              << "interfaceID"
                                              << " of board ID= " << reference.getBoard()->getId() );
