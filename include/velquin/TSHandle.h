@@ -88,7 +88,7 @@ private:
     TSReferenceCount* m_pCount = nullptr;
 };
 
-/// The same object as a handle of a derived class; null when it is none of that class.
+/// The same object as a handle of a derived class; null when the object is of another class.
 template <class T, class U>
 TSHandle<T> dynamicHandleCast( const TSHandle<U>& in_hObject ) noexcept {
     return TSHandle<T>( in_hObject, dynamic_cast<T*>( in_hObject.get() ) );

@@ -31,7 +31,7 @@ public:
             ON_OUTBOUNDSIDE_CONNECTED = 1,
             ON_OUTBOUNDSIDE_MEDIA_AVAILABLE = 2,
         };
-        /// How the line tells who calls.
+        /// How the line names the caller.
         enum class CallerIdType { BT_BELLCORE_FSK_SDMF_MDMF = 0 };
 
         /// ON_FIRST_RING until set.

@@ -16,7 +16,7 @@ public:
     using FasConfigs = NumberedConfigs<IsdnFasConfig>;
     using NfasConfigs = NumberedConfigs<IsdnNfasConfig>;
 
-    // Refuse a group whose identifier is taken among the groups of its kind.
+    /// Refuses a group whose identifier is taken among the groups of its kind.
     bool addFasConfig( IsdnFasConfig* in_pFasConfig );
     bool addNfasConfig( IsdnNfasConfig* in_pNFasConfig );
 
