@@ -19,8 +19,7 @@
 #include "loading/ModelLocator.h"
 #include "loading/PSTNConfigParamDefs.h"
 #include "physical/InterfacePhysicalConfigXmlSerializer.h"
-#include "reading/ChildElements.h"
-#include "reading/ElementReader.h"
+#include "reading/ElementEntries.h"
 #include "reading/ElementWriter.h"
 
 namespace Velquin::Pstn {
@@ -105,16 +104,14 @@ bool XmlConfig::Impl::loadSection( const xmlNode* in_pRootNode, const char* in_s
     const xmlNode* const pSection = XML::findFirstElement( in_pRootNode, in_szSection );
     if ( !pSection )
         return true;
-    for ( xmlNode* const pEntry : ChildElements( pSection ) ) {
+    return readEntries( ChildElements( pSection ), [&]( xmlNode* in_pEntry ) {
         const ReaderWording wording{};
-        const ElementReader reader( pEntry, getLogger(), wording );
-        const Entry eEntry = in_readEntry( pEntry, reader.getName() );
+        const AttributeReader reader( in_pEntry, getLogger(), wording );
+        const Entry eEntry = in_readEntry( in_pEntry, reader.getName() );
         if ( eEntry == Entry::CONTAINS_ERRORS )
             reader.reportDeclared( in_szSubject + std::string( reader.getName() ), CONTAINS_ERRORS );
-        if ( eEntry != Entry::ATTACHED )
-            return false;
-    }
-    return true;
+        return eEntry == Entry::ATTACHED;
+    } );
 }
 
 bool XmlConfig::Impl::loadProvidersConfig( const xmlNode* in_pRootNode ) {
