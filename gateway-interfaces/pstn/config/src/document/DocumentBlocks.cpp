@@ -91,11 +91,12 @@ xmlNode* DocumentBlocks::addTextNode( xmlDoc* in_pDocument, std::string_view in_
 
 void DocumentBlocks::addNamespaces( const StartTag& in_tag ) {
     xmlNs** ppNamespace = &m_pOpen->nsDef;
+    const xmlChar* const* aszFields = in_tag.aszNamespaces;
     for ( int i = 0; i < in_tag.nNamespaces; ++i ) {
         auto* const pNamespace = add<xmlNs>();
         pNamespace->type = XML_LOCAL_NAMESPACE;
-        pNamespace->prefix = in_tag.aszNamespaces[2 * i];
-        pNamespace->href = in_tag.aszNamespaces[2 * i + 1];
+        pNamespace->prefix = *aszFields++;
+        pNamespace->href = *aszFields++;
         *ppNamespace = pNamespace;
         ppNamespace = &pNamespace->next;
     }
