@@ -2,43 +2,19 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cctype>
 #include <chrono>
-#include <cstdint>
-#include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <regex>
-#include <set>
-#include <sstream>
 
 #include <log4cplus/nullappender.h>
 
-#include <velquin/StringVector.h>
-
-#include "DocumentPath.h"
-#include "LogCapture.h"
-#include "ModelText.h"
 #include "document/DocumentBuilder.h"
 
 namespace Velquin::Pstn::Test {
 
-const char* const DATA_FOLDER = PSTN_TEST_DATA;
-const char* const EXAMPLES_FOLDER = PSTN_TEST_EXAMPLES;
-const char* const SCHEMA = PSTN_TEST_SCHEMA;
-const char* const ANY_SCHEMA = PSTN_TEST_DATA "/any.rng";
-
 namespace {
-
-std::size_t findOnce( const std::string& in_strText, const std::string& in_strPart ) {
-    const std::size_t uPosition = in_strText.find( in_strPart );
-    EXPECT_NE( uPosition, std::string::npos ) << "not in the document: " << in_strPart;
-    if ( uPosition != std::string::npos ) {
-        EXPECT_EQ( in_strText.find( in_strPart, uPosition + 1 ), std::string::npos ) << "twice: " << in_strPart;
-    }
-    return uPosition;
-}
 
 /// The log goes nowhere, except where a test captures it, and documents are built as the program's caller chooses.
 class Surroundings : public testing::Environment {
@@ -55,14 +31,53 @@ public:
 };
 const testing::Environment* const SURROUNDINGS = testing::AddGlobalTestEnvironment( new Surroundings() );
 
-std::map<std::string, std::vector<std::string>>& getRegisteredCases() {
-    static std::map<std::string, std::vector<std::string>> s_mapCases;
-    return s_mapCases;
+std::size_t findOnce( const std::string& in_strText, const std::string& in_strPart ) {
+    const std::size_t uPosition = in_strText.find( in_strPart );
+    EXPECT_NE( uPosition, std::string::npos ) << "not in the document: " << in_strPart;
+    EXPECT_EQ( in_strText.rfind( in_strPart ), uPosition ) << "twice: " << in_strPart;
+    return uPosition;
+}
+
+/// Where the start tag stands in the text, and how long it is.
+struct Tag {
+    std::size_t uBegin = 0;
+    std::size_t uLength = 0;
+};
+
+Tag findTag( const std::string& in_strText, const std::string& in_strPath ) {
+    static const std::regex s_step( R"(/([^/[]+)(?:\[(\d+)\])?)" );
+    Tag tag;
+    for ( std::sregex_iterator it( in_strPath.begin(), in_strPath.end(), s_step ), end; it != end; ++it ) {
+        const std::string strTag = "<" + ( *it )[1].str();
+        for ( int nLeft = ( *it )[2].matched ? std::stoi( ( *it )[2] ) : 1; nLeft > 0; --nLeft ) {
+            do
+                tag.uBegin = in_strText.find( strTag, tag.uBegin + 1 );
+            while ( tag.uBegin != std::string::npos && !std::strchr( " />", in_strText[tag.uBegin + strTag.size()] ) );
+        }
+        if ( tag.uBegin == std::string::npos ) {
+            ADD_FAILURE() << "not in the document: " << in_strPath;
+            return {};
+        }
+    }
+    tag.uLength = in_strText.find( '>', tag.uBegin ) + 1 - tag.uBegin;
+    return tag;
+}
+
+/// The element that begins with the tag; none of its name stands in it.
+std::string getElement( const std::string& in_strText, const Tag& in_tag ) {
+    const std::string strTag = in_strText.substr( in_tag.uBegin, in_tag.uLength );
+    if ( strTag.ends_with( "/>" ) )
+        return strTag;
+    const std::string strEnd = "</" + strTag.substr( 1, strTag.find_first_of( " >" ) - 1 ) + ">";
+    return in_strText.substr( in_tag.uBegin, in_strText.find( strEnd, in_tag.uBegin ) + strEnd.size() - in_tag.uBegin );
 }
 
 } // namespace
 
-TestDocument::TestDocument() : m_strText( readFile( std::string( DATA_FOLDER ) + "/complete.xml" ) ) {}
+TestDocument::TestDocument( const std::vector<Edit>& in_vecEdits ) : m_strText( readFile( COMPLETE ) ) {
+    for ( const Edit& one : in_vecEdits )
+        edit( one );
+}
 
 TestDocument& TestDocument::edit( const Edit& in_edit ) {
     if ( in_edit.strFrom.starts_with( '/' ) ) {
@@ -75,25 +90,18 @@ TestDocument& TestDocument::edit( const Edit& in_edit ) {
     return *this;
 }
 
-TestDocument& TestDocument::edit( const std::vector<Edit>& in_vecEdits ) {
-    for ( const Edit& one : in_vecEdits )
-        edit( one );
-    return *this;
-}
-
 void TestDocument::editElement( const Edit& in_edit ) {
-    const auto getElement = [this]( const Tag& in_tag ) {
-        return m_strText.substr( in_tag.uBegin, getElementLength( m_strText, in_tag ) );
-    };
     const Tag tag = findTag( m_strText, in_edit.strFrom );
-    const std::string strElement = getElement( tag );
+    const std::string strElement = getElement( m_strText, tag );
     const std::string strRest = in_edit.strTo.substr( 1 );
     std::string strNew = strElement;
     m_uLastEdit = tag.uBegin;
     if ( in_edit.strTo == "-" ) {
         strNew.clear();
-    } else if ( const char cKind = in_edit.strTo[0]; cKind == '+' || cKind == '*' ) {
-        strNew += cKind == '+' ? strRest : getElement( findTag( m_strText, strRest ) );
+    } else if ( const char cKind = in_edit.strTo[0]; cKind == '^' ) {
+        strNew = strRest + strElement;
+    } else if ( cKind == '+' || cKind == '*' ) {
+        strNew += cKind == '+' ? strRest : getElement( m_strText, findTag( m_strText, strRest ) );
         m_uLastEdit += strElement.size();
     } else if ( cKind == '<' ) {
         const std::string strName = strElement.substr( 1, strElement.find_first_of( " />" ) - 1 );
@@ -101,9 +109,14 @@ void TestDocument::editElement( const Edit& in_edit ) {
     } else {
         static const std::regex s_attribute( R"re((-?)([\w:]+)(?:="([^"]*)")?)re" );
         std::string strTag = strElement.substr( 0, tag.uLength );
-        for ( std::sregex_iterator it( in_edit.strTo.begin(), in_edit.strTo.end(), s_attribute ), end; it != end; ++it )
-            strTag = ( *it )[1].length() ? removeAttribute( strTag, ( *it )[2] )
-                                         : setAttribute( strTag, ( *it )[2], ( *it )[3] );
+        for ( std::sregex_iterator it( in_edit.strTo.begin(), in_edit.strTo.end(), s_attribute ), end; it != end;
+              ++it ) {
+            const std::string strName = " " + ( *it )[2].str() + "=\"";
+            strTag = std::regex_replace( strTag, std::regex( strName + "[^\"]*\"" ), "" );
+            if ( !( *it )[1].length() )
+                strTag.insert( strTag.size() - ( strTag.ends_with( "/>" ) ? 2 : 1 ),
+                               strName + ( *it )[3].str() + "\"" );
+        }
         strNew = strTag + strElement.substr( tag.uLength );
     }
     m_strText.replace( tag.uBegin, strElement.size(), strNew );
@@ -125,12 +138,10 @@ std::string TestDocument::expand( std::string in_strExpected, const std::string&
     std::smatch match;
     while ( std::regex_search( in_strExpected, match, s_regex ) ) {
         strResult += match.prefix();
-        if ( match[1] == "file" )
-            strResult += in_strFile;
-        else if ( match[1] == "schema" )
-            strResult += SCHEMA;
-        else
+        if ( match[1] == "line" )
             strResult += std::to_string( match[2].matched ? getLine( match[2] ) : getLineOfTag( m_uLastEdit ) );
+        else
+            strResult += match[1] == "file" ? in_strFile : SCHEMA;
         in_strExpected = match.suffix().str();
     }
     return strResult + in_strExpected;
@@ -153,29 +164,39 @@ TemporaryFile::~TemporaryFile() {
 }
 
 std::string readFile( const std::string& in_strPath ) {
-    std::ifstream stream( in_strPath, std::ios::binary );
     std::ostringstream text;
-    text << stream.rdbuf();
+    text << std::ifstream( in_strPath, std::ios::binary ).rdbuf();
     return text.str();
 }
 
-std::string toLine( int in_nLevel, const std::string& in_strLogger, const std::string& in_strText ) {
-    static const std::string s_strPrefix = "marovane.pstn.config.";
-    static const std::regex s_sourceLine( ", line [0-9]+$" );
-    std::string strLogger = in_strLogger;
-    if ( strLogger.starts_with( s_strPrefix ) )
-        strLogger.erase( 0, s_strPrefix.size() );
-    const bool bAssertion = in_strText.starts_with( "Assertion failed: " );
-    return std::string( in_nLevel >= Logger::ERROR_LEVEL ? "ERROR " : "WARN " ) + strLogger + ": " +
-           ( bAssertion ? std::regex_replace( in_strText, s_sourceLine, ", line N" ) : in_strText );
+std::vector<std::string> split( const std::string& in_strText, const std::string& in_strSeparator ) {
+    std::vector<std::string> vecParts;
+    std::size_t uBegin = 0;
+    for ( std::size_t uEnd; ( uEnd = in_strText.find( in_strSeparator, uBegin ) ) != std::string::npos; ) {
+        vecParts.push_back( in_strText.substr( uBegin, uEnd - uBegin ) );
+        uBegin = uEnd + in_strSeparator.size();
+    }
+    vecParts.push_back( in_strText.substr( uBegin ) );
+    return vecParts;
+}
+
+std::string join( const std::vector<std::string>& in_vecLines ) {
+    std::string strText;
+    for ( const std::string& strLine : in_vecLines )
+        strText.append( strLine ).append( "\n" );
+    return strText;
 }
 
 std::vector<std::string> captureLines( const std::function<void()>& in_function ) {
+    static const std::regex s_prefix( "^marovane\\.pstn\\.config\\." );
+    static const std::regex s_sourceLine( "^(Assertion failed: [^]*, line )[0-9]+$" );
     const Velquin::Test::LogCapture log( Logger::WARNING_LEVEL );
     in_function();
     std::vector<std::string> vecLines;
-    for ( const auto& record : log.getRecords( Logger::WARNING_LEVEL ) )
-        vecLines.push_back( toLine( record.nLevel, record.strLogger, record.strMessage ) );
+    for ( const auto& [nLevel, strLogger, strText] : log.getRecords( Logger::WARNING_LEVEL ) )
+        vecLines.push_back( ( nLevel >= Logger::ERROR_LEVEL ? "ERROR " : "WARN " ) +
+                            std::regex_replace( strLogger, s_prefix, "" ) + ": " +
+                            std::regex_replace( strText, s_sourceLine, "$1N" ) );
     return vecLines;
 }
 
@@ -186,49 +207,14 @@ LoadResult load( XmlConfig& out_config, const std::string& in_strFile, const std
     return result;
 }
 
-void loadValid( XmlConfig& out_config, const TestDocument& in_document, const std::string& in_strSchema ) {
-    const TemporaryFile file( in_document.getText() );
-    const LoadResult result = load( out_config, file.getPath(), in_strSchema );
-    EXPECT_TRUE( result.bValid );
-    EXPECT_EQ( join( result.vecLines ), "" );
+LoadResult loadText( XmlConfig& out_config, const std::string& in_strText, const std::string& in_strSchema ) {
+    return load( out_config, TemporaryFile( in_strText ).getPath(), in_strSchema );
 }
 
-std::vector<Record> readRecords( const std::string& in_strFile, const std::string& in_strMarks ) {
-    std::ifstream stream( DATA_FOLDER + ( "/" + in_strFile ) );
-    static const std::regex s_each( R"(\{each:([^}]*)\})" );
-    std::vector<Record> vecRecords;
-    char cLastMark = ' ';
-    for ( std::string strLine; std::getline( stream, strLine ); ) {
-        const char cMark = strLine.empty() ? '#' : strLine[0];
-        std::string strText = strLine.size() > 2 ? strLine.substr( 2 ) : "";
-        if ( std::isalpha( cMark ) ) {
-            strTokenize( strLine, vecRecords.emplace_back().vecWords, ' ' );
-        } else if ( cMark != '#' && ( vecRecords.empty() || in_strMarks.find( cMark ) == std::string::npos ) ) {
-            ADD_FAILURE() << in_strFile << ": what is this? " << strLine;
-        } else if ( cMark == '@' ) {
-            const std::size_t uBlank = strText.find( ' ' );
-            vecRecords.back().vecEdits.push_back( { strText.substr( 0, uBlank ), strText.substr( uBlank + 1 ) } );
-        } else if ( cMark == '-' && cLastMark != '-' ) {
-            vecRecords.back().vecEdits.push_back( { strText, "" } );
-        } else if ( cMark == '-' ) {
-            vecRecords.back().vecEdits.back().strFrom += "\n" + strText;
-        } else if ( cMark == '+' ) {
-            vecRecords.back().vecEdits.back().strTo += ( cLastMark == '+' ? "\n" : "" ) + strText;
-        } else if ( cMark != '#' ) {
-            if ( strText.ends_with( '$' ) )
-                strText.pop_back();
-            StringVector vecAlternatives{ "" };
-            std::smatch each;
-            if ( std::regex_search( strText, each, s_each ) )
-                strTokenize( each[1].str(), vecAlternatives, '|' );
-            for ( const std::string& strOne : vecAlternatives )
-                vecRecords.back().mapLines[cMark].push_back(
-                    each.empty() ? strText : each.prefix().str() + strOne + each.suffix().str() );
-        }
-        cLastMark = cMark;
-    }
-    EXPECT_FALSE( vecRecords.empty() ) << in_strFile;
-    return vecRecords;
+void loadValid( XmlConfig& out_config, const TestDocument& in_document, const std::string& in_strSchema ) {
+    const LoadResult result = loadText( out_config, in_document.getText(), in_strSchema );
+    EXPECT_TRUE( result.bValid );
+    EXPECT_EQ( join( result.vecLines ), "" );
 }
 
 namespace {
@@ -241,13 +227,58 @@ std::string replaceAll( std::string in_strText, const std::map<std::string, std:
     return in_strText;
 }
 
-using Chains = std::map<std::string, StringVector>;
+} // namespace
+
+std::vector<Record> readRecords( const std::string& in_strFile, const std::string& in_strMarks ) {
+    static const std::regex s_each( R"(\{each:([^}]*)\})" );
+    const std::regex nextMark( " (?=[" + in_strMarks + "]( |$))" );
+    static const std::regex s_nextRow( " (?=[!?:;] )" );
+    std::vector<Record> vecRecords;
+    for ( std::string strRest : split( readFile( DATA_FOLDER + "/" + in_strFile ), "\n" ) ) {
+        while ( !strRest.empty() && strRest[0] != '#' ) {
+            const char cMark = strRest[0];
+            std::string strText = std::exchange( strRest, "" );
+            const bool bRow = std::strchr( "!?:;", cMark );
+            if ( std::smatch end; ( bRow || std::isalpha( cMark ) || cMark == '@' || cMark == '<' ) &&
+                                  std::regex_search( strText, end, bRow ? s_nextRow : nextMark ) ) {
+                strRest = end.suffix();
+                strText = end.prefix();
+            }
+            if ( std::isalpha( cMark ) ) {
+                vecRecords.push_back( { strText, split( strText, " " ), {}, {} } );
+                continue;
+            }
+            EXPECT_NE( in_strMarks.find( cMark ), std::string::npos ) << in_strFile << ": what is this? " << strText;
+            strText.erase( 0, 2 );
+            if ( const std::size_t uBlank = strText.find( ' ' ); cMark == '@' ) {
+                vecRecords.back().vecEdits.push_back( { strText.substr( 0, uBlank ), strText.substr( uBlank + 1 ) } );
+                continue;
+            }
+            if ( strText.ends_with( '$' ) )
+                strText.pop_back();
+            std::smatch each;
+            const bool bEach = std::regex_search( strText, each, s_each );
+            for ( const std::string& strOne : split( bEach ? each[1].str() : "", "|" ) )
+                vecRecords.back().mapLines[cMark].push_back( bEach ? replaceAll( strText, { { each.str(), strOne } } )
+                                                                   : strText );
+        }
+    }
+    EXPECT_FALSE( vecRecords.empty() ) << in_strFile;
+    return vecRecords;
+}
+
+namespace {
+
+using Chains = std::map<std::string, std::vector<std::string>>;
+
+void append( std::vector<std::string>& inout_vecLines, const std::vector<std::string>& in_vecMore ) {
+    inout_vecLines.insert( inout_vecLines.end(), in_vecMore.begin(), in_vecMore.end() );
+}
 
 /// What the words behind the third say: the chain of lines, the schema.
-void addChain( const Record& in_record, const Chains& in_mapChains, LoadCase& inout_case ) {
+void addChain( const Record& in_record, const Chains& in_mapChains, Case& inout_case ) {
     for ( std::size_t u = 3; u < in_record.vecWords.size(); ++u ) {
-        const StringVector& vecLines = in_mapChains.at( in_record.vecWords[u] );
-        inout_case.vecLines.insert( inout_case.vecLines.end(), vecLines.begin(), vecLines.end() );
+        append( inout_case.vecLines, in_mapChains.at( in_record.vecWords[u] ) );
         if ( in_record.vecWords[u] == "schema" )
             inout_case.strSchema = SCHEMA;
     }
@@ -255,31 +286,33 @@ void addChain( const Record& in_record, const Chains& in_mapChains, LoadCase& in
 
 /// The cases of an element: what is missing, wrong, or read.
 /// @param in_record "element NAME PATH [CHAIN]"
-void addRows( Record& in_record, Record& in_texts, const Chains& in_mapChains, std::vector<LoadCase>& out_vecCases ) {
-    static const std::regex s_row( R"(([\w< ]+?)(?: = (.*?)(?: \| (.*?)(?: \| (.*))?)?)?)" );
+void addRows( Record& in_record, Record& in_texts, const Chains& in_mapChains, std::vector<Case>& out_vecCases ) {
     const std::string strPath = in_record.vecWords[2];
     const std::string strLast = strPath.substr( strPath.rfind( '/' ) + 1 );
-    const std::string strElement = strLast.substr( 0, strLast.find( '[' ) );
     std::map<std::string, unsigned int> mapNames;
-    const auto add = [&]( const std::string& in_strName, const Edit& in_edit, bool in_bValid ) -> LoadCase& {
-        LoadCase& one = out_vecCases.emplace_back();
+    const auto add = [&]( const std::string& in_strName, const Edit& in_edit ) -> Case& {
         const unsigned int uSame = ++mapNames[in_strName];
+        Case& one = out_vecCases.emplace_back();
         one.strName = in_record.vecWords[1] + in_strName + ( uSame > 1 ? std::to_string( uSame ) : "" );
         one.vecEdits = in_record.vecEdits;
         one.vecEdits.push_back( in_edit );
-        one.bValid = in_bValid;
         return one;
     };
     const auto addRefusal = [&]( std::string in_strWhat, const char* in_szHow, const Edit& in_edit, char in_cText,
-                                 const std::vector<std::string>& in_vecRow ) {
+                                 const std::string& in_strValue, const std::vector<std::string>& in_vecRow ) {
         const std::map<std::string, std::string> mapReplacements{
-            { "{attribute}", in_strWhat }, { "{hint}", in_vecRow[3] }, { "{line}", "{line:" + strPath + "}" },
-            { "{name}", strElement },      { "{path}", strPath },      { "{value}", in_vecRow[2] } };
+            { "{attribute}", in_strWhat },
+            { "{hint}", in_vecRow[1] },
+            { "{line}", "{line:" + strPath + "}" },
+            { "{name}", strLast.substr( 0, strLast.find( '[' ) ) },
+            { "{path}", strPath },
+            { "{value}", in_strValue } };
         in_strWhat[0] = static_cast<char>( std::toupper( in_strWhat[0] ) );
-        LoadCase& one = add( in_strWhat + in_szHow, in_edit, !in_texts.mapLines['='].empty() );
+        Case& one = add( in_strWhat + in_szHow, in_edit );
         one.vecChanges = in_texts.mapLines['='];
-        if ( !in_vecRow[4].empty() )
-            one.vecLines.push_back( in_vecRow[4] );
+        one.bValid = !one.vecChanges.empty();
+        if ( !in_vecRow[2].empty() )
+            one.vecLines.push_back( in_vecRow[2] );
         EXPECT_FALSE( in_texts.mapLines[in_cText].empty() ) << one.strName;
         for ( const std::string& strText : in_texts.mapLines[in_cText] )
             one.vecLines.push_back( replaceAll( strText, mapReplacements ) );
@@ -287,50 +320,71 @@ void addRows( Record& in_record, Record& in_texts, const Chains& in_mapChains, s
     };
     for ( const char cMark : { '!', '?', ':', ';' } ) {
         for ( const std::string& strRow : in_record.mapLines[cMark] ) {
-            std::smatch row;
-            EXPECT_TRUE( std::regex_match( strRow, row, s_row ) ) << strRow;
-            StringVector vecAttributes;
-            strTokenize( row[1].str(), vecAttributes, ' ' );
-            for ( std::string& strWhat : vecAttributes ) {
+            std::vector<std::string> vecRow = split( strRow, " | " );
+            vecRow.resize( 3 );
+            const std::size_t uValue = vecRow[0].find( " = " );
+            for ( std::string& strWhat : split( vecRow[0].substr( 0, uValue ), " " ) ) {
                 const bool bElement = strWhat.starts_with( '<' );
                 strWhat.erase( 0, bElement ? 1 : 0 );
                 const Edit removal = bElement ? Edit{ strPath + "/" + strWhat, "-" } : Edit{ strPath, "-" + strWhat };
                 if ( cMark == '!' || cMark == ':' )
-                    addRefusal( strWhat, "Missing", removal, '!', std::vector<std::string>( 5 ) );
-                if ( row[2].matched )
-                    addRefusal( strWhat, "Wrong", { strPath, strWhat + "=\"" + row[2].str() + "\"" },
-                                cMark == '!' || cMark == '?' ? '?' : ';', { row.begin(), row.end() } );
+                    addRefusal( strWhat, "Missing", removal, '!', "", { "", "", "" } );
+                if ( uValue == std::string::npos )
+                    continue;
+                const std::string strValue = vecRow[0].substr( uValue + 3 );
+                addRefusal( strWhat, "Wrong", { strPath, strWhat + "=\"" + strValue + "\"" },
+                            cMark == '!' || cMark == '?' ? '?' : ';', strValue, vecRow );
             }
         }
     }
     for ( const std::string& strRow : in_record.mapLines['='] ) {
-        StringVector vecParts;
-        strTokenize( replaceAll( strRow, { { " | ", "\n" } } ), vecParts, '\n' );
-        LoadCase& one = add( "IsRead", { strPath, vecParts[0] }, true );
+        std::vector<std::string> vecParts = split( strRow, " | " );
+        Case& one = add( "IsRead", { strPath, vecParts[0] } );
         one.vecChanges.assign( vecParts.begin() + 1, vecParts.end() );
+        one.bValid = true;
+    }
+}
+
+/// Of a reader's lines, "texts READER|MISSING|WRONG|", those that it doesn't have of its own.
+void shape( Record& inout_texts, const Record& in_shape ) {
+    const std::vector<std::string> vecParts = split( inout_texts.strHead.substr( 5 ), "|" );
+    if ( vecParts.size() < 3 )
+        return;
+    for ( const auto& [cMark, vecLines] : in_shape.mapLines ) {
+        if ( inout_texts.mapLines[cMark].empty() )
+            inout_texts.mapLines[cMark] = {
+                replaceAll( vecLines[0], { { "{reader}", vecParts[0].substr( 1 ) },
+                                           { "{missing}", vecParts[1] },
+                                           { "{wrong}", vecParts[vecParts.size() - 2] } } ) };
     }
 }
 
 } // namespace
 
-std::vector<LoadCase> readCases( const std::string& in_strFile ) {
-    std::vector<LoadCase> vecCases;
+std::vector<Case> readCases( const std::string& in_strFile ) {
+    std::vector<Case> vecCases;
     Chains mapChains{ { "schema", {} } };
-    Record texts;
-    for ( Record& record : readRecords( "cases/" + in_strFile, "@-+>=!?:;" ) ) {
-        const StringVector& vecWords = record.vecWords;
-        if ( vecWords[0] == "texts" ) {
-            texts = record;
-        } else if ( vecWords[0] == "element" ) {
-            addRows( record, texts, mapChains, vecCases );
-        } else if ( vecWords[0] == "chain" ) {
-            StringVector& vecLines = mapChains[vecWords[1]] = record.mapLines['>'];
-            if ( vecWords.size() > 2 )
-                vecLines.insert( vecLines.end(), mapChains[vecWords[2]].begin(), mapChains[vecWords[2]].end() );
-        } else {
-            vecCases.push_back(
-                { vecWords[1], record.vecEdits, vecWords[2] == "valid", record.mapLines['>'], record.mapLines['='] } );
-            addChain( record, mapChains, vecCases.back() );
+    Record shapes, texts;
+    for ( const std::string& strFile : { std::string( "common" ), in_strFile } ) {
+        for ( Record& record : readRecords( "cases/" + strFile, "@>=!?:;" ) ) {
+            const std::vector<std::string>& vecWords = record.vecWords;
+            if ( vecWords[0] == "shape" ) {
+                shapes = record;
+            } else if ( vecWords[0] == "texts" ) {
+                shape( texts = record, shapes );
+            } else if ( vecWords[0] == "element" ) {
+                addRows( record, texts, mapChains, vecCases );
+            } else if ( vecWords[0] == "chain" ) {
+                mapChains[vecWords[1]] = record.mapLines['>'];
+                if ( vecWords.size() > 2 )
+                    append( mapChains[vecWords[1]], mapChains.at( vecWords[2] ) );
+            } else {
+                Case& one = vecCases.emplace_back(
+                    Case{ vecWords[1], {}, record.mapLines['>'], record.vecEdits, vecWords[2] == "valid" } );
+                for ( const std::string& strLine : record.mapLines['='] )
+                    append( one.vecChanges, split( strLine, " | " ) );
+                addChain( record, mapChains, one );
+            }
         }
     }
     return vecCases;
@@ -343,21 +397,20 @@ std::string getKey( const std::string& in_strLine ) {
     return in_strLine.substr( 0, in_strLine.find( " = " ) );
 }
 
-/// The lines of the values of others, of which each may tell several of one object: "WHERE A = 1; B = 2".
-StringVector splitValues( const StringVector& in_vecLines ) {
-    StringVector vecLines;
+/// The lines of the values of others, of which each may tell several of one object: "WHERE A = 1; B = 2", with a colon
+/// behind WHERE when A is more than a word.
+std::vector<std::string> splitValues( const std::vector<std::string>& in_vecLines ) {
+    std::vector<std::string> vecLines;
     for ( const std::string& strLine : in_vecLines ) {
-        const std::string strWhere = strLine.substr( 0, strLine.rfind( ' ', strLine.find( " = " ) - 1 ) );
-        StringVector vecValues;
-        strTokenize( strLine.substr( strWhere.size() ), vecValues, ';' );
-        for ( const std::string& strValue : vecValues )
-            vecLines.push_back( strWhere + strValue );
+        const std::size_t uWhere = std::min( strLine.find( ':' ), strLine.rfind( ' ', strLine.find( " = " ) - 1 ) );
+        for ( const std::string& strValue : split( strLine.substr( uWhere + ( strLine[uWhere] == ':' ) ), ";" ) )
+            vecLines.push_back( strLine.substr( 0, uWhere ) + strValue );
     }
     return vecLines;
 }
 
 /// The lines of each key.
-std::map<std::string, std::string> groupLines( const StringVector& in_vecLines ) {
+std::map<std::string, std::string> groupLines( const std::vector<std::string>& in_vecLines ) {
     std::map<std::string, std::string> mapLines;
     for ( const std::string& strLine : in_vecLines )
         mapLines[getKey( strLine )] += strLine + "\n";
@@ -368,12 +421,11 @@ std::map<std::string, std::string> groupLines( const StringVector& in_vecLines )
 /// " with the lines whose key is gone, unless "none" of what holds them says it for all. When nothing differs so, the
 /// order of all lines counts, too.
 std::string getChanges( const XmlConfig& in_config ) {
-    StringVector vecOld, vecNew;
-    strTokenize( readFile( DATA_FOLDER + std::string( "/complete.model" ) ), vecOld, '\n' );
+    std::vector<std::string> vecOld = split( readFile( DATA_FOLDER + "/complete.model" ), "\n" );
+    std::vector<std::string> vecNew = split( describeModel( in_config ), "\n" );
     vecOld.pop_back();
-    vecOld = splitValues( vecOld );
-    strTokenize( describeModel( in_config ), vecNew, '\n' );
     vecNew.pop_back();
+    vecOld = splitValues( vecOld );
     auto mapOld = groupLines( vecOld );
     const auto mapNew = groupLines( vecNew );
     std::set<std::string> setTold;
@@ -396,10 +448,19 @@ std::string getChanges( const XmlConfig& in_config ) {
     return strChanges;
 }
 
+std::map<std::string, std::vector<std::string>>& getRegisteredCases() {
+    static std::map<std::string, std::vector<std::string>> s_mapCases;
+    return s_mapCases;
+}
+
 } // namespace
 
-void check( const LoadCase& in_case ) {
-    const TestDocument document = TestDocument().edit( in_case.vecEdits );
+void CaseTest::check( const Case& in_case ) {
+    if ( in_case.call ) {
+        EXPECT_EQ( join( captureLines( in_case.call ) ), join( in_case.vecLines ) );
+        return;
+    }
+    const TestDocument document( in_case.vecEdits );
     const TemporaryFile file( document.getText() );
     std::vector<std::string> vecExpected;
     for ( const std::string& strLine : in_case.vecLines )
@@ -417,64 +478,48 @@ void check( const LoadCase& in_case ) {
 void takeWordsOfLibXml2( std::vector<std::string>& inout_vecExpected, const std::vector<std::string>& in_vecLines ) {
     static const std::string s_strWords = "{libxml2}";
     for ( std::size_t u = 0; u < inout_vecExpected.size(); ++u ) {
-        const std::string strExpected = inout_vecExpected[u];
-        const std::size_t uWords = strExpected.find( s_strWords );
-        if ( uWords == std::string::npos )
-            continue;
+        const std::vector<std::string> vecParts = split( inout_vecExpected[u], s_strWords );
         std::vector<std::string> vecSaid;
-        for ( std::size_t uLine = u; uLine < in_vecLines.size(); ++uLine ) {
+        for ( std::size_t uLine = u; vecParts.size() > 1 && uLine < in_vecLines.size(); ++uLine ) {
             const std::string& strLine = in_vecLines[uLine];
-            if ( strLine.size() + s_strWords.size() <= strExpected.size() ||
-                 !strLine.starts_with( strExpected.substr( 0, uWords ) ) ||
-                 !strLine.ends_with( strExpected.substr( uWords + s_strWords.size() ) ) )
+            if ( strLine.size() <= vecParts[0].size() + vecParts[1].size() || !strLine.starts_with( vecParts[0] ) ||
+                 !strLine.ends_with( vecParts[1] ) )
                 break;
             vecSaid.push_back( strLine );
         }
         if ( vecSaid.empty() )
             continue;
-        inout_vecExpected.erase( inout_vecExpected.begin() + static_cast<std::ptrdiff_t>( u ) );
-        inout_vecExpected.insert( inout_vecExpected.begin() + static_cast<std::ptrdiff_t>( u ), vecSaid.begin(),
-                                  vecSaid.end() );
+        const auto itNext = inout_vecExpected.erase( inout_vecExpected.begin() + static_cast<std::ptrdiff_t>( u ) );
+        inout_vecExpected.insert( itNext, vecSaid.begin(), vecSaid.end() );
         u += vecSaid.size() - 1;
     }
 }
 
-void check( const CallCase& in_case ) {
-    EXPECT_EQ( join( captureLines( in_case.call ) ), join( in_case.vecLines ) );
-}
-
-std::string assertion( const std::string& in_strExpression, const std::string& in_strFile ) {
-    return "ERROR marovane.core.Assertion: Assertion failed: " + in_strExpression + ", file " + in_strFile + ", line N";
-}
-
 std::vector<std::string> assertions( const std::string& in_strAll ) {
-    static const std::regex s_part( R"((?:(\w+): )?([^,;]+)(?:[,;] |$))" );
     std::vector<std::string> vecLines;
-    std::string strFile;
-    for ( std::sregex_iterator it( in_strAll.begin(), in_strAll.end(), s_part ), end; it != end; ++it ) {
-        strFile = ( *it )[1].matched ? ( *it )[1].str() : strFile;
-        vecLines.push_back( assertion( ( *it )[2], strFile ) );
+    for ( const std::string& strPart : split( in_strAll, "; " ) ) {
+        const std::size_t uFile = strPart.find( ": " );
+        for ( const std::string& strExpression : split( strPart.substr( uFile + 2 ), ", " ) )
+            vecLines.push_back( "ERROR marovane.core.Assertion: Assertion failed: " + strExpression + ", file " +
+                                strPart.substr( 0, uFile ) + ", line N" );
     }
     return vecLines;
 }
 
-std::string join( const std::vector<std::string>& in_vecLines ) {
-    std::string strText;
-    for ( const std::string& strLine : in_vecLines )
-        strText.append( strLine ).append( "\n" );
-    return strText;
+std::vector<std::string> notImplemented( const std::vector<std::string>& in_vecClasses ) {
+    std::vector<std::string> vecLines;
+    for ( const std::string& strClass : in_vecClasses )
+        vecLines.push_back( "ERROR " + strClass + ": Not implemented : " + strClass + "::write" );
+    return vecLines;
 }
 
-template <class TCase>
-std::vector<TCase> registerCases( std::vector<TCase> in_vecCases ) {
-    for ( const TCase& one : in_vecCases ) {
+std::vector<Case> registerCases( std::vector<Case> in_vecCases ) {
+    for ( const Case& one : in_vecCases ) {
         if ( !getRegisteredCases().try_emplace( one.strName, one.vecLines ).second )
             ADD_FAILURE() << "two cases are called " << one.strName;
     }
     return in_vecCases;
 }
-template std::vector<LoadCase> registerCases( std::vector<LoadCase> );
-template std::vector<CallCase> registerCases( std::vector<CallCase> );
 
 std::string getLinesOfCases() {
     std::string strLines;

@@ -1,16 +1,5 @@
-#include "LogCapture.h"
-#include "ReaderTest.h"
-#include "callcontrol/CallControlConfig.h"
-#include "hardware/TirvanaAnalogBoardConfig.h"
-#include "hardware/TirvanaAnalogBoardConfigXmlSerializer.h"
-#include "hardware/TirvanaAnalogInterfaceConfig.h"
-#include "hardware/TirvanaDigitalBoardConfig.h"
-#include "hardware/TirvanaDigitalBoardConfigXmlSerializer.h"
-#include "hardware/TirvanaDigitalVirtualBoardConfig.h"
-#include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
-#include "hardware/TirvanaDigitalVirtualInterfaceConfig.h"
-#include "hardware/TirvanaProviderConfig.h"
-#include "hardware/TirvanaThreadGroupConfigXmlSerializer.h"
+#include "ConfigTest.h"
+#include "Serializers.h"
 
 // Providers, boards, interfaces: what their readers and containers refuse, and what they keep.
 
@@ -18,16 +7,12 @@ namespace Velquin::Pstn::Test {
 
 namespace {
 
-/// Identifiers of what a map or a vector of handles holds, in its order.
+/// Identifiers of what a vector of handles holds, in its order.
 template <class TContainer>
 std::string getIds( const TContainer& in_container ) {
     std::string strIds;
-    for ( const auto& one : in_container ) {
-        if constexpr ( requires { one.second; } )
-            strIds += std::to_string( one.second->getId() ) + " ";
-        else
-            strIds += std::to_string( one->getId() ) + " ";
-    }
+    for ( const auto& one : in_container )
+        strIds += std::to_string( one->getId() ) + " ";
     return strIds;
 }
 
@@ -41,34 +26,27 @@ T* newNamed( unsigned int in_uId, const char* in_szName ) {
     return pNew;
 }
 
-/// Serializers that make objects of another class, or none.
-template <class TXmlSerializer, class TBoard>
-class WrongBoardXmlSerializer : public TXmlSerializer {
-    BoardConfig* newBoardConfig() override { return makeSome<BoardConfig, TBoard>(); }
-};
-template <class TXmlSerializer, class TInterface>
-class WrongInterfaceXmlSerializer : public TXmlSerializer {
-    InterfaceConfig* newInterfaceConfig() override { return makeSome<InterfaceConfig, TInterface>(); }
-};
-
-template <class TXmlSerializer, class TBoard>
-CallCase wrongBoard( const std::string& in_strExpression ) {
-    return misused<TXmlSerializer>( in_strExpression, [] {
-        XmlConfig config;
-        const Element element( R"(<board ID="1" displayName="B" model="" tirpipe="1"/>)" );
-        return !WrongBoardXmlSerializer<TXmlSerializer, TBoard>().read( element.get(), config );
-    } );
+/// Reads with a serializer that makes objects of another class, or none.
+template <class TXmlSerializer, class TMade>
+void readBoardOfOtherClass() {
+    struct Making : TXmlSerializer {
+        BoardConfig* newBoardConfig() override { return makeSome<TMade>(); }
+    };
+    XmlConfig config;
+    const Element element( R"(<board ID="1" displayName="B" model="" tirpipe="1"/>)" );
+    EXPECT_FALSE( Making().read( element.get(), config ) );
 }
-template <class TXmlSerializer, class TInterface>
-CallCase wrongInterface( const std::string& in_strExpression ) {
-    return misused<TXmlSerializer>( in_strExpression, [] {
-        XmlConfig config;
-        const Element element( R"(<interface ID="1" displayName="I" type="FXO"/>)" );
-        return !WrongInterfaceXmlSerializer<TXmlSerializer, TInterface>().read( element.get(), config, BoardConfig() );
-    } );
+template <class TXmlSerializer, class TMade>
+void readInterfaceOfOtherClass() {
+    struct Making : TXmlSerializer {
+        InterfaceConfig* newInterfaceConfig() override { return makeSome<TMade>(); }
+    };
+    XmlConfig config;
+    const Element element( R"(<interface ID="1" displayName="I" type="FXO"/>)" );
+    EXPECT_FALSE( Making().read( element.get(), config, BoardConfig() ) );
 }
 
-const std::vector<CallCase> CALLS{
+const std::vector<Case> CALLS{
     { "ConfigRefusesNull",
       [] {
           Config config;
@@ -94,7 +72,8 @@ const std::vector<CallCase> CALLS{
           EXPECT_FALSE( config.addBoardConfig( newNamed<TirvanaDigitalBoardConfig>( 1, "Second" ) ) );
           EXPECT_FALSE( config.addAnalogBoardConfig( newNamed<AnalogBoardConfig>( 1, "Second" ) ) );
           EXPECT_FALSE( config.addBoardConfig( newNamed<BoardConfig>( 5, "Odd" ) ) );
-          EXPECT_EQ( getIds( config.getDigitalBoardsConfig() ), "1 9 " );
+          EXPECT_EQ( config.getDigitalBoardsConfig().size(), 2U );
+          EXPECT_EQ( config.getDigitalBoardsConfig().rbegin()->first, 9U ) << "they ascend";
           EXPECT_STREQ( config.getDigitalBoardConfig( 1 )->getDisplayName(), "First" );
           EXPECT_STREQ( config.getAnalogBoardConfig( 1 )->getDisplayName(), "First" );
       },
@@ -151,31 +130,42 @@ const std::vector<CallCase> CALLS{
       },
       { "WARN DigitalInterfaceConfig: digital interface \"b1(Span board)di2(Trunk-A)\" has no physical "
         "configuration" } },
-    wrongBoard<BoardConfigXmlSerializer, void>( "!pBoardConfig.isNull()" ),
-    wrongInterface<InterfaceConfigXmlSerializer, void>( "!pInterfaceConfig.isNull()" ),
-    wrongBoard<AnalogBoardConfigXmlSerializer, DigitalBoardConfig>( "!pAnalogBoardConfig.isNull()" ),
-    wrongBoard<DigitalBoardConfigXmlSerializer, AnalogBoardConfig>( "!pDigitalBoardConfig.isNull()" ),
-    wrongBoard<TirvanaAnalogBoardConfigXmlSerializer, AnalogBoardConfig>( "!pTirvanaAnalogBoardConfig.isNull()" ),
-    wrongBoard<TirvanaDigitalBoardConfigXmlSerializer, DigitalBoardConfig>( "!pTirvanaDigitalBoardConfig.isNull()" ),
-    wrongBoard<TirvanaDigitalVirtualBoardConfigXmlSerializer, DigitalBoardConfig>( "!pVirtualBoardConfig.isNull()" ),
-    wrongInterface<DigitalInterfaceConfigXmlSerializer, AnalogInterfaceConfig>( "!pDigitalInterfaceConfig.isNull()" ),
-    wrongInterface<AnalogInterfaceConfigXmlSerializer, DigitalInterfaceConfig>( "!pAnalogInterfaceConfig.isNull()" ),
-    wrongInterface<TirvanaDigitalInterfaceConfigXmlSerializer, DigitalInterfaceConfig>(
-        "!pTirvanaDigitalInterfaceConfig.isNull()" ),
-    wrongInterface<TirvanaDigitalVirtualInterfaceConfigXmlSerializer, DigitalInterfaceConfig>(
-        "!pTirvanaDigitalVirtualInterfaceConfig.isNull()" ),
-    wrongInterface<TirvanaAnalogInterfaceConfigXmlSerializer, AnalogInterfaceConfig>(
-        "!pTirvanaAnalogInterfaceConfig.isNull()" ),
+    { "HardwareOfOtherClass",
+      [] {
+          readBoardOfOtherClass<BoardConfigXmlSerializer, void>();
+          readBoardOfOtherClass<AnalogBoardConfigXmlSerializer, DigitalBoardConfig>();
+          readBoardOfOtherClass<DigitalBoardConfigXmlSerializer, AnalogBoardConfig>();
+          readBoardOfOtherClass<TirvanaAnalogBoardConfigXmlSerializer, AnalogBoardConfig>();
+          readBoardOfOtherClass<TirvanaDigitalBoardConfigXmlSerializer, DigitalBoardConfig>();
+          readBoardOfOtherClass<TirvanaDigitalVirtualBoardConfigXmlSerializer, DigitalBoardConfig>();
+          readInterfaceOfOtherClass<InterfaceConfigXmlSerializer, void>();
+          readInterfaceOfOtherClass<DigitalInterfaceConfigXmlSerializer, AnalogInterfaceConfig>();
+          readInterfaceOfOtherClass<AnalogInterfaceConfigXmlSerializer, DigitalInterfaceConfig>();
+          readInterfaceOfOtherClass<TirvanaDigitalInterfaceConfigXmlSerializer, DigitalInterfaceConfig>();
+          readInterfaceOfOtherClass<TirvanaDigitalVirtualInterfaceConfigXmlSerializer, DigitalInterfaceConfig>();
+          readInterfaceOfOtherClass<TirvanaAnalogInterfaceConfigXmlSerializer, AnalogInterfaceConfig>();
+      },
+      assertions( "BoardConfigXmlSerializer: !pBoardConfig.isNull(); AnalogBoardConfigXmlSerializer: "
+                  "!pAnalogBoardConfig.isNull(); DigitalBoardConfigXmlSerializer: !pDigitalBoardConfig.isNull(); "
+                  "TirvanaAnalogBoardConfigXmlSerializer: !pTirvanaAnalogBoardConfig.isNull(); "
+                  "TirvanaDigitalBoardConfigXmlSerializer: !pTirvanaDigitalBoardConfig.isNull(); "
+                  "TirvanaDigitalVirtualBoardConfigXmlSerializer: !pVirtualBoardConfig.isNull(); "
+                  "InterfaceConfigXmlSerializer: !pInterfaceConfig.isNull(); DigitalInterfaceConfigXmlSerializer: "
+                  "!pDigitalInterfaceConfig.isNull(); AnalogInterfaceConfigXmlSerializer: "
+                  "!pAnalogInterfaceConfig.isNull(); TirvanaDigitalInterfaceConfigXmlSerializer: "
+                  "!pTirvanaDigitalInterfaceConfig.isNull(); TirvanaDigitalVirtualInterfaceConfigXmlSerializer: "
+                  "!pTirvanaDigitalVirtualInterfaceConfig.isNull(); TirvanaAnalogInterfaceConfigXmlSerializer: "
+                  "!pTirvanaAnalogInterfaceConfig.isNull()" ) },
 };
 
 } // namespace
 
-PSTN_LOAD_CASES( HardwareCases, readCases( "hardware.cases" ) );
-PSTN_CALL_CASES( HardwareCalls, CALLS );
+PSTN_CASES( HardwareCases, readCases( "hardware.cases" ) );
+PSTN_CASES( HardwareCalls, CALLS );
 
 TEST( Hardware, InterfacesComeOutInOrder ) {
     XmlConfig config;
-    loadValid( config, TestDocument() );
+    loadValid( config );
     const auto hBoard = config.getDigitalBoardConfig( 2 );
     std::vector<TSHandle<DigitalInterfaceConfig>> vecSpans;
     ASSERT_TRUE( hBoard->getDigitalInterfacesConfig( vecSpans ) );
@@ -195,13 +185,12 @@ TEST( Hardware, InterfacesComeOutInOrder ) {
 
 TEST( Hardware, ListsTheToneSetsOfAllInterfaces ) {
     XmlConfig config;
-    loadValid( config, TestDocument() );
+    loadValid( config );
     std::set<std::string> setToneSets{ "OTHER" };
     EXPECT_TRUE( config.getToneSets( setToneSets ) );
     EXPECT_EQ( setToneSets, ( std::set<std::string>{ "AMERICA", "ANALOG", "EUROPE", "OTHER" } ) );
     XmlConfig unapplied; // a load that ends in front of the physical configurations leaves the boards
-    const TemporaryFile file( TestDocument().edit( Edit{ " toneSetName=\"EUROPE\"", "" } ).getText() );
-    EXPECT_FALSE( load( unapplied, file.getPath() ).bValid );
+    EXPECT_FALSE( loadText( unapplied, TestDocument().edit( { "/audio", "-toneSetName" } ).getText() ).bValid );
     EXPECT_TRUE( unapplied.getToneSets( setToneSets ) );
 }
 

@@ -1,9 +1,7 @@
-#include <algorithm>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <regex>
-#include <sstream>
 
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -67,12 +65,8 @@ std::string generate( const HostileCase& in_case ) {
                 const std::string strText = expand( match[2] );
                 const unsigned long uTimes = std::stoul( match[1] );
                 for ( unsigned long u = 0; u < uTimes; ++u ) {
-                    for ( const char c : strText ) {
-                        if ( c == '#' )
-                            strAll += std::to_string( u );
-                        else
-                            strAll += c;
-                    }
+                    for ( const char c : strText )
+                        strAll += c == '#' ? std::to_string( u ) : std::string( 1, c );
                 }
             }
         }
@@ -127,11 +121,7 @@ TEST( HostileFiles, EndInClearLinesAndBoundedCost ) {
         const std::size_t uBytes = fs::file_size( file.getPath() );
         testing::internal::CaptureStderr();
         const Cost cost;
-        LoadResult result;
-        {
-            XmlConfig config;
-            result = load( config, file.getPath(), SCHEMA );
-        }
+        LoadResult result = load( *std::make_unique<XmlConfig>(), file.getPath(), SCHEMA );
         expectBounded( cost, uBytes, one.uMemory );
         EXPECT_EQ( result.bValid, one.vecLines.empty() );
         EXPECT_EQ( result.vecLines.empty(), one.vecLines.empty() );
@@ -147,7 +137,7 @@ TEST( HostileFiles, EndInClearLinesAndBoundedCost ) {
 
         const Cost costAsSchema;
         XmlConfig config;
-        result = load( config, std::string( DATA_FOLDER ) + "/complete.xml", file.getPath() );
+        result = load( config, COMPLETE, file.getPath() );
         expectBounded( costAsSchema, uBytes, 2 * one.uMemory ); // libxml2 compiles a copy
         EXPECT_FALSE( result.bValid );
         EXPECT_FALSE( result.vecLines.empty() );
@@ -156,10 +146,9 @@ TEST( HostileFiles, EndInClearLinesAndBoundedCost ) {
 }
 
 TEST( HostileFiles, TruncatedAnywhereAreRefusedWithALine ) {
-    std::ostringstream text;
-    text << std::ifstream( std::string( EXAMPLES_FOLDER ) + "/e1-trunks.xml" ).rdbuf();
-    const TemporaryFile file( text.str() );
-    for ( std::size_t uEnd = text.str().rfind( '>' ), u = uEnd + 2; u-- > 0; ) {
+    const std::string strText = readFile( EXAMPLES_FOLDER + "/e1-trunks.xml" );
+    const TemporaryFile file( strText );
+    for ( std::size_t uEnd = strText.rfind( '>' ), u = uEnd + 2; u-- > 0; ) {
         fs::resize_file( file.getPath(), u );
         XmlConfig config;
         const LoadResult result = load( config, file.getPath() );
@@ -203,7 +192,7 @@ TEST( HostileFiles, ThatAreNoRegularFilesAreNotOpened ) {
             std::string( "ERROR XmlConfig: Can't read, " ) + path.second + " in file " + strPath + ".";
         EXPECT_EQ( join( load( config, strPath, SCHEMA ).vecLines ),
                    join( { strCause, "ERROR XmlConfig: failed to parse XML file " + strPath } ) );
-        EXPECT_EQ( join( load( config, DATA_FOLDER + std::string( "/complete.xml" ), strPath ).vecLines ),
+        EXPECT_EQ( join( load( config, COMPLETE, strPath ).vecLines ),
                    join( { strCause, "ERROR XmlConfig: Failed to parse RelaxNG schema file " + strPath } ) );
         EXPECT_EQ( join( captureLines( [&] { config.load( strPath.c_str(), SCHEMA, true ); } ) ),
                    join( { "ERROR XmlConfig: failed to open PSTN configuration file: " + strPath } ) );

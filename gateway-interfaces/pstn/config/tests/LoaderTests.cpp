@@ -1,22 +1,10 @@
 #include <filesystem>
-#include <fstream>
 
-#include <gmock/gmock.h>
-#include <libxml/parser.h>
-#include <libxml/relaxng.h>
-
-#include <velquin/Finding.h>
-#include <velquin/GlobalConfig.h>
 #include <velquin/ParameterInfoDB.h>
 #include <velquin/UniqueObjPtr.h>
-#include <velquin/XML.h>
 
 #include "ConfigTest.h"
-#include "LogCapture.h"
-#include "hardware/BoardConfigXmlSerializer.h"
-#include "hardware/TirvanaDigitalVirtualBoardConfig.h"
-#include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
-#include "loading/PSTNConfigParamDefs.h"
+#include "Serializers.h"
 
 // The loader: what it does with files and schemas that are not what they should be, its lines, its sections, its
 // copies.
@@ -30,28 +18,22 @@ const std::string MINIMAL =
 
 } // namespace
 
-PSTN_LOAD_CASES( LoadingCases, readCases( "loading.cases" ) );
+PSTN_CASES( LoadingCases, readCases( "loading.cases" ) );
 
 TEST( Loader, TakesAbsentAndEmptySectionsAsEmpty ) {
     for ( const char* const szSections : { "", "<providers/><boards/><physicalInterfaceConfigs/>" } ) {
         XmlConfig config;
-        loadValid( config, TestDocument( "<pstnConfig version=\"2.3\">" + std::string( szSections ) +
-                                         "<callControl><channelGroups/></callControl></pstnConfig>" ) );
+        TestDocument document( MINIMAL );
+        loadValid( config, document.edit( { "2.3\">", "2.3\">" + std::string( szSections ) } ) );
         EXPECT_TRUE( config.getDigitalBoardsConfig().empty() );
         EXPECT_FALSE( config.getCallControlConfig().isNull() );
     }
 }
 
 TEST( Loader, FindsSectionsWhateverTheirOrder ) {
-    TestDocument document;
-    const std::string& strText = document.getText();
-    const std::size_t uBegin = strText.find( "  <providers>" );
-    const std::size_t uEnd = strText.find( "  <boards>" );
-    std::string strMoved = strText;
-    strMoved.erase( uBegin, uEnd - uBegin )
-        .insert( strMoved.find( "</pstnConfig>" ), strText.substr( uBegin, uEnd - uBegin ) );
     XmlConfig config;
-    loadValid( config, TestDocument( strMoved ), ANY_SCHEMA );
+    loadValid( config, TestDocument( std::vector<Edit>{ { "/callControl", "*/providers" }, { "/providers", "-" } } ),
+               ANY_SCHEMA );
     EXPECT_FALSE( config.getProviderConfig( "tirvana" ).isNull() );
 }
 
@@ -73,7 +55,7 @@ TEST( Loader, RefusesSchemasThatAreNone ) {
             std::filesystem::remove( schema.getPath() );
         XmlConfig config;
         testing::internal::CaptureStderr();
-        const LoadResult result = load( config, DATA_FOLDER + std::string( "/complete.xml" ), schema.getPath() );
+        const LoadResult result = load( config, COMPLETE, schema.getPath() );
         EXPECT_EQ( testing::internal::GetCapturedStderr(), "" );
         EXPECT_FALSE( result.bValid );
         std::vector<std::string> vecExpected{
@@ -123,7 +105,7 @@ TEST( Loader, AdvisesByTheSchemaThatItIsGiven ) {
         <value>maybe</value><data type="boolean"/></choice></attribute></group></choice></element></start></grammar>)" );
     const auto getAdvice = [&]( const char* in_szDocument ) {
         XmlConfig config;
-        const auto vecLines = load( config, TemporaryFile( in_szDocument ).getPath(), schema.getPath() ).vecLines;
+        const auto vecLines = loadText( config, in_szDocument, schema.getPath() ).vecLines;
         return vecLines.at( vecLines.size() - 2 ); // before the verdict
     };
     // What the other kind requires isn't missing.
@@ -163,8 +145,7 @@ TEST( Loader, TakesASchemaWithIdentifiers ) {
         <zeroOrMore><attribute><anyName><except><name>model</name></except></anyName></attribute></zeroOrMore>
         </interleave><zeroOrMore><choice><text/><ref name="any"/></choice></zeroOrMore></element></define></grammar>)" );
     XmlConfig config;
-    loadValid( config, TestDocument().edit( Edit{ "\"Phones\" model=\"TVA-4\"", "\"Phones\" model=\"TVA-5\"" } ),
-               schema.getPath() );
+    loadValid( config, TestDocument().edit( { "/tirvanaAnalogBoard[2]", "model=\"TVA-5\"" } ), schema.getPath() );
 }
 
 // ---- Lines
@@ -174,30 +155,22 @@ TEST( Loader, NamesTheTrueLineInLongFiles ) {
     // The tag goes over two lines: it is the second, where it ends, that counts.
     const Edit pad{ "<interface ID=\"2\" displayName=\"T1-B\"",
                     strPadding + "<interface ID=\"2\"\ndisplayName=\"T1-B\"" };
-    struct LineCase {
-        const char* szSchema;
-        std::vector<Edit> vecEdits;
-        const char* szTag;
-    };
-    for ( const LineCase& one : {
-              LineCase{ ANY_SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // a reader
-              LineCase{
-                  ANY_SCHEMA, { pad, { "File=\"YES\"", "File=\"yes\"" } }, "File=\"yes\"" }, // a keyword's assertion
-              LineCase{ SCHEMA, { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\"" } }, "displayName=\"T1-B\"" }, // validation
-              LineCase{ SCHEMA,
-                        { pad, { "T1-B\" tirpipe=\"3\"", "T1-B\" tirpipe=\"2\"" } },
-                        "displayName=\"T1-B\"" },                                     // cross-check
-              LineCase{ SCHEMA, { pad, { "</callControl>", "" } }, "</pstnConfig>" }, // parser
-          } ) {
-        const TestDocument document = TestDocument().edit( one.vecEdits );
+    const std::string strSpan = "displayName=\"T1-B\"";
+    for ( const auto& [strSchema, edit, strTag] : std::vector<std::tuple<std::string, Edit, std::string>>{
+              { ANY_SCHEMA, { "T1-B\" tirpipe=\"3\"", "T1-B\"" }, strSpan },           // a reader
+              { ANY_SCHEMA, { "File=\"YES\"", "File=\"yes\"" }, "File=\"yes\"" },      // a keyword's assertion
+              { SCHEMA, { "T1-B\" tirpipe=\"3\"", "T1-B\"" }, strSpan },               // validation
+              { SCHEMA, { "T1-B\" tirpipe=\"3\"", "T1-B\" tirpipe=\"2\"" }, strSpan }, // cross-check
+              { SCHEMA, { "</callControl>", "" }, "</pstnConfig>" } } ) {              // parser
+        const TestDocument document( std::vector<Edit>{ pad, edit } );
         const TemporaryFile file( document.getText() );
         std::vector<Finding> vecFindings;
         const FindingWatch watch( [&]( const Finding& in_finding ) { vecFindings.push_back( in_finding ); } );
         XmlConfig config;
-        EXPECT_FALSE( load( config, file.getPath(), one.szSchema ).bValid );
+        EXPECT_FALSE( load( config, file.getPath(), strSchema ).bValid );
         ASSERT_FALSE( vecFindings.empty() );
         EXPECT_EQ( vecFindings[0].strFile, file.getPath() );
-        EXPECT_EQ( vecFindings[0].ullLine, document.getLine( one.szTag ) ) << vecFindings[0].strText;
+        EXPECT_EQ( vecFindings[0].ullLine, document.getLine( strTag ) ) << vecFindings[0].strText;
         EXPECT_GT( vecFindings[0].ullLine, 200000U );
     }
 }
@@ -212,7 +185,7 @@ TEST( Loader, ReadsItsPathsFromParameters ) {
     };
     EXPECT_EQ( loadByParameters(), join( { "ERROR XmlConfig: Can't find global configuration parameter: "
                                            "marovane.pstn.config.file." } ) );
-    parameters.setString( "marovane.pstn.config.file", ( std::string( DATA_FOLDER ) + "/complete.xml" ).c_str() );
+    parameters.setString( "marovane.pstn.config.file", COMPLETE.c_str() );
     EXPECT_EQ( loadByParameters(), join( { "ERROR XmlConfig: Can't find global configuration parameter: "
                                            "marovane.pstn.config.schemaFile." } ) );
     parameters.setString( "marovane.pstn.config.schemaFile", SCHEMA );
@@ -258,7 +231,7 @@ TEST( Loader, LogsItsStepsAndTheContent ) {
 TEST( Loader, LogsNoContentBelowItsLevel ) {
     const Velquin::Test::LogCapture log( Logger::WARNING_LEVEL );
     XmlConfig config;
-    EXPECT_TRUE( config.load( ( std::string( DATA_FOLDER ) + "/complete.xml" ).c_str(), SCHEMA, true ) );
+    EXPECT_TRUE( config.load( COMPLETE.c_str(), SCHEMA, true ) );
     EXPECT_FALSE( config.load( nullptr, SCHEMA, false ) || config.load( SCHEMA, nullptr, false ) );
     EXPECT_EQ( log.getRecords().size(), 2U ) << "assertions about the file and the schema";
 }
@@ -271,8 +244,7 @@ TEST( Loader, LeavesTheProgramsLibxml2Alone ) {
     xmlSetStructuredErrorFunc( &nErrors, countErrors );
     XmlConfig config;
     for ( const std::string& strContent : { MINIMAL, std::string( "<a" ) } ) {
-        const TemporaryFile file( strContent );
-        load( config, file.getPath(), SCHEMA );
+        loadText( config, strContent, SCHEMA );
         EXPECT_EQ( xmlStructuredError, countErrors );
         EXPECT_EQ( xmlStructuredErrorContext, &nErrors );
         EXPECT_EQ( XML::getOpenCount(), 0U );
@@ -299,34 +271,24 @@ TEST( Loader, FillsTheCopyThatLoads ) {
 
 namespace {
 
-template <class TXmlSerializer>
-CallCase unknownKeyword( std::string in_strName, std::string in_strText,
-                         TXmlSerializer* ( XmlSerializerObjectFactory::*in_create )( const char* ) const ) {
-    return { std::move( in_strName ),
-             [in_create] {
-                 const XmlSerializerObjectFactory factory;
-                 EXPECT_EQ( ( factory.*in_create )( "hardware" ), nullptr );
-             },
-             { "ERROR XmlSerializerObjectFactory: " + in_strText + "hardware" } };
-}
-
-const std::vector<CallCase> FACTORY_CASES{
-    unknownKeyword( "EchoCancellationTypeUnknown", "unkown echo cancellation config type: ",
-                    &XmlSerializerObjectFactory::newEchoCancellationConfigXmlSerializer ),
-    unknownKeyword( "AcousticEchoCancellationTypeUnknown", "unkown acoustic echo cancellation config type: ",
-                    &XmlSerializerObjectFactory::newAcousticEchoCancellationConfigXmlSerializer ),
-    unknownKeyword( "LevelControlTypeUnknown", "unkown level control config type: ",
-                    &XmlSerializerObjectFactory::newLevelControlConfigXmlSerializer ),
-    unknownKeyword( "BackgroundNoiseAttenuationTypeUnknown", "unkown background noise attenuation config type: ",
-                    &XmlSerializerObjectFactory::newBackgroundNoiseAttenuationConfigXmlSerializer ),
-    unknownKeyword( "DtmfRemovalTypeUnknown", "unkown DTMF removal config type: ",
-                    &XmlSerializerObjectFactory::newDtmfRemovalConfigXmlSerializer ),
-    { "BoardClassUnknown",
+const std::vector<Case> FACTORY_CASES{
+    { "ClassesUnknown",
       [] {
+          const XmlSerializerObjectFactory factory;
           DigitalBoardConfig board;
-          EXPECT_EQ( XmlSerializerObjectFactory().newBoardConfigXmlSerializer( board ), nullptr );
+          EXPECT_FALSE( factory.newEchoCancellationConfigXmlSerializer( "hardware" ) ||
+                        factory.newAcousticEchoCancellationConfigXmlSerializer( "hardware" ) ||
+                        factory.newLevelControlConfigXmlSerializer( "hardware" ) ||
+                        factory.newBackgroundNoiseAttenuationConfigXmlSerializer( "hardware" ) ||
+                        factory.newDtmfRemovalConfigXmlSerializer( "hardware" ) ||
+                        factory.newBoardConfigXmlSerializer( board ) );
       },
-      { "ERROR XmlSerializerObjectFactory: unkown board config type: " } },
+      { "ERROR XmlSerializerObjectFactory: unkown echo cancellation config type: hardware",
+        "ERROR XmlSerializerObjectFactory: unkown acoustic echo cancellation config type: hardware",
+        "ERROR XmlSerializerObjectFactory: unkown level control config type: hardware",
+        "ERROR XmlSerializerObjectFactory: unkown background noise attenuation config type: hardware",
+        "ERROR XmlSerializerObjectFactory: unkown DTMF removal config type: hardware",
+        "ERROR XmlSerializerObjectFactory: unkown board config type: " } },
     { "VirtualBoardWritten",
       [] {
           TirvanaDigitalVirtualBoardConfig board;
@@ -334,12 +296,11 @@ const std::vector<CallCase> FACTORY_CASES{
           ASSERT_NE( dynamic_cast<TirvanaDigitalVirtualBoardConfigXmlSerializer*>( pXmlSerializer.get() ), nullptr );
           EXPECT_FALSE( pXmlSerializer->write( nullptr, board ) );
       },
-      { "ERROR TirvanaDigitalVirtualBoardConfigXmlSerializer: Not implemented : "
-        "TirvanaDigitalVirtualBoardConfigXmlSerializer::write" } },
+      notImplemented( { "TirvanaDigitalVirtualBoardConfigXmlSerializer" } ) },
 };
 
 } // namespace
 
-PSTN_CALL_CASES( FactoryCases, FACTORY_CASES );
+PSTN_CASES( FactoryCases, FACTORY_CASES );
 
 } // namespace Velquin::Pstn::Test

@@ -2,27 +2,9 @@
 
 #include <set>
 #include <sstream>
-#include <type_traits>
 
-#include "analog/AnalogFxoConfig.h"
-#include "analog/AnalogFxsConfig.h"
-#include "callcontrol/CallControlConfig.h"
-#include "callcontrol/isdn/IsdnFasConfig.h"
-#include "callcontrol/isdn/IsdnNfasConfig.h"
+#include "PstnConfig.h"
 #include "hardware/InterfaceKind.h"
-#include "hardware/TirvanaAnalogBoardConfig.h"
-#include "hardware/TirvanaDigitalBoardConfig.h"
-#include "hardware/TirvanaDigitalVirtualBoardConfig.h"
-#include "hardware/TirvanaDigitalVirtualInterfaceConfig.h"
-#include "hardware/TirvanaProviderConfig.h"
-#include "physical/TirvanaAnalogInterfacePhysicalConfig.h"
-#include "physical/TirvanaDigitalInterfacePhysicalConfig.h"
-#include "physical/audio/HardwareAcousticEchoCancellationConfig.h"
-#include "physical/audio/HardwareBackgroundNoiseAttenuationConfig.h"
-#include "physical/audio/HardwareDtmfRemovalConfig.h"
-#include "physical/audio/HardwareEchoCancellationConfig.h"
-#include "physical/audio/HardwareLevelControlConfig.h"
-#include "physical/audio/TirvanaAudioConfig.h"
 
 namespace Velquin::Pstn {
 

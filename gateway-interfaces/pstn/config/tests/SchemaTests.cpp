@@ -1,14 +1,6 @@
-#include <algorithm>
 #include <filesystem>
-#include <map>
-#include <set>
-
-#include <velquin/XML.h>
 
 #include "ConfigTest.h"
-#include "KeywordRows.h"
-#include "ModelText.h"
-#include "document/LibXml2.h"
 #include "reading/ChildElements.h"
 
 // The schema of the format: it agrees with the library's keywords and with the examples, and stops what the readers
@@ -104,8 +96,7 @@ TEST( Schema, ListsTheKeywordsOfTheTables ) {
 TEST( Schema, IsUsedUpByAnExampleAndTheCompleteDocument ) {
     const Format format( SCHEMA );
     EXPECT_GT( format.mapPaths.size(), 200U );
-    for ( const std::string& strFile :
-          { std::string( EXAMPLES_FOLDER ) + "/every-attribute.xml", std::string( DATA_FOLDER ) + "/complete.xml" } ) {
+    for ( const std::string& strFile : { EXAMPLES_FOLDER + "/every-attribute.xml", COMPLETE } ) {
         std::set<std::string> setUsed;
         addPaths( xmlDocGetRootElement( parse( strFile ).get() ), "", setUsed );
         for ( const auto& [pPattern, setPaths] : format.mapPaths ) {
@@ -134,14 +125,13 @@ void gatherAttributes( xmlNode* in_pElement, const std::string& in_strParent,
 // So is one here that no reader reads, or that the text of the model doesn't tell.
 TEST( Schema, HasNoAttributeThatTheModelDoesNotTell ) {
     const Format format( SCHEMA );
-    const XmlDocPtr pDocument = parse( std::string( DATA_FOLDER ) + "/complete.xml" );
+    const XmlDocPtr pDocument = parse( COMPLETE );
     const auto describe = [&pDocument]() -> std::string {
         xmlChar* pText = nullptr;
         int nLength = 0;
         xmlDocDumpMemory( pDocument.get(), &pText, &nLength );
-        const TemporaryFile file( fromXml( XmlStringPtr( pText ).get() ) );
         XmlConfig config;
-        return load( config, file.getPath() ).bValid ? describeModel( config ) : "";
+        return loadText( config, fromXml( XmlStringPtr( pText ).get() ) ).bValid ? describeModel( config ) : "";
     };
     const std::string strComplete = describe();
     std::map<std::string, std::vector<xmlAttr*>> mapAttributes;
@@ -194,10 +184,9 @@ void exchange( xmlNode* in_pFirst, xmlNode* in_pSecond ) {
 }
 
 TEST( Schema, TakesChildrenInAnyOrderThatMeansNothing ) {
-    const std::string strComplete = std::string( DATA_FOLDER ) + "/complete.xml";
     XmlConfig complete;
-    ASSERT_TRUE( load( complete, strComplete, SCHEMA ).bValid );
-    const XmlDocPtr pDocument = parse( strComplete );
+    ASSERT_TRUE( load( complete, COMPLETE, SCHEMA ).bValid );
+    const XmlDocPtr pDocument = parse( COMPLETE );
     std::vector<xmlNode*> vecElements{ xmlDocGetRootElement( pDocument.get() ) };
     std::set<std::string> setRefused; // of both orders of neighbours, the one that isn't the document's
     for ( std::size_t u = 0; u < vecElements.size(); ++u ) {
@@ -214,9 +203,8 @@ TEST( Schema, TakesChildrenInAnyOrderThatMeansNothing ) {
             xmlChar* pText = nullptr;
             xmlDocDumpMemory( pDocument.get(), &pText, nullptr );
             exchange( vecChildren[v], vecChildren[v - 1] );
-            const TemporaryFile file( fromXml( XmlStringPtr( pText ).get() ) );
             XmlConfig config;
-            if ( !load( config, file.getPath(), SCHEMA ).bValid )
+            if ( !loadText( config, fromXml( XmlStringPtr( pText ).get() ), SCHEMA ).bValid )
                 setRefused.insert( strSecond + " before " + strFirst );
             else
                 EXPECT_EQ( describeModel( config ), describeModel( complete ) ) << strSecond;
@@ -233,6 +221,6 @@ TEST( Schema, TakesChildrenInAnyOrderThatMeansNothing ) {
 
 // ---- What the schema stops
 
-PSTN_LOAD_CASES( SchemaCases, readCases( "schema.cases" ) );
+PSTN_CASES( SchemaCases, readCases( "schema.cases" ) );
 
 } // namespace Velquin::Pstn::Test

@@ -1,7 +1,3 @@
-#include <fstream>
-
-#include <velquin/StringVector.h>
-
 #include "ConfigTest.h"
 
 // Every text of the library is provoked by some case.
@@ -9,14 +5,10 @@
 namespace Velquin::Pstn::Test {
 
 TEST( Texts, AreProvokedByCases ) {
-    std::ifstream list( std::string( DATA_FOLDER ) + "/texts.txt" );
     const std::string strGiven = getLinesOfCases();
     std::size_t uTexts = 0;
-    for ( std::string strLine; std::getline( list, strLine ); ) {
-        if ( strLine.starts_with( '#' ) || strLine.empty() )
-            continue;
-        StringVector vecTexts;
-        strTokenize( strLine, vecTexts, '|' );
+    for ( const std::string& strLine : split( readFile( DATA_FOLDER + "/texts.txt" ), "\n" ) ) {
+        std::vector<std::string> vecTexts = split( strLine.starts_with( '#' ) ? "" : strLine, "|" );
         EXPECT_EQ( vecTexts.back(), "" ) << strLine;
         vecTexts.pop_back();
         for ( const std::string& strText : vecTexts )

@@ -1,5 +1,3 @@
-#include <cstdlib>
-
 #include "ConfigTest.h"
 
 // The program that operators run: what it prints and how it exits.
@@ -23,8 +21,6 @@ ToolResult runTool( const std::string& in_strArguments ) {
     return { nStatus > 255 ? nStatus / 256 : nStatus, readFile( output.getPath() ), readFile( errors.getPath() ) };
 }
 
-const std::string COMPLETE = std::string( DATA_FOLDER ) + "/complete.xml";
-
 } // namespace
 
 TEST( Tool, AcceptsAValidFileWithTheSchemaThatComesWithIt ) {
@@ -35,30 +31,34 @@ TEST( Tool, AcceptsAValidFileWithTheSchemaThatComesWithIt ) {
 }
 
 TEST( Tool, PrintsFindingsAndTheWorstExitCode ) {
-    const TestDocument document = TestDocument().edit(
-        std::vector<Edit>{ { "ID=\"2\" displayName=\"T1-B\"", "ID=\"2&#10;\" displayName=\"T1#B\"" } } );
+    const std::string strAnySchema = " --schema " + ANY_SCHEMA;
+    const TestDocument document =
+        TestDocument().edit( { "ID=\"2\" displayName=\"T1-B\"", "ID=\"2&#10;\" displayName=\"T1#B\"" } );
     const TemporaryFile wrong( document.getText() );
     const std::string strFile = wrong.getPath();
-    const std::string strAnySchema = " --schema " + std::string( ANY_SCHEMA );
     const ToolResult result = runTool( "check " + COMPLETE + " " + strFile + strAnySchema );
     EXPECT_EQ( result.nExitCode, 1 );
-    EXPECT_EQ( result.strOutput,
-               COMPLETE + ": valid\n" + strFile + ":19: error: invalid value \"T1#B\" of attribute \"displayName\": " +
-                   "Display name may contains spaces, '-', '_' and alpha numeric characters. "
-                   "[/pstnConfig/boards/tirvanaDigitalBoard[2]/interface[2]]\n" +
-                   strFile +
-                   ":17: error: Configuration of the board tirvanaDigitalBoard contains one ore more errors. " +
-                   "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n" + strFile + ": invalid (2 errors)\n" );
+    EXPECT_EQ(
+        result.strOutput,
+        COMPLETE + ": valid\n" +
+            document.expand( "{file}:{line}: error: invalid value \"T1#B\" of attribute \"displayName\": Display "
+                             "name may contains spaces, '-', '_' and alpha numeric characters. "
+                             "[/pstnConfig/boards/tirvanaDigitalBoard[2]/interface[2]]\n"
+                             "{file}:{line:/tirvanaDigitalBoard[2]}: error: Configuration of the board "
+                             "tirvanaDigitalBoard contains one ore more errors. "
+                             "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n{file}: invalid (2 errors)\n",
+                             strFile ) );
 
-    const auto printsFor = [&]( const std::string& in_strDocument, const std::string& in_strLine ) {
-        const TemporaryFile lacking( in_strDocument );
-        return runTool( "check " + lacking.getPath() + strAnySchema ).strOutput.find( in_strLine ) != std::string::npos;
+    const auto expectPrinted = [&]( const TestDocument& in_document, const std::string& in_strLine ) {
+        const TemporaryFile file( in_document.getText() );
+        EXPECT_THAT( runTool( "check " + file.getPath() + strAnySchema ).strOutput,
+                     testing::HasSubstr( in_document.expand( in_strLine, file.getPath() ) ) );
     };
-    EXPECT_TRUE( printsFor( "<pstnConfig>\n<boards><tirvanaDigitalBoard/></boards></pstnConfig>",
-                            ":2: error: missing attribute \"ID\" [/pstnConfig/boards/tirvanaDigitalBoard]\n" ) );
-    EXPECT_TRUE( printsFor( TestDocument().edit( Edit{ "<dial active", "<dialling active" } ).getText(),
-                            ":141: error: missing element \"dial\" "
-                            "[/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling]\n" ) );
+    expectPrinted( TestDocument( "<pstnConfig>\n<boards><tirvanaDigitalBoard/></boards></pstnConfig>" ),
+                   "{file}:2: error: missing attribute \"ID\" [/pstnConfig/boards/tirvanaDigitalBoard]\n" );
+    expectPrinted( TestDocument().edit( { "/dial", "<dialling" } ),
+                   "{file}:{line:/outboundCallHandling}: error: missing element \"dial\" "
+                   "[/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling]\n" );
 
     const ToolResult missing = runTool( "check /no/such/file.xml " + strFile + strAnySchema );
     EXPECT_EQ( missing.nExitCode, 2 );

@@ -1,0 +1,28 @@
+#pragma once
+
+// All serializers.
+
+#include "analog/AnalogCallControlConfigXmlSerializer.h"
+#include "analog/AnalogDisconnectSupervisionConfigXmlSerializer.h"
+#include "analog/AnalogFxoConfigXmlSerializer.h"
+#include "analog/AnalogFxsConfigXmlSerializer.h"
+#include "callcontrol/CallControlConfigXmlSerializer.h"
+#include "callcontrol/ChannelGroupConfigXmlSerializer.h"
+#include "callcontrol/isdn/IsdnConfigXmlSerializer.h"
+#include "callcontrol/isdn/IsdnFasConfigXmlSerializer.h"
+#include "callcontrol/isdn/IsdnNFasConfigXmlSerializer.h"
+#include "callcontrol/isdn/IsdnNfasGroupMemberConfigXmlSerializer.h"
+#include "hardware/TirvanaAnalogBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaDigitalBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaDigitalVirtualBoardConfigXmlSerializer.h"
+#include "hardware/TirvanaProviderConfigXmlSerializer.h"
+#include "hardware/TirvanaThreadGroupConfigXmlSerializer.h"
+#include "physical/DChannelConfigXmlSerializer.h"
+#include "physical/TirvanaAnalogInterfacePhysicalConfigXmlSerializer.h"
+#include "physical/TirvanaDigitalInterfacePhysicalConfigXmlSerializer.h"
+#include "physical/audio/HardwareAcousticEchoCancellationConfigXmlSerializer.h"
+#include "physical/audio/HardwareBackgroundNoiseAttenuationConfigXmlSerializer.h"
+#include "physical/audio/HardwareDtmfRemovalConfigXmlSerializer.h"
+#include "physical/audio/HardwareEchoCancellationConfigXmlSerializer.h"
+#include "physical/audio/HardwareLevelControlConfigXmlSerializer.h"
+#include "physical/audio/TirvanaAudioConfigXmlSerializer.h"
