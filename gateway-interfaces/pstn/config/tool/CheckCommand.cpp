@@ -1,17 +1,26 @@
-#include "CheckCommand.h"
-
 #include <algorithm>
 #include <iostream>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include <velquin/GlobalConfig.h>
 #include <velquin/pstn/loading/PSTNConfigParamDefs.h>
 #include <velquin/pstn/loading/XmlConfig.h>
 
+#include "Command.h"
 #include "FindingPrinter.h"
 #include "ToolLog.h"
 
 namespace {
+
+struct CheckOptions {
+    std::vector<std::string> vecFiles;
+    std::string strSchema;
+    std::string strParameters; ///< file of the gateway's parameters, or empty
+    std::string strLogLevel = "OFF";
+    bool bLogContent = false;
+};
 
 std::string count( unsigned int in_uCount, const char* in_szWhat ) {
     return std::to_string( in_uCount ) + " " + in_szWhat + ( in_uCount == 1 ? "" : "s" );
@@ -44,8 +53,7 @@ ExitCode checkFile( const std::string& in_strFile, const CheckOptions& in_option
     return bValid ? EXIT_VALID : bNotChecked ? EXIT_NOT_CHECKED : EXIT_INVALID;
 }
 
-} // namespace
-
+/// Checks every file and yields the worst of their exit codes.
 ExitCode check( const CheckOptions& in_options ) {
     setUpLog( in_options.strLogLevel );
     Velquin::PSTNConfig::addParametersToDB();
@@ -58,4 +66,30 @@ ExitCode check( const CheckOptions& in_options ) {
     for ( const std::string& strFile : in_options.vecFiles )
         eWorst = std::max( eWorst, checkFile( strFile, in_options ) );
     return eWorst;
+}
+
+} // namespace
+
+void addCheckCommand( Program& inout_program ) {
+    const auto pOptions = std::make_shared<CheckOptions>();
+    CheckOptions& options = *pOptions;
+    options.strSchema = inout_program.strDefaultSchema;
+    CLI::App* const pCheck = inout_program.app.add_subcommand(
+        "check", "Loads files as the gateway does and prints what is wrong with them" );
+    pCheck->add_option( "FILE", options.vecFiles, "Configuration files" )->required();
+    pCheck->add_option( "--schema", options.strSchema, "RelaxNG schema instead of the one that comes with the program" )
+        ->type_name( "RNG" );
+    pCheck->add_option( "--parameters", options.strParameters, "The gateway's parameters, a file of name=value lines" )
+        ->type_name( "FILE" );
+    pCheck
+        ->add_option( "--log-level", options.strLogLevel, "Print the load's log to standard error, from this level on" )
+        ->type_name( "LEVEL" )
+        ->transform( CLI::IsMember( { "TRACE", "DEBUG", "INFO", "WARN", "ERROR", "OFF" }, CLI::ignore_case ) );
+    pCheck->add_flag( "--log-content", options.bLogContent,
+                      "Log the files with line numbers, at INFO (raises the log level to INFO unless it is given)" );
+    pCheck->callback( [pOptions, pCheck, &inout_program] {
+        if ( pOptions->bLogContent && pCheck->count( "--log-level" ) == 0 )
+            pOptions->strLogLevel = "INFO";
+        inout_program.eExitCode = check( *pOptions );
+    } );
 }

@@ -86,8 +86,10 @@ void runCallback( void* in_pContext, Body in_body ) noexcept {
 }
 
 void onError( void* in_pContext, XmlErrorPtr in_pError ) {
-    // Blocks gather no identifiers, and the schema decides what must be unique.
-    if ( ParseState::of( in_pContext ).bEnded || in_pError->code == XML_DTD_ID_REDEFINED )
+    // A file needs no valid document type: the schema decides. The blocks gather no identifiers to find fault with.
+    const bool bOnlyInvalid = ( in_pError->domain == XML_FROM_VALID || in_pError->domain == XML_FROM_DTD ) &&
+                              in_pError->level < XML_ERR_FATAL;
+    if ( ParseState::of( in_pContext ).bEnded || bOnlyInvalid )
         return;
     runCallback( in_pContext, [in_pError]( ParseState& inout_state ) {
         // Later versions warn of an entity that isn't declared, and read a value without it.

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+/// Exit codes of the program.
+enum ExitCode {
+    EXIT_VALID = 0,
+    EXIT_INVALID = 1,
+    EXIT_NOT_CHECKED = 2, ///< the command line is wrong, or a file or the schema can't be read
+};
+
+/// The program to which each verb adds itself.
+struct Program {
+    CLI::App app;
+    std::string strDefaultSchema;
+    ExitCode eExitCode = EXIT_VALID; ///< that of the verb that ran
+};
+
+// Each adds one verb. The verb runs when the command line is parsed.
+
+void addCheckCommand( Program& inout_program );

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <velquin/pstn/loading/XmlConfig.h>
+
+/// Loads a file for a verb that shows the model. When the gateway would not load it, prints to standard error what is
+/// wrong.
+/// @return null when the file can't be loaded
+std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strFile, const std::string& in_strSchema );
