@@ -1,5 +1,6 @@
 #include <velquin/Finding.h>
 
+#include <cctype>
 #include <new>
 #include <utility>
 
@@ -22,7 +23,48 @@ std::string describeCurrentException( const char* in_szOperation ) {
     }
 }
 
+/// The text as a part of a sentence: without blanks and a point at its end, and without a capital at its beginning
+/// unless that is a name.
+std::string toClause( const std::string& in_strText ) {
+    std::string strText = in_strText.substr( 0, in_strText.find_last_not_of( " ." ) + 1 );
+    if ( strText.size() > 1 && std::islower( static_cast<unsigned char>( strText[1] ) ) )
+        strText[0] = static_cast<char>( std::tolower( static_cast<unsigned char>( strText[0] ) ) );
+    return strText;
+}
+
+std::string quote( const std::string& in_strText ) {
+    return "\"" + in_strText + "\"";
+}
+
+/// What is wrong, without what would be right.
+std::string describeFault( const Finding& in_finding ) {
+    switch ( in_finding.eKind ) {
+    case Finding::Kind::MISSING_ATTRIBUTE:
+        return "missing attribute " + quote( in_finding.strAttribute );
+    case Finding::Kind::MISSING_ELEMENT:
+        return "missing element " + quote( in_finding.strAttribute );
+    case Finding::Kind::INVALID_VALUE:
+        return in_finding.strAttribute + "=" + quote( in_finding.strValue );
+    case Finding::Kind::UNKNOWN_ATTRIBUTE:
+        return "unknown attribute " + quote( in_finding.strAttribute );
+    case Finding::Kind::UNKNOWN_ELEMENT:
+        return "unexpected element " + quote( in_finding.strAttribute );
+    case Finding::Kind::OTHER:
+    case Finding::Kind::UNREADABLE_FILE:
+        break;
+    }
+    return toClause( in_finding.strMessage.empty() ? in_finding.strText : in_finding.strMessage );
+}
+
 } // namespace
+
+std::string describeFinding( const Finding& in_finding ) {
+    std::string strText = describeFault( in_finding );
+    if ( !in_finding.strHint.empty() )
+        strText += ": " + toClause( in_finding.strHint );
+    makePrintable( strText );
+    return strText;
+}
 
 FindingPlace::FindingPlace() noexcept : m_pOuter( std::exchange( t_pPlace, this ) ) {}
 
@@ -78,6 +120,23 @@ void reportFinding( const Logger& in_logger, int in_nLevel, std::string in_strTe
     reportFinding( in_logger, std::move( finding ), in_szFile, in_nLine );
 }
 
+void reportFinding( const Logger& in_logger, Fault in_fault, std::string in_strText, const char* in_szFile,
+                    int in_nLine ) noexcept {
+    Finding finding;
+    try {
+        finding.strRule = in_fault.szRule;
+        finding.strAttribute = in_fault.szAttribute;
+    } catch ( ... ) {
+        // Report the finding even when its rule is unknown.
+    }
+    if ( !finding.strAttribute.empty() )
+        finding.eKind = Finding::Kind::INVALID_VALUE;
+    finding.strValue = std::move( in_fault.strValue );
+    finding.strHint = std::move( in_fault.strHint );
+    finding.strText = std::move( in_strText );
+    reportFinding( in_logger, std::move( finding ), in_szFile, in_nLine );
+}
+
 void reportCurrentException( const Logger& in_logger, const char* in_szOperation, const char* in_szFile,
                              int in_nLine ) noexcept {
     std::string strText;
@@ -86,7 +145,7 @@ void reportCurrentException( const Logger& in_logger, const char* in_szOperation
     } catch ( ... ) {
         strText = "out of memory"; // short enough to need no memory
     }
-    reportFinding( in_logger, Logger::ERROR_LEVEL, std::move( strText ), in_szFile, in_nLine );
+    reportFinding( in_logger, Fault{ "internal" }, std::move( strText ), in_szFile, in_nLine );
 }
 
 } // namespace Velquin

@@ -23,6 +23,8 @@ VELQUIN_LOGGER_IMPL( GlobalConfigLog, "marovane.core.GlobalConfig" );
 
 bool refuseFile( const char* in_szPath, const std::string& in_strReason ) {
     Finding finding;
+    finding.eKind = Finding::Kind::UNREADABLE_FILE;
+    finding.strRule = "unreadable-file";
     finding.strFile = in_szPath;
     finding.strText = "Parameter file " + finding.strFile + " can't be read: " + in_strReason;
     reportFinding( GlobalConfigLog::getLogger(), std::move( finding ), __FILE__, __LINE__ );

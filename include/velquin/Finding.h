@@ -4,11 +4,19 @@
 #include <functional>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include <velquin/Export.h>
 #include <velquin/Logger.h>
 
 namespace Velquin {
+
+/// A piece of one line of a file. All count from 1; 0 is unknown.
+struct SourceSpan {
+    unsigned long long ullLine = 0;
+    unsigned long long ullColumn = 0;    ///< of the first character; counts characters, not bytes
+    unsigned long long ullEndColumn = 0; ///< behind the last character, on the same line
+};
 
 /// A fault that an operation found in its input, as a record. The log line is one way to show it.
 struct Finding {
@@ -19,20 +27,40 @@ struct Finding {
         MISSING_ELEMENT,   ///< strAttribute names a required child element that is absent
         INVALID_VALUE,     ///< strAttribute has the wrong value strValue
         UNREADABLE_FILE,   ///< strFile can't be read at all
+        UNKNOWN_ATTRIBUTE, ///< the element has no attribute of the name strAttribute
+        UNKNOWN_ELEMENT,   ///< the element's parent has no child of its name
+    };
+
+    /// Another place that belongs to the finding, for instance the first of two equal identifiers.
+    struct Related {
+        std::string strLabel; ///< what is there: "first here"
+        std::string strFile;
+        unsigned long long ullLine = 0; ///< line in the file, as Finding::ullLine
+        unsigned long long ullElement = 0;
+        std::string strAttribute; ///< often empty
+        SourceSpan span{};
     };
 
     Kind eKind = Kind::OTHER;
-    int nLevel = Logger::ERROR_LEVEL; ///< Logger::WARNING_LEVEL or Logger::ERROR_LEVEL
-    std::string strLogger;            ///< name of the logger that has the line
-    std::string strFile;              ///< the file as the program named it; empty when no file is concerned
-    unsigned long long ullLine = 0;   ///< line in the file, from 1; 0 when unknown
-    std::string strElementPath;       ///< XPath of the element; empty when no element is concerned
-    std::string strAttribute;         ///< attribute or child element concerned; see Kind
-    std::string strValue;             ///< its value as written
-    std::string strHint;              ///< what would be right; often empty
-    std::string strMessage;           ///< the text without file and line; empty where the text has neither
-    std::string strText;              ///< the whole log line
+    std::string strRule; ///< stable name of what is wrong: "missing-attribute"; empty when it only follows from another
+    int nLevel = Logger::ERROR_LEVEL;  ///< Logger::WARNING_LEVEL or Logger::ERROR_LEVEL
+    std::string strLogger;             ///< name of the logger that has the line
+    std::string strFile;               ///< the file as the program named it; empty when no file is concerned
+    unsigned long long ullLine = 0;    ///< line in the file, from 1; 0 when unknown
+    std::string strElementPath;        ///< XPath of the element; empty when no element is concerned
+    std::string strAttribute;          ///< attribute or child element concerned; see Kind
+    std::string strValue;              ///< its value as written
+    std::string strHint;               ///< what would be right; often empty
+    std::string strMessage;            ///< the text without file and line; empty where the text has neither
+    std::string strText;               ///< the whole log line
+    unsigned long long ullElement = 0; ///< number of the element in its file, in the order of start tags, from 1
+    SourceSpan span{};                 ///< attribute or element, where a survey looked for it; else all 0
+    bool bEcho = false;                ///< whether it only follows from another finding; a survey tells
+    std::vector<Related> vecRelated;
 };
+
+/// The finding in the words of people, on one line, without its place: `framing="crc4": valid values are ESF and CRC4`.
+VELQUIN_CORE_EXPORT std::string describeFinding( const Finding& in_finding );
 
 /// The place in the input where an operation is. It serves the findings of operations that are called meanwhile and
 /// know no input. Places stand on the stack of one thread; the innermost one fills the findings. A place counts as soon
@@ -84,6 +112,18 @@ VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, Finding in_find
 VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, int in_nLevel, std::string in_strText,
                                         const char* in_szFile, int in_nLine ) noexcept;
 
+/// What an operation of a model knows of a fault: its rule and the attribute with the wrong value.
+struct Fault {
+    const char* szRule;
+    const char* szAttribute = "";
+    std::string strValue{};
+    std::string strHint{};
+};
+
+/// The same for a fault at ERROR. With an attribute, the finding is of the kind INVALID_VALUE.
+VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, Fault in_fault, std::string in_strText,
+                                        const char* in_szFile, int in_nLine ) noexcept;
+
 /// Call it in a catch block. Reports a finding at ERROR: the operation failed, and why ("out of memory in load").
 VELQUIN_CORE_EXPORT void reportCurrentException( const Logger& in_logger, const char* in_szOperation,
                                                  const char* in_szFile, int in_nLine ) noexcept;
@@ -91,11 +131,12 @@ VELQUIN_CORE_EXPORT void reportCurrentException( const Logger& in_logger, const 
 } // namespace Velquin
 
 /// Reports the streamed text as a finding.
-#define VELQUIN_REPORT( logger, nLevel, streamed )                                                                     \
+/// @param how a level, or a Fault (in parentheses: it has commas)
+#define VELQUIN_REPORT( logger, how, streamed )                                                                        \
     do {                                                                                                               \
         std::ostringstream reportText_;                                                                                \
         reportText_ << streamed; /* NOLINT(bugprone-macro-parentheses): a chain of << */                               \
-        ::Velquin::reportFinding( ( logger ), ( nLevel ), reportText_.str(), __FILE__, __LINE__ );                     \
+        ::Velquin::reportFinding( ( logger ), ( how ), reportText_.str(), __FILE__, __LINE__ );                        \
     } while ( false )
 #define VELQUIN_REPORT_ERROR( logger, streamed ) VELQUIN_REPORT( logger, ::Velquin::Logger::ERROR_LEVEL, streamed )
 #define VELQUIN_REPORT_WARNING( logger, streamed ) VELQUIN_REPORT( logger, ::Velquin::Logger::WARNING_LEVEL, streamed )

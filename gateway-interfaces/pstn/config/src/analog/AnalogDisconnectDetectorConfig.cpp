@@ -4,6 +4,7 @@
 #include <velquin/Finding.h>
 #include <velquin/StringVector.h>
 
+#include "RuleNames.h"
 #include "Text.h"
 
 namespace Velquin::Pstn {
@@ -26,7 +27,8 @@ bool AnalogDisconnectDetectorConfig::parseSequence( const char* in_szSequence ) 
         StringVector vecParts;
         strTokenize( strItem, vecParts, '/' );
         if ( vecParts.empty() || vecParts.size() > 2 ) {
-            VELQUIN_REPORT_ERROR( getLogger(), "Invalid sequence for disconnect supervison" );
+            VELQUIN_REPORT( getLogger(), ( Fault{ Rules::INVALID_SEQUENCE, "sequence", in_szSequence } ),
+                            "Invalid sequence for disconnect supervison" );
             return false;
         }
         vecSequence.emplace_back( vecParts.front(), vecParts.size() == 2 ? vecParts.back() : std::string() );

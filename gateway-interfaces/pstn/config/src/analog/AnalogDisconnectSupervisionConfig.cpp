@@ -3,6 +3,8 @@
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
+
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( AnalogDisconnectSupervisionConfig );
@@ -15,7 +17,8 @@ bool AnalogDisconnectSupervisionConfig::addDisconnectDetector(
     VELQUIN_LOG_DEBUG( getLogger(), "adding disconnect detector " << pDetectorConfig->getName() );
     if ( m_mapDetectors.try_emplace( pDetectorConfig->getName(), pDetectorConfig ).second )
         return true;
-    VELQUIN_REPORT_ERROR( getLogger(), "failed to add disconnect detector config : " << pDetectorConfig->getName() );
+    VELQUIN_REPORT( getLogger(), ( Fault{ Rules::IDENTIFIER_TWICE, "name", pDetectorConfig->getName() } ),
+                    "failed to add disconnect detector config : " << pDetectorConfig->getName() );
     return false;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )

@@ -83,6 +83,7 @@ std::string readSubstitute( const AttributeReader& in_reader ) {
         return text.c_str();
     Finding finding;
     finding.eKind = Finding::Kind::INVALID_VALUE;
+    finding.strRule = Rules::INVALID_VALUE;
     finding.nLevel = Logger::WARNING_LEVEL;
     finding.strAttribute = SPECIAL_CHARACTER_SUBSTITUTE;
     finding.strValue = text.view();

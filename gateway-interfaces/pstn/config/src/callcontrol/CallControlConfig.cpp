@@ -4,6 +4,7 @@
 #include <velquin/Finding.h>
 
 #include "AppendUnique.h"
+#include "RuleNames.h"
 #include "Setters.h"
 
 namespace Velquin::Pstn {
@@ -17,7 +18,8 @@ bool CallControlConfig::addChannelGroupConfig( ChannelGroupConfig* in_pNewChanne
     VELQUIN_LOG_DEBUG( getLogger(), "adding new channel group: " << hNewChannelGroupConfig->getId() );
     if ( appendUnique( m_mapChannelGroups, hNewChannelGroupConfig->getId(), hNewChannelGroupConfig ) )
         return true;
-    VELQUIN_REPORT_ERROR( getLogger(), "failed to all new channel group: " << hNewChannelGroupConfig->getId() );
+    VELQUIN_REPORT( getLogger(), ( Fault{ Rules::IDENTIFIER_TWICE, "ID", hNewChannelGroupConfig->getId() } ),
+                    "failed to all new channel group: " << hNewChannelGroupConfig->getId() );
     return false;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )
@@ -29,7 +31,8 @@ TSHandle<ChannelGroupConfig> CallControlConfig::getChannelGroupConfig( const cha
     const auto it = m_mapChannelGroups.find( in_szId );
     if ( it != m_mapChannelGroups.end() )
         return it->second;
-    VELQUIN_REPORT_ERROR( getLogger(), "failed to get channel group: " << in_szId );
+    VELQUIN_REPORT( getLogger(), ( Fault{ Rules::UNKNOWN_CHANNEL_GROUP, "channelGroupID", in_szId } ),
+                    "failed to get channel group: " << in_szId );
     return {};
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), {} )

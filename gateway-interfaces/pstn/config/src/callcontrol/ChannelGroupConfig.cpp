@@ -6,6 +6,7 @@
 #include <velquin/Finding.h>
 
 #include "AppendUnique.h"
+#include "RuleNames.h"
 #include "Text.h"
 #include "hardware/InterfaceConfig.h"
 
@@ -44,10 +45,10 @@ bool ChannelGroupConfig::addBChannelRangeConfig( BChannelRangeConfig* in_pNewBCh
     VELQUIN_LOG_DEBUG( getLogger(), adding );
     if ( appendUnique( m_setBChannelRanges, hNewBChannelRangeConfig ) )
         return true;
-    VELQUIN_REPORT_ERROR( getLogger(),
-                          adding << ". One more channel of this range are already contained in this group. Please edit "
-                                    "your PSTN configuration to fix this problem.  Make sure to add any channel only "
-                                    "once in a given channel group." );
+    VELQUIN_REPORT( getLogger(), ( Fault{ Rules::CHANNEL_TWICE, "channelGroupID", getId() } ),
+                    adding << ". One more channel of this range are already contained in this group. Please edit "
+                              "your PSTN configuration to fix this problem.  Make sure to add any channel only "
+                              "once in a given channel group." );
     return false;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )

@@ -7,6 +7,7 @@
 #include <velquin/TSHandle.h>
 
 #include "../AppendUnique.h"
+#include "../RuleNames.h"
 
 namespace Velquin::Pstn {
 
@@ -23,7 +24,8 @@ bool addNumberedConfig( NumberedConfigs<TConfig>& inout_mapConfigs, TSHandle<TCo
     VELQUIN_LOG_DEBUG( in_logger, "adding new " << in_szKind << " config: " << inout_hConfig->getId() );
     if ( appendUnique( inout_mapConfigs, inout_hConfig->getId(), inout_hConfig ) )
         return true;
-    VELQUIN_REPORT_ERROR( in_logger, "failed to add " << in_szKind << " config : " << inout_hConfig->getId() );
+    VELQUIN_REPORT( in_logger, ( Fault{ Rules::IDENTIFIER_TWICE, "ID", std::to_string( inout_hConfig->getId() ) } ),
+                    "failed to add " << in_szKind << " config : " << inout_hConfig->getId() );
     return false;
 }
 

@@ -47,13 +47,13 @@ bool isText( const xmlNode* in_pNode ) {
 
 } // namespace
 
-void DocumentBlocks::startElement( xmlDoc* in_pDocument, const StartTag& in_tag, unsigned long long in_ullLine ) {
+void DocumentBlocks::startElement( xmlDoc* in_pDocument, const StartTag& in_tag, ElementPosition in_position ) {
     endText( false );
     auto* const pElement = add<xmlNode>();
     pElement->type = XML_ELEMENT_NODE;
     pElement->name = in_tag.szName;
     pElement->doc = in_pDocument;
-    setElementLine( pElement, in_ullLine );
+    setElementPosition( pElement, in_position );
     if ( m_pOpen )
         appendToOpenElement( pElement );
     else

@@ -10,6 +10,8 @@
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
+#include "document/Element.h"
+
 namespace Velquin::Pstn {
 
 /// A start tag as the parser hands it over: the arguments of libxml2's startElementNsSAX2Func.
@@ -38,8 +40,7 @@ public:
 
     // The events of a parse, in the order of the file. Each may throw std::bad_alloc; then the parse must end.
 
-    /// @param in_ullLine the line on which the tag ends, from 1
-    void startElement( xmlDoc* in_pDocument, const StartTag& in_tag, unsigned long long in_ullLine );
+    void startElement( xmlDoc* in_pDocument, const StartTag& in_tag, ElementPosition in_position );
     void addText( std::string_view in_strText );
     void endElement();
 

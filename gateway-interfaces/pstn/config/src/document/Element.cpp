@@ -1,7 +1,7 @@
 #include "document/Element.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <bit>
 #include <cstring>
 
 namespace Velquin::Pstn {
@@ -11,24 +11,32 @@ namespace {
 /// Marks the documents of this library. In other documents `_private` belongs to the program that made them.
 char s_cOwnDocument;
 
+bool isOfOwnDocument( const xmlNode* in_pNode ) noexcept {
+    return in_pNode->doc && in_pNode->doc->_private == &s_cOwnDocument;
+}
+
 } // namespace
 
 const char* getElementName( const xmlNode* in_pElement ) noexcept {
     return fromXml( in_pElement->name );
 }
 
-void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept {
+void setElementPosition( xmlNode* in_pElement, ElementPosition in_position ) noexcept {
     in_pElement->doc->_private = &s_cOwnDocument;
-    in_pElement->_private = reinterpret_cast<void*>( static_cast<std::uintptr_t>( in_ullLine ) );
+    in_pElement->_private = std::bit_cast<void*>( in_position );
     // libxml2's schema compiler works on a copy of the document, which has only this line.
-    in_pElement->line = static_cast<unsigned short>( std::min( in_ullLine, 65535ULL ) );
+    in_pElement->line = static_cast<unsigned short>( std::min( in_position.uLine, 65535U ) );
 }
 
 unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept {
-    if ( in_pElement->doc && in_pElement->doc->_private == &s_cOwnDocument )
-        return reinterpret_cast<std::uintptr_t>( in_pElement->_private );
+    if ( isOfOwnDocument( in_pElement ) )
+        return std::bit_cast<ElementPosition>( in_pElement->_private ).uLine;
     const long nLine = xmlGetLineNo( const_cast<xmlNode*>( in_pElement ) );
     return nLine > 0 ? static_cast<unsigned long long>( nLine ) : 0;
+}
+
+unsigned long long getElementNumber( const xmlNode* in_pElement ) noexcept {
+    return isOfOwnDocument( in_pElement ) ? std::bit_cast<ElementPosition>( in_pElement->_private ).uNumber : 0;
 }
 
 std::string getElementPath( const xmlNode* in_pElement ) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -12,13 +13,22 @@ namespace Velquin::Pstn {
 /// The element's local name.
 const char* getElementName( const xmlNode* in_pElement ) noexcept;
 
-/// Stores the line of an element in the element itself: libxml2's own line numbers end at 65,534. Only for elements of
-/// this library's documents.
-void setElementLine( xmlNode* in_pElement, unsigned long long in_ullLine ) noexcept;
+/// Where an element stands in its file.
+struct ElementPosition {
+    std::uint32_t uLine;   ///< on which the start tag ends, from 1; 0 when unknown
+    std::uint32_t uNumber; ///< in the order of the start tags, from 1; 0 when unknown
+};
+
+/// Stores the position of an element in the element itself: libxml2's own line numbers end at 65,534. Only for elements
+/// of this library's documents.
+void setElementPosition( xmlNode* in_pElement, ElementPosition in_position ) noexcept;
 
 /// The line on which the element's start tag ends, from 1. For a document of another program, libxml2's line number; 0
 /// when there is none.
 unsigned long long getElementLine( const xmlNode* in_pElement ) noexcept;
+
+/// The element's number in its file; 0 for a document of another program.
+unsigned long long getElementNumber( const xmlNode* in_pElement ) noexcept;
 
 /// The element's XPath; empty when memory ends. The cost grows with the number of siblings: ask only when a message is
 /// written.

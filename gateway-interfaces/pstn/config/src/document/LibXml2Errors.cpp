@@ -8,6 +8,7 @@
 
 #include <libxml/relaxng.h>
 
+#include "RuleNames.h"
 #include "document/Element.h"
 #include "document/LibXml2.h"
 
@@ -145,10 +146,15 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
     if ( inout_uErrors > MAX_ERRORS )
         return;
     Finding finding;
+    finding.strRule = in_error.domain == XML_FROM_RELAXNGV   ? Rules::AGAINST_SCHEMA
+                      : in_error.domain == XML_FROM_RELAXNGP ? Rules::UNUSABLE_SCHEMA
+                      : in_error.level == XML_ERR_NONE       ? Rules::INTERNAL
+                                                             : Rules::ILL_FORMED;
     finding.strFile = in_error.file && in_error.file[0] != '\0' ? in_error.file : in_szFile;
     finding.ullLine = in_error.line > 0 ? static_cast<unsigned long long>( in_error.line ) : 0;
     if ( const xmlNode* const pNode = getElement( in_error ) ) {
         finding.ullLine = getElementLine( pNode );
+        finding.ullElement = getElementNumber( pNode );
         finding.strElementPath = getElementPath( pNode );
         // The document has the file's name as the program gave it.
         if ( const char* const szFile = getElementFile( pNode ); *szFile != '\0' )

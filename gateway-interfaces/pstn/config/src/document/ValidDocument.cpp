@@ -25,7 +25,10 @@ bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
         if ( isOfNamespace( pChild, RELAX_NG ) && ( strName == "include" || strName == "externalRef" ) ) {
             const ReaderWording wording{ "", "" };
             const ElementReader reader( pChild, in_logger, wording );
-            reader.reportDeclared( "The schema must stand in one file: element " + std::string( strName ), "." );
+            Finding finding;
+            finding.strRule = Rules::UNUSABLE_SCHEMA;
+            reader.reportDeclared( "The schema must stand in one file: element " + std::string( strName ), ".",
+                                   std::move( finding ) );
             return true;
         }
         if ( refersToOtherFiles( pChild, in_logger ) )

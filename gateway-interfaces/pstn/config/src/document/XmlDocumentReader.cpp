@@ -7,6 +7,7 @@
 
 #include <libxml/SAX2.h>
 
+#include "RuleNames.h"
 #include "document/DocumentBuilder.h"
 #include "document/Element.h"
 #include "document/InputFile.h"
@@ -33,6 +34,7 @@ struct ParseState {
     std::streamsize nDtdBytes = 0;
     std::vector<int> vecNamespaces{}; ///< number of namespaces that each open element declares
     int nNamespaces = 0;              ///< their sum
+    std::uint32_t uElements = 0;      ///< start tags so far
     unsigned int uErrors = 0;
     bool bRefused = false; // the reason is reported
     bool bEnded = false;   // we ended the parse: libxml2's further errors are no faults of the file
@@ -42,15 +44,17 @@ struct ParseState {
     }
 };
 
-unsigned long long getLine( void* in_pContext ) {
+std::uint32_t getLine( void* in_pContext ) {
     const int nLine = xmlSAX2GetLineNumber( in_pContext );
-    return nLine > 0 ? static_cast<unsigned long long>( nLine ) : 0;
+    return nLine > 0 ? static_cast<std::uint32_t>( nLine ) : 0;
 }
 
-void reportFile( const ParseState& in_state, Finding::Kind in_eKind, unsigned long long in_ullLine,
+void reportFile( const ParseState& in_state, const char* in_szRule, unsigned long long in_ullLine,
                  std::string in_strMessage ) {
     Finding finding;
-    finding.eKind = in_eKind;
+    if ( in_szRule == Rules::UNREADABLE_FILE )
+        finding.eKind = Finding::Kind::UNREADABLE_FILE;
+    finding.strRule = in_szRule;
     finding.strFile = in_state.szPath;
     finding.ullLine = in_ullLine;
     finding.strMessage = std::move( in_strMessage );
@@ -58,9 +62,9 @@ void reportFile( const ParseState& in_state, Finding::Kind in_eKind, unsigned lo
 }
 
 /// Reports once why the file is refused. The caller ends the parse.
-void refuse( ParseState& inout_state, std::string in_strWhy ) {
+void refuse( ParseState& inout_state, const char* in_szRule, std::string in_strWhy ) {
     if ( !inout_state.bEnded )
-        reportFile( inout_state, Finding::Kind::OTHER, getLine( const_cast<xmlParserCtxt*>( inout_state.pContext ) ),
+        reportFile( inout_state, in_szRule, getLine( const_cast<xmlParserCtxt*>( inout_state.pContext ) ),
                     std::move( in_strWhy ) );
     inout_state.bRefused = inout_state.bEnded = true;
 }
@@ -121,8 +125,9 @@ void onStartElement( void* in_pContext, const xmlChar* in_szName, const xmlChar*
     runCallback( in_pContext, [&]( ParseState& inout_state ) {
         inout_state.vecNamespaces.push_back( in_nNamespaces );
         inout_state.nNamespaces += in_nNamespaces;
+        const ElementPosition position{ getLine( in_pContext ), ++inout_state.uElements };
         if ( const char* const szExcess = findExcess( inout_state, in_nAttributes, inout_state.nNamespaces ) ) {
-            refuse( inout_state, szExcess );
+            refuse( inout_state, Rules::TOO_LARGE, szExcess );
             return;
         }
         auto* const pContext = static_cast<xmlParserCtxt*>( in_pContext );
@@ -130,12 +135,12 @@ void onStartElement( void* in_pContext, const xmlChar* in_szName, const xmlChar*
             inout_state.pBlocks->startElement( pContext->myDoc,
                                                { in_szName, in_szPrefix, in_szUri, in_nNamespaces, in_aszNamespaces,
                                                  in_nAttributes - in_nDefaulted, in_aszAttributes },
-                                               getLine( pContext ) );
+                                               position );
         } else {
             xmlSAX2StartElementNs( pContext, in_szName, in_szPrefix, in_szUri, in_nNamespaces, in_aszNamespaces,
                                    in_nAttributes, in_nDefaulted, in_aszAttributes );
             if ( pContext->node )
-                setElementLine( pContext->node, getLine( pContext ) );
+                setElementPosition( pContext->node, position );
         }
     } );
 }
@@ -163,7 +168,7 @@ void onEndDocument( void* in_pContext ) {
         // libxml2 takes a NUL character for the end of the file.
         if ( const xmlParserInput* const pRest = inout_state.pContext->input;
              pRest && pRest->cur < pRest->end && *pRest->cur == 0 )
-            refuse( inout_state, "NUL character" );
+            refuse( inout_state, Rules::ILL_FORMED, "NUL character" );
     } );
 }
 
@@ -180,8 +185,9 @@ void onExternalSubset( void* in_pContext, const xmlChar*, const xmlChar*, const 
 
 void refuseEntity( void* in_pContext, const xmlChar* in_szName ) {
     runCallback( in_pContext, [in_szName]( ParseState& inout_state ) {
-        refuse( inout_state, std::string( "Entity declarations are not allowed, entity \"" ) + fromXml( in_szName ) +
-                                 "\" declared" );
+        refuse( inout_state, Rules::ILL_FORMED,
+                std::string( "Entity declarations are not allowed, entity \"" ) + fromXml( in_szName ) +
+                    "\" declared" );
     } );
 }
 
@@ -202,8 +208,9 @@ void onAttributeDeclaration( void* in_pContext, const xmlChar* in_szElement, con
     }
     xmlFreeEnumeration( in_pValues );
     runCallback( in_pContext, [in_szName]( ParseState& inout_state ) {
-        refuse( inout_state, std::string( "Default values of attributes are not allowed, attribute \"" ) +
-                                 fromXml( in_szName ) + "\" has one" );
+        refuse( inout_state, Rules::ILL_FORMED,
+                std::string( "Default values of attributes are not allowed, attribute \"" ) + fromXml( in_szName ) +
+                    "\" has one" );
     } );
 }
 
@@ -212,7 +219,7 @@ int readChunk( void* in_pState, char* out_pBuffer, int in_nSize ) {
     // libxml2 asks for a few thousand bytes at a time, also amid a start tag.
     if ( const char* const szExcess =
              findExcess( state, countAttributes( *state.pContext ), countNamespaces( *state.pContext ) ) )
-        guard( state, [szExcess]( ParseState& inout_state ) { refuse( inout_state, szExcess ); } );
+        guard( state, [szExcess]( ParseState& inout_state ) { refuse( inout_state, Rules::TOO_LARGE, szExcess ); } );
     if ( state.bEnded )
         return 0;
     state.stream.read( out_pBuffer, in_nSize );
@@ -250,7 +257,7 @@ XmlDocumentPtr readXmlDocument( const char* in_szPath, const Logger& in_logger )
     auto pBlocks = getDocumentBuilder() == DocumentBuilder::BLOCKS ? std::make_unique<DocumentBlocks>() : nullptr;
     ParseState state{ in_logger, in_szPath, pBlocks.get() };
     if ( const std::string strWhy = openInputFile( in_szPath, state.stream ); !strWhy.empty() ) {
-        reportFile( state, Finding::Kind::UNREADABLE_FILE, 0, "Can't read, " + strWhy );
+        reportFile( state, Rules::UNREADABLE_FILE, 0, "Can't read, " + strWhy );
         return nullptr;
     }
     const XmlParserCtxtPtr pContext( xmlNewParserCtxt() );
@@ -262,7 +269,7 @@ XmlDocumentPtr readXmlDocument( const char* in_szPath, const Logger& in_logger )
     XmlDocPtr pDocument( xmlCtxtReadIO( pContext.get(), &readChunk, nullptr, &state, in_szPath, nullptr,
                                         XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_NOBLANKS ) );
     if ( state.stream.bad() )
-        reportFile( state, Finding::Kind::UNREADABLE_FILE, 0, "Can't read to the end" );
+        reportFile( state, Rules::UNREADABLE_FILE, 0, "Can't read to the end" );
     if ( state.bRefused )
         return nullptr;
     // libxml2 stores an escaped URI, but messages name the file as the program named it.

@@ -4,6 +4,7 @@
 #include <velquin/Finding.h>
 
 #include "AppendUnique.h"
+#include "RuleNames.h"
 #include "Setters.h"
 #include "hardware/InterfaceKind.h"
 
@@ -24,8 +25,9 @@ bool addBoard( std::map<unsigned int, TSHandle<TBoard>>& inout_mapBoards, TBoard
                            "adding new " << in_szKind << " board: " << uId << "<" << hBoard->getDisplayName() << ">" );
         if ( appendUnique( inout_mapBoards, uId, hBoard ) )
             return true;
-        VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << uId << "<"
-                                                              << hBoard->getDisplayName() << ">" );
+        VELQUIN_REPORT( in_logger, ( Fault{ Rules::IDENTIFIER_TWICE, "ID", std::to_string( uId ) } ),
+                        "failed to add new " << in_szKind << " board: " << uId << "<" << hBoard->getDisplayName()
+                                             << ">" );
         return false;
     } catch ( ... ) {
         VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind << " board: " << uId );
@@ -94,7 +96,8 @@ bool Config::addProviderConfig( ProviderConfig* in_pNewProviderConfig ) try {
     VELQUIN_LOG_DEBUG( getLogger(), "adding new provider: " << hProviderConfig->getId() );
     if ( m_mapProviders.try_emplace( hProviderConfig->getId(), hProviderConfig ).second )
         return true;
-    VELQUIN_REPORT_ERROR( getLogger(), "failed to all new provider: " << hProviderConfig->getId() );
+    VELQUIN_REPORT( getLogger(), Fault{ Rules::IDENTIFIER_TWICE },
+                    "failed to all new provider: " << hProviderConfig->getId() );
     return false;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), false )

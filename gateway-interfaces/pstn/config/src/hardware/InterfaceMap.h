@@ -9,6 +9,7 @@
 #include <velquin/TSHandle.h>
 
 #include "../AppendUnique.h"
+#include "../RuleNames.h"
 
 namespace Velquin::Pstn {
 
@@ -23,9 +24,10 @@ public:
                                                     << inout_hInterface->getDisplayName() << ">" );
         if ( appendUnique( m_map, inout_hInterface->getId(), inout_hInterface ) )
             return true;
-        VELQUIN_REPORT_ERROR( in_logger, "failed to add new " << in_szKind
-                                                              << " interface: " << inout_hInterface->getId() << "<"
-                                                              << inout_hInterface->getDisplayName() << ">" );
+        VELQUIN_REPORT( in_logger,
+                        ( Fault{ Rules::IDENTIFIER_TWICE, "ID", std::to_string( inout_hInterface->getId() ) } ),
+                        "failed to add new " << in_szKind << " interface: " << inout_hInterface->getId() << "<"
+                                             << inout_hInterface->getDisplayName() << ">" );
         return false;
     }
 

@@ -27,7 +27,8 @@ public:
             return false;
         m_hBoard = TKind::getBoard( in_config, uBoardId );
         if ( m_hBoard.isNull() )
-            m_reader.reportInvalid( "boardID", text.view(), "Make sure to provide a valid board ID" );
+            m_reader.reportInvalid( "boardID", text.view(), "Make sure to provide a valid board ID",
+                                    Rules::UNKNOWN_BOARD );
         return !m_hBoard.isNull();
     }
 
@@ -44,7 +45,7 @@ public:
             std::string strHint = "Make sure to provide a valid interface ID whithin the context of boardID=";
             if ( in_bNameBoard )
                 strHint += std::to_string( m_hBoard->getId() );
-            m_reader.reportInvalid( "interfaceID", m_interfaceId.view(), strHint );
+            m_reader.reportInvalid( "interfaceID", m_interfaceId.view(), strHint, Rules::UNKNOWN_INTERFACE );
             return false;
         }
         m_vecInterfaces.push_back( std::move( hInterface ) );

@@ -29,7 +29,8 @@ bool readPrimaryClockReference( const ElementReader& in_reader, const TirvanaDig
     const auto hInterface =
         dynamicHandleCast<TirvanaDigitalInterfaceConfig>( in_board.getDigitalInterfaceConfig( uInterfaceId ) );
     if ( hInterface.isNull() ) {
-        in_reader.reportInvalid( "primaryClockReference", text.view(), "Specified interface ID value does not exist" );
+        in_reader.reportInvalid( "primaryClockReference", text.view(), "Specified interface ID value does not exist",
+                                 Rules::UNKNOWN_INTERFACE );
         return false;
     }
     hInterface->setPrimaryClockReference( true );

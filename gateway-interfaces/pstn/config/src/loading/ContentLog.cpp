@@ -9,6 +9,7 @@
 
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
 #include "document/InputFile.h"
 
 namespace Velquin::Pstn {
@@ -31,6 +32,7 @@ bool logContent( const char* in_szConfigFile, const Logger& in_logger ) {
     if ( !openInputFile( in_szConfigFile, stream, std::ios::in ).empty() ) {
         Finding finding;
         finding.eKind = Finding::Kind::UNREADABLE_FILE;
+        finding.strRule = Rules::UNREADABLE_FILE;
         finding.strText = std::string( "failed to open PSTN configuration file: " ) + in_szConfigFile;
         reportFinding( in_logger, std::move( finding ), __FILE__, __LINE__ );
         return false;

@@ -164,8 +164,9 @@ bool XmlConfig::Impl::loadCallControlConfig( const xmlNode* in_pRootNode ) {
     xmlNode* const pCallControl = XML::findFirstElement( in_pRootNode, "callControl" );
     if ( !pCallControl ) {
         const ElementPlace place( in_pRootNode );
-        VELQUIN_REPORT_ERROR( getLogger(), "Can't load call control parameters. Make sure to have a \"callControl\" "
-                                           "element your   configuration file." );
+        VELQUIN_REPORT( getLogger(), Fault{ Rules::MISSING_ELEMENT },
+                        "Can't load call control parameters. Make sure to have a \"callControl\" "
+                        "element your   configuration file." );
         return false;
     }
     const ReaderWording wording{};
@@ -221,7 +222,8 @@ bool XmlConfig::load( const ROConfiguration& in_configuration, bool in_bLogConte
     const auto getParameter = [&in_configuration]( const char* in_szName, std::string& out_strValue ) {
         if ( in_configuration.getString( in_szName, out_strValue ) )
             return true;
-        VELQUIN_REPORT_ERROR( getLogger(), "Can't find global configuration parameter: " << in_szName << "." );
+        VELQUIN_REPORT( getLogger(), ( Fault{ Rules::MISSING_PARAMETER } ),
+                        "Can't find global configuration parameter: " << in_szName << "." );
         return false;
     };
     std::string strConfigFile;

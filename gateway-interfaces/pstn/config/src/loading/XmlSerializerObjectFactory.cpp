@@ -4,6 +4,7 @@
 
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
 #include "hardware/TirvanaAnalogBoardConfig.h"
 #include "hardware/TirvanaAnalogBoardConfigXmlSerializer.h"
 #include "hardware/TirvanaDigitalBoardConfig.h"
@@ -72,15 +73,20 @@ constexpr Entry<DtmfRemovalConfigXmlSerializer> DTMF_REMOVALS[] = {
 };
 
 /// @param in_szUnknown logged, with the keyword, when nothing matches
+/// @param in_szAttribute the attribute that has the keyword; null for the name of an element
 template <class TBase, std::size_t N>
 TBase* createByKeyword( const Entry<TBase> ( &in_aEntries )[N], const char* in_szKeyword, const char* in_szUnknown,
-                        const Logger& in_logger ) noexcept try {
+                        const Logger& in_logger, const char* in_szAttribute = nullptr ) noexcept try {
     const std::string_view strKeyword( in_szKeyword ? in_szKeyword : "" );
     for ( const auto& entry : in_aEntries ) {
         if ( entry.strKeyword == strKeyword )
             return entry.create();
     }
-    VELQUIN_REPORT_ERROR( in_logger, in_szUnknown << strKeyword );
+    Fault fault{ Rules::UNKNOWN_ELEMENT };
+    if ( in_szAttribute )
+        fault = { Rules::INVALID_VALUE, in_szAttribute, std::string( strKeyword ),
+                  describeValues( std::vector{ in_aEntries[0].strKeyword } ) };
+    VELQUIN_REPORT( in_logger, std::move( fault ), in_szUnknown << strKeyword );
     return nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( in_logger, nullptr )
@@ -116,29 +122,30 @@ XmlSerializerObjectFactory::newInterfacePhysicalConfigXmlSerializer( const char*
 
 EchoCancellationConfigXmlSerializer*
 XmlSerializerObjectFactory::newEchoCancellationConfigXmlSerializer( const char* in_szKeyword ) const {
-    return createByKeyword( ECHO_CANCELLATIONS, in_szKeyword, "unkown echo cancellation config type: ", getLogger() );
+    return createByKeyword( ECHO_CANCELLATIONS, in_szKeyword, "unkown echo cancellation config type: ", getLogger(),
+                            "type" );
 }
 
 AcousticEchoCancellationConfigXmlSerializer*
 XmlSerializerObjectFactory::newAcousticEchoCancellationConfigXmlSerializer( const char* in_szKeyword ) const {
     return createByKeyword( ACOUSTIC_ECHO_CANCELLATIONS, in_szKeyword,
-                            "unkown acoustic echo cancellation config type: ", getLogger() );
+                            "unkown acoustic echo cancellation config type: ", getLogger(), "type" );
 }
 
 LevelControlConfigXmlSerializer*
 XmlSerializerObjectFactory::newLevelControlConfigXmlSerializer( const char* in_szKeyword ) const {
-    return createByKeyword( LEVEL_CONTROLS, in_szKeyword, "unkown level control config type: ", getLogger() );
+    return createByKeyword( LEVEL_CONTROLS, in_szKeyword, "unkown level control config type: ", getLogger(), "type" );
 }
 
 BackgroundNoiseAttenuationConfigXmlSerializer*
 XmlSerializerObjectFactory::newBackgroundNoiseAttenuationConfigXmlSerializer( const char* in_szKeyword ) const {
     return createByKeyword( BACKGROUND_NOISE_ATTENUATIONS, in_szKeyword,
-                            "unkown background noise attenuation config type: ", getLogger() );
+                            "unkown background noise attenuation config type: ", getLogger(), "type" );
 }
 
 DtmfRemovalConfigXmlSerializer*
 XmlSerializerObjectFactory::newDtmfRemovalConfigXmlSerializer( const char* in_szKeyword ) const {
-    return createByKeyword( DTMF_REMOVALS, in_szKeyword, "unkown DTMF removal config type: ", getLogger() );
+    return createByKeyword( DTMF_REMOVALS, in_szKeyword, "unkown DTMF removal config type: ", getLogger(), "type" );
 }
 
 } // namespace Velquin::Pstn

@@ -38,8 +38,8 @@ bool applyToInterfaces( const ElementReader& in_reader, const Config& in_config,
             return false;
         for ( const auto& hInterface : vecInterfaces ) {
             if ( !hInterface->getPhysicalConfig().isNull() ) {
-                VELQUIN_REPORT_ERROR( in_logger, "Interface boardID="
-                                                     << hInterface->getBoardConfig()->getId()
+                VELQUIN_REPORT( in_logger, Fault{ Rules::PHYSICAL_CONFIG_TWICE },
+                                "Interface boardID=" << hInterface->getBoardConfig()->getId()
                                                      << " interfaceID=" << hInterface->getId()
                                                      << " already as a physical configuration. Make sure to apply "
                                                         "only one physical configuration per interface." );

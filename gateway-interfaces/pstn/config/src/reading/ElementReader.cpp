@@ -16,24 +16,34 @@ void locateElement( const xmlNode* in_pElement, Finding& inout_finding ) {
         inout_finding.ullLine = getElementLine( in_pElement );
     if ( inout_finding.strElementPath.empty() )
         inout_finding.strElementPath = getElementPath( in_pElement );
+    if ( inout_finding.ullElement == 0 )
+        inout_finding.ullElement = getElementNumber( in_pElement );
 }
 
 /// The place of an assertion about one attribute.
 class AttributePlace : public FindingPlace {
 public:
-    AttributePlace( const xmlNode* in_pElement, const char* in_szAttribute, std::string_view in_strValue ) noexcept
-        : m_pElement( in_pElement ), m_szAttribute( in_szAttribute ), m_strValue( in_strValue ) {}
+    AttributePlace( const xmlNode* in_pElement, const char* in_szAttribute, std::string_view in_strValue,
+                    std::span<const std::string_view> in_aKeywords ) noexcept
+        : m_pElement( in_pElement ),
+          m_szAttribute( in_szAttribute ),
+          m_strValue( in_strValue ),
+          m_aKeywords( in_aKeywords ) {}
 
     void locate( Finding& inout_finding ) const override {
         locateElement( m_pElement, inout_finding );
+        inout_finding.eKind = Finding::Kind::INVALID_VALUE;
+        inout_finding.strRule = Rules::INVALID_VALUE;
         inout_finding.strAttribute = m_szAttribute;
         inout_finding.strValue = m_strValue;
+        inout_finding.strHint = describeValues( m_aKeywords );
     }
 
 private:
     const xmlNode* m_pElement;
     const char* m_szAttribute;
     std::string_view m_strValue;
+    std::span<const std::string_view> m_aKeywords;
 };
 
 } // namespace
@@ -64,27 +74,34 @@ xmlNode* AttributeReader::requireChild( const char* in_szName ) const {
 void AttributeReader::reportMissing( const char* in_szAttribute ) const {
     Finding finding;
     finding.eKind = Finding::Kind::MISSING_ATTRIBUTE;
+    finding.strRule = Rules::MISSING_ATTRIBUTE;
     finding.strAttribute = in_szAttribute;
-    report( std::move( finding ), m_pWording->strMissingLead, m_pWording->strMissingNoun, m_pWording->strMissingTail );
+    reportMissing( std::move( finding ) );
 }
 
 void AttributeReader::reportMissingChild( std::string_view in_strName ) const {
     Finding finding;
     finding.eKind = Finding::Kind::MISSING_ELEMENT;
+    finding.strRule = Rules::MISSING_ELEMENT;
     finding.strAttribute = in_strName;
-    report( std::move( finding ), m_pWording->strMissingLead, m_pWording->strMissingNoun, m_pWording->strMissingTail );
+    reportMissing( std::move( finding ) );
 }
 
-void AttributeReader::reportInvalid( const char* in_szAttribute, std::string_view in_strValue,
-                                     std::string_view in_strHint ) const {
+void AttributeReader::reportMissing( Finding in_finding ) const {
+    const std::string strMiddle = in_finding.strAttribute + std::string( m_pWording->strMissingNoun );
+    report( std::move( in_finding ), m_pWording->strMissingLead, strMiddle, m_pWording->strMissingTail );
+}
+
+void AttributeReader::reportInvalid( const RefusedValue& in_refused, std::string_view in_strHint ) const {
     Finding finding;
     finding.eKind = Finding::Kind::INVALID_VALUE;
-    finding.strAttribute = in_szAttribute;
-    finding.strValue = in_strValue;
-    finding.strHint = in_strHint;
-    const std::string strMiddle = "=" + finding.strValue + std::string( m_pWording->strInvalidNoun );
-    const std::string strTail = ". " + finding.strHint;
-    report( std::move( finding ), m_pWording->strInvalidLead, strMiddle, strTail );
+    finding.strRule = in_refused.szRule;
+    finding.strAttribute = in_refused.szAttribute;
+    finding.strValue = in_refused.strValue;
+    finding.strHint = in_refused.strAdvice.empty() ? in_strHint : in_refused.strAdvice;
+    const char* const szName = in_refused.szReportedName ? in_refused.szReportedName : in_refused.szAttribute;
+    const std::string strMiddle = szName + ( "=" + finding.strValue ) + std::string( m_pWording->strInvalidNoun );
+    report( std::move( finding ), m_pWording->strInvalidLead, strMiddle, ". " + std::string( in_strHint ) );
 }
 
 void AttributeReader::report( Finding in_finding, std::string_view in_strLead, std::string_view in_strMiddle,
@@ -93,22 +110,16 @@ void AttributeReader::report( Finding in_finding, std::string_view in_strLead, s
     in_finding.strText.append( in_strLead )
         .append( in_finding.strElementPath )
         .append( "/" )
-        .append( in_finding.strAttribute )
         .append( in_strMiddle )
         .append( getName() );
-    reportDeclared( std::move( in_finding ), in_strTail );
+    const std::string strSubject = std::move( in_finding.strText );
+    reportDeclared( strSubject, in_strTail, std::move( in_finding ) );
 }
 
 void AttributeReader::reportDeclared( std::string_view in_strSubject, std::string_view in_strTail,
-                                      int in_nLevel ) const {
-    Finding finding;
-    finding.nLevel = in_nLevel;
-    finding.strText = in_strSubject;
-    reportDeclared( std::move( finding ), in_strTail );
-}
-
-void AttributeReader::reportDeclared( Finding in_finding, std::string_view in_strTail ) const {
+                                      Finding in_finding ) const {
     locateElement( m_pElement, in_finding );
+    in_finding.strText = in_strSubject;
     in_finding.strMessage = in_finding.strText + std::string( in_strTail );
     in_finding.strText.append( " declared in file " )
         .append( in_finding.strFile )
@@ -125,7 +136,7 @@ void AttributeReader::assertKeyword( const char* in_szAttribute, std::string_vie
         strExpression.append( strExpression.empty() ? "" : " || " ).append( in_szAttribute );
         strExpression.append( " == \"" ).append( strKeyword ).append( "\"" );
     }
-    const AttributePlace place( m_pElement, in_szAttribute, in_strValue );
+    const AttributePlace place( m_pElement, in_szAttribute, in_strValue, in_aKeywords );
     const Assertion assertion( false, strExpression.c_str(), in_where.szFile, in_where.nLine );
 }
 

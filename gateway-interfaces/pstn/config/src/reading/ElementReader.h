@@ -8,6 +8,7 @@
 
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
 #include "SourcePlace.h"
 #include "document/Element.h"
 #include "reading/KeywordTable.h"
@@ -128,8 +129,9 @@ public:
         if ( number )
             out_number = *number;
         else
-            reportInvalid( in_rule.szReportedName ? in_rule.szReportedName : in_szAttribute, in_text.view(),
-                           in_rule.strHint );
+            reportInvalid(
+                { in_szAttribute, in_rule.szReportedName, in_text.view(), Rules::INVALID_VALUE, describeNumbers<T>() },
+                in_rule.strHint );
         return number.has_value();
     }
 
@@ -140,7 +142,9 @@ public:
         if ( pValue )
             out_value = *pValue;
         else
-            reportInvalid( in_szAttribute, in_text.view(), in_rule.strHint );
+            reportInvalid( { in_szAttribute, nullptr, in_text.view(), Rules::INVALID_VALUE,
+                             describeValues( in_rule.table.getKeywords() ) },
+                           in_rule.strHint );
         return pValue != nullptr;
     }
 
@@ -174,14 +178,27 @@ public:
     /// Reports that a required child element is missing; `in_strName` may name alternatives.
     void reportMissingChild( std::string_view in_strName ) const;
     /// Reports that the value is refused.
-    void reportInvalid( const char* in_szAttribute, std::string_view in_strValue,
-                        std::string_view in_strHint = {} ) const;
+    void reportInvalid( const char* in_szAttribute, std::string_view in_strValue, std::string_view in_strHint = {},
+                        const char* in_szRule = Rules::INVALID_VALUE ) const {
+        reportInvalid( { in_szAttribute, nullptr, in_strValue, in_szRule, {} }, in_strHint );
+    }
+
+    /// A value that is refused.
+    struct RefusedValue {
+        const char* szAttribute;
+        const char* szReportedName; ///< the attribute's name in the log line; null for the attribute's own
+        std::string_view strValue;
+        const char* szRule;
+        std::string strAdvice; ///< what would be right, for people; empty when the log line's hint says it
+    };
+    /// @param in_strHint the end of the log line
+    void reportInvalid( const RefusedValue& in_refused, std::string_view in_strHint ) const;
     /// Reports subject + " declared in file " + file + " at line " + line + tail.
-    void reportDeclared( std::string_view in_strSubject, std::string_view in_strTail,
-                         int in_nLevel = Logger::ERROR_LEVEL ) const;
+    /// @param in_finding holds what else is known of the fault
+    void reportDeclared( std::string_view in_strSubject, std::string_view in_strTail, Finding in_finding = {} ) const;
 
 private:
-    void reportDeclared( Finding in_finding, std::string_view in_strTail ) const;
+    void reportMissing( Finding in_finding ) const;
     void report( Finding in_finding, std::string_view in_strLead, std::string_view in_strMiddle,
                  std::string_view in_strTail ) const;
     void assertKeyword( const char* in_szAttribute, std::string_view in_strValue,

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace Velquin::Pstn {
@@ -54,6 +55,19 @@ private:
     std::array<KeywordEntry<E>, N> m_aEntries;
     std::array<std::string_view, N> m_aKeywords;
 };
+
+/// "Valid values are A, B and C."
+/// @param in_values the values as texts, at least one
+template <class TValues>
+std::string describeValues( const TValues& in_values ) {
+    std::string strText = in_values.size() == 1 ? "The only valid value is " : "Valid values are ";
+    for ( std::size_t u = 0; u < in_values.size(); ++u ) {
+        if ( u > 0 )
+            strText += u + 1 == in_values.size() ? " and " : ", ";
+        strText += in_values[u];
+    }
+    return strText += '.';
+}
 
 /// Makes the table of an enumeration. A table with a keyword twice does not compile.
 template <class E, std::size_t N>

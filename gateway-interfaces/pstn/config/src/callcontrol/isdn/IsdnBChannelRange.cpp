@@ -19,7 +19,8 @@ bool IsdnBChannelRange::read( const AttributeReader& in_reader, const CallContro
         return false;
     hChannelGroup = in_callControlConfig.getChannelGroupConfig( channelGroupId.c_str() );
     if ( hChannelGroup.isNull() ) {
-        VELQUIN_REPORT_ERROR( in_logger, "Could not retrieve channel group config " << channelGroupId.view() );
+        VELQUIN_REPORT( in_logger, ( Fault{ Rules::UNKNOWN_CHANNEL_GROUP, "channelGroupID", channelGroupId.c_str() } ),
+                        "Could not retrieve channel group config " << channelGroupId.view() );
         return false;
     }
     const NumberRule firstChannel{ NumberPolicy::WHOLE, CHANNEL_HINT, in_wording.szFirstChannelName };
@@ -27,11 +28,15 @@ bool IsdnBChannelRange::read( const AttributeReader& in_reader, const CallContro
     if ( !in_reader.as( in_wording.firstChannel ).require( "firstChannel", firstChannel, uFirstChannel ) ||
          !in_reader.as( in_wording.lastChannel ).require( "lastChannel", lastChannel, uLastChannel ) )
         return false;
-    if ( uFirstChannel > uLastChannel )
+    if ( uFirstChannel > uLastChannel ) {
+        Finding finding;
+        finding.strRule = Rules::CHANNELS_SWAPPED;
+        finding.nLevel = Logger::WARNING_LEVEL;
         in_reader.reportDeclared( "B-Channel range [" + std::to_string( uFirstChannel ) + ".." +
                                       std::to_string( uLastChannel ) + "] without channels",
                                   ". Make sure that firstChannel is not greater than lastChannel.",
-                                  Logger::WARNING_LEVEL );
+                                  std::move( finding ) );
+    }
     return true;
 }
 

@@ -6,6 +6,8 @@
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
+
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( IsdnFasConfig );
@@ -14,9 +16,10 @@ bool IsdnFasConfig::addApplyToDigitalInterface( TSHandle<DigitalInterfaceConfig>
     if ( !VELQUIN_ASSERT( !in_hDigitalInterface.isNull() ) )
         return false;
     if ( !in_hDigitalInterface->hasDChannel() ) {
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to apply ISDN configuration to interface "
-                                               << in_hDigitalInterface->getUniqueId( false )
-                                               << "because the interface does not have a D-Channel." );
+        VELQUIN_REPORT( getLogger(), Fault{ Rules::NO_D_CHANNEL },
+                        "failed to apply ISDN configuration to interface "
+                            << in_hDigitalInterface->getUniqueId( false )
+                            << "because the interface does not have a D-Channel." );
         return false;
     }
     VELQUIN_LOG_DEBUG( getLogger(), "adding interface=" << in_hDigitalInterface->getUniqueId( false )

@@ -5,6 +5,8 @@
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
+
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( IsdnNfasConfig );
@@ -18,16 +20,17 @@ bool IsdnNfasConfig::addMemberInterface( TSHandle<IsdnNfasGroupMemberConfig>& in
     const unsigned long long ullNfasInterfaceID = in_hNfasGroupMember->getNfasInterfaceID();
     if ( const auto it = m_membersByNfasInterfaceID.find( ullNfasInterfaceID );
          it != m_membersByNfasInterfaceID.end() ) {
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to insert the interface "
-                                               << szUniqueId << " in NFAS group " << getId()
-                                               << " because the NfasInterfaceID=" << ullNfasInterfaceID
-                                               << " is already used by interface "
-                                               << it->second->getInterfaceConfig()->getUniqueId( false ) );
+        VELQUIN_REPORT(
+            getLogger(),
+            ( Fault{ Rules::IDENTIFIER_TWICE, "nfasInterfaceID", std::to_string( ullNfasInterfaceID ), "" } ),
+            "failed to insert the interface "
+                << szUniqueId << " in NFAS group " << getId() << " because the NfasInterfaceID=" << ullNfasInterfaceID
+                << " is already used by interface " << it->second->getInterfaceConfig()->getUniqueId( false ) );
         return false;
     }
     if ( !m_members.insert( szUniqueId, in_hNfasGroupMember ) ) {
-        VELQUIN_REPORT_ERROR( getLogger(),
-                              "interface " << szUniqueId << " is already associated with NFAS group " << getId() );
+        VELQUIN_REPORT( getLogger(), Fault{ Rules::NFAS_MEMBER_TWICE },
+                        "interface " << szUniqueId << " is already associated with NFAS group " << getId() );
         return false;
     }
     in_hNfasGroupMember->m_bInGroup = true;

@@ -3,6 +3,8 @@
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
+
 namespace Velquin::Pstn {
 
 PSTN_CONFIG_CLASS_IMPL( IsdnNfasGroupMemberConfig );
@@ -34,18 +36,20 @@ bool IsdnNfasGroupMemberConfig::setInterfaceMember( TSHandle<DigitalInterfaceCon
     const bool bDChannel = in_hInterfaceConfig->hasDChannel();
     const char* const szUniqueId = in_hInterfaceConfig->getUniqueId( false );
     if ( m_eDChannelMode != DChannelMode::DISABLED && !bDChannel ) {
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to add interface "
-                                               << szUniqueId
-                                               << " to NFAS group because the interface does not have a D-Channel to "
-                                                  "play the role of PRIMARY or BACKUP interface." );
+        VELQUIN_REPORT( getLogger(), Fault{ Rules::NO_D_CHANNEL },
+                        "failed to add interface "
+                            << szUniqueId
+                            << " to NFAS group because the interface does not have a D-Channel to "
+                               "play the role of PRIMARY or BACKUP interface." );
         return false;
     }
     if ( m_eDChannelMode == DChannelMode::DISABLED && bDChannel ) {
-        VELQUIN_REPORT_ERROR( getLogger(), "failed to add interface "
-                                               << szUniqueId
-                                               << " to NFAS group as a slave because the D-Channel Mode of the "
-                                                  "interface is set to DISABLED, but the D-Channel is ENABLED in the "
-                                                  "physical configuration." );
+        VELQUIN_REPORT( getLogger(), Fault{ Rules::UNUSED_D_CHANNEL },
+                        "failed to add interface "
+                            << szUniqueId
+                            << " to NFAS group as a slave because the D-Channel Mode of the "
+                               "interface is set to DISABLED, but the D-Channel is ENABLED in the "
+                               "physical configuration." );
         return false;
     }
     VELQUIN_LOG_DEBUG( getLogger(), "adding interface=" << szUniqueId << " to ISDN NFAS group nfasInterfaceID="
