@@ -41,11 +41,11 @@ TEST( Tool, PrintsFindingsAndTheWorstExitCode ) {
     EXPECT_EQ(
         result.strOutput,
         COMPLETE + ": valid\n" +
-            document.expand( "{file}:{line}: error: invalid value \"T1#B\" of attribute \"displayName\": Display "
-                             "name may contains spaces, '-', '_' and alpha numeric characters. "
+            document.expand( "{file}:{line}: error: displayName=\"T1#B\": display "
+                             "name may contains spaces, '-', '_' and alpha numeric characters "
                              "[/pstnConfig/boards/tirvanaDigitalBoard[2]/interface[2]]\n"
-                             "{file}:{line:/tirvanaDigitalBoard[2]}: error: Configuration of the board "
-                             "tirvanaDigitalBoard contains one ore more errors. "
+                             "{file}:{line:/tirvanaDigitalBoard[2]}: error: configuration of the board "
+                             "tirvanaDigitalBoard contains one ore more errors "
                              "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n{file}: invalid (2 errors)\n",
                              strFile ) );
 
@@ -73,9 +73,9 @@ TEST( Tool, PrintsWarningsWithTheirValuesOnOneLine ) {
     const ToolResult result = runTool( "check " + file.getPath() + " --schema " + ANY_SCHEMA );
     EXPECT_EQ( result.nExitCode, 0 );
     EXPECT_EQ( result.strOutput,
-               document.expand( "{file}:{line}: warning: invalid value \"0?0\" of attribute "
-                                "\"InternationalDialingSpecialCharacterSubstitute\": It must contain only digits; 011 "
-                                "is used. [/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling/dial]\n"
+               document.expand( "{file}:{line}: warning: "
+                                "InternationalDialingSpecialCharacterSubstitute=\"0?0\": it must contain only digits; "
+                                "011 is used [/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling/dial]\n"
                                 "{file}: valid (1 warning)\n",
                                 file.getPath() ) );
 }
