@@ -10,7 +10,7 @@ namespace Velquin::Pstn {
 
 /// How much a broken rule hurts.
 enum class Severity {
-    ERROR,   ///< the gateway refuses the file, or leaves out a part of it
+    FAULT,   ///< the gateway refuses the file, or leaves out a part of it
     WARNING, ///< the gateway loads the file, and something will not work as meant
     NOTE,    ///< the gateway loads the file; somebody may have meant something else
 };

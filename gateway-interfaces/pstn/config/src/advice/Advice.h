@@ -1,0 +1,22 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include <velquin/Finding.h>
+
+#include "hardware/Config.h"
+#include "reading/XmlNodeFwd.h"
+#include "survey/Rules.h"
+
+namespace Velquin::Pstn {
+
+/// The rules of the advice, in the order of their table.
+std::span<const Rule> getAdviceRules() noexcept;
+
+/// What a careful colleague would say of a model that loads, or of the part that could be read. Logs nothing.
+/// @param in_pRoot the root element from which the model was read
+/// @return findings at WARNING, or at INFO for notes, with file, line, element, attribute, value and hint
+std::vector<Finding> advise( const Config& in_config, const xmlNode* in_pRoot );
+
+} // namespace Velquin::Pstn
