@@ -43,7 +43,7 @@ struct Finding {
 
     Kind eKind = Kind::OTHER;
     std::string strRule; ///< stable name of what is wrong: "missing-attribute"; empty when it only follows from another
-    int nLevel = Logger::ERROR_LEVEL;  ///< Logger::WARNING_LEVEL or Logger::ERROR_LEVEL
+    int nLevel = Logger::ERROR_LEVEL;  ///< ERROR_LEVEL, WARNING_LEVEL or, for a note, INFO_LEVEL of Logger
     std::string strLogger;             ///< name of the logger that has the line
     std::string strFile;               ///< the file as the program named it; empty when no file is concerned
     unsigned long long ullLine = 0;    ///< line in the file, from 1; 0 when unknown
@@ -54,8 +54,9 @@ struct Finding {
     std::string strMessage;            ///< the text without file and line; empty where the text has neither
     std::string strText;               ///< the whole log line
     unsigned long long ullElement = 0; ///< number of the element in its file, in the order of start tags, from 1
-    SourceSpan span{};                 ///< attribute or element, where a survey looked for it; else all 0
-    bool bEcho = false;                ///< whether it only follows from another finding; a survey tells
+    SourceSpan span{};      ///< of the attribute or of the element's name; all 0 unless a survey looked for it
+    SourceSpan valueSpan{}; ///< of the attribute's value without its quotes; all 0 for an element
+    bool bEcho = false;     ///< whether it only follows from another finding; a survey tells
     std::vector<Related> vecRelated;
 };
 

@@ -38,16 +38,15 @@ TEST( Tool, PrintsFindingsAndTheWorstExitCode ) {
     const std::string strFile = wrong.getPath();
     const ToolResult result = runTool( "check " + COMPLETE + " " + strFile + strAnySchema );
     EXPECT_EQ( result.nExitCode, 1 );
-    EXPECT_EQ(
-        result.strOutput,
-        COMPLETE + ": valid\n" +
-            document.expand( "{file}:{line}: error: displayName=\"T1#B\": display "
-                             "name may contains spaces, '-', '_' and alpha numeric characters "
-                             "[/pstnConfig/boards/tirvanaDigitalBoard[2]/interface[2]]\n"
-                             "{file}:{line:/tirvanaDigitalBoard[2]}: error: configuration of the board "
-                             "tirvanaDigitalBoard contains one ore more errors "
-                             "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n{file}: invalid (2 errors)\n",
-                             strFile ) );
+    EXPECT_EQ( result.strOutput,
+               COMPLETE + ": valid\n" +
+                   document.expand( "{file}:{line}: error: displayName=\"T1#B\": display "
+                                    "name may contains spaces, '-', '_' and alpha numeric characters "
+                                    "[/pstnConfig/boards/tirvanaDigitalBoard[2]/interface[2]]\n"
+                                    "{file}:{line:/tirvanaDigitalBoard[2]}: error: configuration of the board "
+                                    "tirvanaDigitalBoard contains one ore more errors "
+                                    "[/pstnConfig/boards/tirvanaDigitalBoard[2]]\n{file}: invalid (2 errors)\n",
+                                    strFile ) );
 
     const auto expectPrinted = [&]( const TestDocument& in_document, const std::string& in_strLine ) {
         const TemporaryFile file( in_document.getText() );
@@ -72,12 +71,13 @@ TEST( Tool, PrintsWarningsWithTheirValuesOnOneLine ) {
     const TemporaryFile file( document.getText() );
     const ToolResult result = runTool( "check " + file.getPath() + " --schema " + ANY_SCHEMA );
     EXPECT_EQ( result.nExitCode, 0 );
-    EXPECT_EQ( result.strOutput,
-               document.expand( "{file}:{line}: warning: "
-                                "InternationalDialingSpecialCharacterSubstitute=\"0?0\": it must contain only digits; "
-                                "011 is used [/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling/dial]\n"
-                                "{file}: valid (1 warning)\n",
-                                file.getPath() ) );
+    EXPECT_EQ(
+        result.strOutput,
+        document.expand( "{file}:{line}: warning: "
+                         "InternationalDialingSpecialCharacterSubstitute=\"0?0\": it must contain only digits; "
+                         "011 is used [/pstnConfig/callControl/analog/analogFxoConfig/outboundCallHandling/dial]\n"
+                         "{file}: valid (1 warning)\n",
+                         file.getPath() ) );
 }
 
 TEST( Tool, CountsTheErrorsOfAFileThatLoadsAllTheSame ) {

@@ -59,10 +59,10 @@ AnalogDisconnectSupervisionConfig* AnalogDisconnectSupervisionConfigXmlSerialize
     xmlNode* const pRingCadence = XML::findFirstElement( pDetectors, "ringCadenceDetector" );
     if ( pRingCadence && !readRingCadence( pRingCadence, getLogger(), *pDisconnectConfig ) )
         return nullptr;
-    const bool bRead = readEntries( ChildElements( pDetectors, "detector" ), [&]( xmlNode* in_pDetector ) {
+    const EntriesRead eRead = walkEntries( ChildElements( pDetectors, "detector" ), [&]( xmlNode* in_pDetector ) {
         return readDetector( in_pDetector, getLogger(), *pDisconnectConfig );
     } );
-    return bRead ? pDisconnectConfig.release() : nullptr;
+    return eRead == EntriesRead::ALL ? pDisconnectConfig.release() : nullptr;
 }
 VELQUIN_CATCH_AND_RETURN( getLogger(), nullptr )
 

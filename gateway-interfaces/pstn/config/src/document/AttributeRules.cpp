@@ -6,6 +6,8 @@
 #include <libxml/xmlregexp.h>
 #include <libxml/xmlschemastypes.h>
 
+#include "RuleNames.h"
+#include "Suggestion.h"
 #include "document/Element.h"
 #include "reading/ChildElements.h"
 #include "reading/ElementReader.h"
@@ -16,15 +18,12 @@ namespace {
 
 constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
 
-std::string describe( const std::vector<std::string>& in_vecValues ) {
-    std::string strText = in_vecValues.size() == 1 ? "The only valid value is " : "Valid values are ";
-    for ( std::size_t u = 0; u < in_vecValues.size(); ++u ) {
-        if ( u > 0 )
-            strText += u + 1 == in_vecValues.size() ? " and " : ", ";
-        strText += in_vecValues[u];
-    }
-    strText += '.';
-    return strText;
+template <class TMap>
+std::vector<std::string> getNames( const TMap& in_map ) {
+    std::vector<std::string> vecNames;
+    for ( const auto& [strName, value] : in_map )
+        vecNames.push_back( strName );
+    return vecNames;
 }
 
 struct RegexpDeleter {
@@ -83,9 +82,9 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
         AttributeText text;
         if ( !findAttribute( m_pElement, strName.c_str(), text ) ) {
             if ( rule.bRequired )
-                vecFaults.push_back( { strName, {} } );
+                vecFaults.push_back( { strName, Rules::MISSING_ATTRIBUTE, {}, getAdvice( rule ) } );
         } else if ( std::string strHint = getHint( rule, text.c_str() ); !strHint.empty() ) {
-            vecFaults.push_back( { strName, std::move( strHint ) } );
+            vecFaults.push_back( { strName, Rules::INVALID_VALUE, std::move( strHint ), getAdvice( rule ) } );
         }
     }
     // A file full of attributes gets no line for each of them.
@@ -95,7 +94,8 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
         const char* const szName = fromXml( pAttribute->name );
         if ( pAttribute->ns || m_rules.contains( szName ) )
             continue;
-        vecFaults.push_back( { szName, "The element has no such attribute." } );
+        vecFaults.push_back( { szName, Rules::UNKNOWN_ATTRIBUTE, "The element has no such attribute.",
+                               describeNames( szName, getNames( m_rules ) ) } );
         ++uUnknown;
     }
     return vecFaults;
@@ -114,17 +114,29 @@ std::string AttributeRules::getHint( const Rule& in_rule, const char* in_szValue
         if ( strHint.empty() )
             strHint = strHintOfData;
     }
-    return strHint.empty() ? describe( vecValues ) : strHint;
+    return strHint.empty() ? describeValues( vecValues ) : strHint;
+}
+
+/// What the rule takes, in the words for people; empty where any text is right or no words are known.
+std::string AttributeRules::getAdvice( const Rule& in_rule ) {
+    if ( in_rule.bAnyValue )
+        return {};
+    if ( in_rule.vecData.empty() )
+        return describeValues( in_rule.vecValues );
+    const std::string strType = getPatternAttribute( in_rule.vecData.front(), "type" );
+    return strType == "unsignedInt"    ? describeNumbers<unsigned int>()
+           : strType == "unsignedLong" ? describeNumbers<unsigned long long>()
+                                       : std::string();
 }
 
 /// Collects the attributes that stand directly in the content of a pattern.
-void AttributeRules::collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules ) {
+void AttributeRules::collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules ) {
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
         collectFrom( pChild, in_bRequired, out_rules );
 }
 
 /// Collects the attributes that a pattern gives to the element around it.
-void AttributeRules::collectFrom( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules ) {
+void AttributeRules::collectFrom( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules ) {
     const SchemaPatterns::Step step( m_patterns );
     if ( m_patterns.isLost() )
         return;
@@ -153,9 +165,9 @@ bool AttributeRules::agrees( const std::string& in_strAttribute, const Rule& in_
 }
 
 /// Whether all of them have a rule of that kind for the attribute.
-bool AttributeRules::haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
+bool AttributeRules::haveAll( const std::vector<RulesByName>& in_vecRules, const std::string& in_strAttribute,
                               bool ( Rule::*in_has )() const noexcept ) {
-    return std::all_of( in_vecRules.begin(), in_vecRules.end(), [&]( const Rules& in_rules ) {
+    return std::all_of( in_vecRules.begin(), in_vecRules.end(), [&]( const RulesByName& in_rules ) {
         const auto it = in_rules.find( in_strAttribute );
         return it != in_rules.end() && ( it->second.*in_has )();
     } );
@@ -163,13 +175,13 @@ bool AttributeRules::haveAll( const std::vector<Rules>& in_vecRules, const std::
 
 /// An element means the alternatives with which it agrees most. Only attributes that have keywords in all alternatives
 /// count for that. An attribute is required if all alternatives that the element means require it.
-void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired, Rules& out_rules ) {
-    std::vector<Rules> vecAlternatives;
+void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired, RulesByName& out_rules ) {
+    std::vector<RulesByName> vecAlternatives;
     for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) )
         collectFrom( pAlternative, true, vecAlternatives.emplace_back() );
-    std::vector<Rules> vecMeant;
+    std::vector<RulesByName> vecMeant;
     std::ptrdiff_t nMost = 0;
-    for ( const Rules& rules : vecAlternatives ) {
+    for ( const RulesByName& rules : vecAlternatives ) {
         const auto nAgreeing = std::count_if( rules.begin(), rules.end(), [&]( const auto& in_entry ) {
             return haveAll( vecAlternatives, in_entry.first, &Rule::hasKeywordsOnly ) &&
                    agrees( in_entry.first, in_entry.second );
@@ -180,7 +192,7 @@ void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired
             vecMeant.push_back( rules );
         nMost = std::max( nMost, nAgreeing );
     }
-    for ( const Rules& rules : vecMeant ) {
+    for ( const RulesByName& rules : vecMeant ) {
         for ( const auto& [strName, rule] : rules ) {
             Rule& merged = out_rules[strName];
             merged.bRequired = merged.bRequired || ( in_bRequired && haveAll( vecMeant, strName, &Rule::isRequired ) );

@@ -14,7 +14,9 @@ public:
     /// An attribute that is missing or has a wrong value.
     struct Fault {
         std::string strAttribute;
-        std::string strHint; ///< what would be right; empty when the attribute is missing
+        const char* szRule;
+        std::string strHint;   ///< what would be right, as the log says it; empty when the attribute is missing
+        std::string strAdvice; ///< the same for people; empty when strHint says it
     };
 
     /// @param in_vecPatterns the patterns of the element
@@ -35,20 +37,21 @@ private:
         bool isRequired() const noexcept { return bRequired; }
         bool hasKeywordsOnly() const noexcept { return !bAnyValue && vecData.empty(); }
     };
-    using Rules = std::map<std::string, Rule, std::less<>>;
+    using RulesByName = std::map<std::string, Rule, std::less<>>;
 
-    static bool haveAll( const std::vector<Rules>& in_vecRules, const std::string& in_strAttribute,
+    static bool haveAll( const std::vector<RulesByName>& in_vecRules, const std::string& in_strAttribute,
                          bool ( Rule::*in_has )() const noexcept );
     static std::string getHint( const Rule& in_rule, const char* in_szValue );
+    static std::string getAdvice( const Rule& in_rule );
     bool agrees( const std::string& in_strAttribute, const Rule& in_rule ) const;
-    void collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules );
-    void collectFrom( const xmlNode* in_pPattern, bool in_bRequired, Rules& out_rules );
-    void collectChoice( const xmlNode* in_pChoice, bool in_bRequired, Rules& out_rules );
+    void collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules );
+    void collectFrom( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules );
+    void collectChoice( const xmlNode* in_pChoice, bool in_bRequired, RulesByName& out_rules );
     void collectValues( const xmlNode* in_pPattern, Rule& out_rule );
 
     SchemaPatterns& m_patterns;
     const xmlNode* m_pElement;
-    Rules m_rules;
+    RulesByName m_rules;
     bool m_bKnown = false;
 };
 

@@ -43,6 +43,15 @@ std::string getElementPath( const xmlNode* in_pElement ) {
     return fromXml( XmlStringPtr( xmlGetNodePath( const_cast<xmlNode*>( in_pElement ) ) ).get() );
 }
 
+const xmlNode* getParentElement( const xmlNode* in_pElement ) noexcept {
+    const xmlNode* const pParent = in_pElement->parent;
+    return pParent && pParent->type == XML_ELEMENT_NODE ? pParent : nullptr;
+}
+
+const char* getElementEncoding( const xmlNode* in_pElement ) noexcept {
+    return reinterpret_cast<const char*>( in_pElement->doc->encoding );
+}
+
 bool hasNamespace( const xmlNode* in_pElement ) noexcept {
     return in_pElement->ns != nullptr;
 }

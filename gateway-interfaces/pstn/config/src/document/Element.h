@@ -34,6 +34,12 @@ unsigned long long getElementNumber( const xmlNode* in_pElement ) noexcept;
 /// written.
 std::string getElementPath( const xmlNode* in_pElement );
 
+/// The element in which the element stands; null for a root.
+const xmlNode* getParentElement( const xmlNode* in_pElement ) noexcept;
+
+/// The encoding that the element's document declares; null when it declares none.
+const char* getElementEncoding( const xmlNode* in_pElement ) noexcept;
+
 /// Whether the element's name has a namespace.
 bool hasNamespace( const xmlNode* in_pElement ) noexcept;
 

@@ -160,6 +160,10 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
         if ( const char* const szFile = getElementFile( pNode ); *szFile != '\0' )
             finding.strFile = szFile;
     }
+    if ( in_error.domain == XML_FROM_PARSER && in_error.int2 > 0 ) {
+        const auto ullColumn = static_cast<unsigned long long>( in_error.int2 );
+        finding.span = { finding.ullLine, ullColumn, ullColumn };
+    }
     const bool bLast = ++inout_uErrors > MAX_ERRORS;
     finding.nLevel = bLast ? Logger::ERROR_LEVEL : in_nLevel;
     finding.strMessage = bLast ? "Too many errors, this one and the rest are not listed" : getMessage( in_error );

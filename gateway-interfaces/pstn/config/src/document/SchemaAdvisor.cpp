@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "Suggestion.h"
 #include "document/AttributeRules.h"
 #include "document/Element.h"
 #include "reading/ChildElements.h"
@@ -13,26 +14,75 @@ namespace {
 
 constexpr ReaderWording ATTRIBUTE_WORDING{ "] for element ", "] for element ", "Missing attribute [" };
 constexpr ReaderWording CHILD_WORDING{ "] for element ", "", "Missing element [" };
+constexpr unsigned int MAX_FAULTY_ELEMENTS = 1000;
 
 } // namespace
 
 void SchemaAdvisor::adviseOnAttributes( xmlNode* in_pElement ) {
     m_patterns.beginElement();
+    adviseOnAttributes( in_pElement, m_patterns.find( in_pElement ) );
+}
+
+/// @return whether something is wrong
+bool SchemaAdvisor::adviseOnAttributes( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns ) {
     const ElementReader reader( in_pElement, m_logger, ATTRIBUTE_WORDING );
-    const AttributeRules rules( m_patterns, m_patterns.find( in_pElement ), in_pElement );
-    for ( const AttributeRules::Fault& fault : rules.findFaults() ) {
+    const AttributeRules rules( m_patterns, in_vecPatterns, in_pElement );
+    const std::vector<AttributeRules::Fault> vecFaults = rules.findFaults();
+    for ( const AttributeRules::Fault& fault : vecFaults ) {
+        const char* const szAttribute = fault.strAttribute.c_str();
         AttributeText text;
-        if ( findAttribute( in_pElement, fault.strAttribute.c_str(), text ) )
-            reader.reportInvalid( fault.strAttribute.c_str(), text.view(), fault.strHint );
+        if ( findAttribute( in_pElement, szAttribute, text ) )
+            reader.reportInvalid( { szAttribute, nullptr, text.view(), fault.szRule, fault.strAdvice }, fault.strHint );
         else
-            reader.reportMissing( fault.strAttribute.c_str() );
+            reader.reportMissing( szAttribute, fault.strAdvice );
     }
+    return !vecFaults.empty();
 }
 
 void SchemaAdvisor::adviseOnChildren( xmlNode* in_pElement ) {
     const ElementReader reader( in_pElement, m_logger, CHILD_WORDING );
     for ( const std::string& strName : m_patterns.findMissingChildren( in_pElement ) )
         reader.reportMissingChild( strName );
+}
+
+void SchemaAdvisor::adviseOnDocument( xmlNode* in_pRoot ) {
+    m_patterns.beginElement();
+    const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_pRoot );
+    if ( !vecPatterns.empty() )
+        adviseOnTree( in_pRoot, vecPatterns );
+}
+
+void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns ) {
+    m_patterns.beginElement();
+    bool bFaulty = adviseOnAttributes( in_pElement, in_vecPatterns );
+    std::vector<std::string> vecMissing = m_patterns.findMissingChildren( in_pElement );
+    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
+        m_patterns.beginElement();
+        const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_vecPatterns, pChild );
+        if ( m_patterns.isLost() || m_uFaultyElements >= MAX_FAULTY_ELEMENTS )
+            return;
+        if ( !vecPatterns.empty() ) {
+            adviseOnTree( pChild, vecPatterns );
+            continue;
+        }
+        reportUnknownChild( pChild, in_vecPatterns );
+        std::erase( vecMissing, findNearest( getElementName( pChild ), vecMissing ) ); // it is there, but misspelt
+        bFaulty = true;
+    }
+    const ElementReader reader( in_pElement, m_logger, CHILD_WORDING );
+    for ( const std::string& strName : vecMissing )
+        reader.reportMissingChild( strName );
+    m_uFaultyElements += bFaulty || !vecMissing.empty();
+}
+
+void SchemaAdvisor::reportUnknownChild( xmlNode* in_pChild, const SchemaPatterns::Patterns& in_vecPatterns ) {
+    const AttributeReader reader( in_pChild, m_logger, CHILD_WORDING );
+    Finding finding;
+    finding.eKind = Finding::Kind::UNKNOWN_ELEMENT;
+    finding.strRule = Rules::UNKNOWN_ELEMENT;
+    finding.strAttribute = reader.getName();
+    finding.strHint = describeNames( finding.strAttribute, m_patterns.findChildNames( in_vecPatterns ) );
+    reader.reportDeclared( "Unexpected element [" + getElementPath( in_pChild ) + "]", ".", std::move( finding ) );
 }
 
 std::vector<xmlNode*> SchemaAdvisor::findMisfits( xmlNode* in_pRoot, std::string_view in_strName,

@@ -25,16 +25,24 @@ public:
     /// Reports every child element that the schema requires and the element lacks.
     void adviseOnChildren( xmlNode* in_pElement );
 
+    /// Reports whatever is wrong with the attributes of the element and of all elements in it, which children are
+    /// missing, and which have names that the schema doesn't know there. Stops after a thousand elements with faults.
+    void adviseOnDocument( xmlNode* in_pRoot );
+
     /// The first elements of that name in the document whose attributes the schema refuses.
     /// @param in_uMost how many elements are looked for
     std::vector<xmlNode*> findMisfits( xmlNode* in_pRoot, std::string_view in_strName, std::size_t in_uMost );
 
 private:
+    void adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns );
+    void reportUnknownChild( xmlNode* in_pChild, const SchemaPatterns::Patterns& in_vecPatterns );
+    bool adviseOnAttributes( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns );
     void collectMisfits( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecParents,
                          std::string_view in_strName, std::size_t in_uMost, std::vector<xmlNode*>& out_vecMisfits );
 
     SchemaPatterns m_patterns;
     const Logger& m_logger;
+    unsigned int m_uFaultyElements = 0;
 };
 
 } // namespace Velquin::Pstn

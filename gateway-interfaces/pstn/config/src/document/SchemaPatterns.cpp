@@ -115,7 +115,19 @@ const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecPare
     return it->second;
 }
 
-/// Collects the `element` patterns of that name that stand directly in the content of a pattern.
+std::vector<std::string> SchemaPatterns::findChildNames( const Patterns& in_vecPatterns ) {
+    std::set<const xmlNode*> setSeen;
+    Patterns vecElements;
+    for ( const xmlNode* const pPattern : in_vecPatterns )
+        collectElements( pPattern, {}, setSeen, vecElements );
+    std::vector<std::string> vecNames;
+    for ( const xmlNode* const pElement : vecElements )
+        merge( vecNames, { getPatternAttribute( pElement, "name" ) } );
+    return vecNames;
+}
+
+/// Collects the `element` patterns of that name, or of any name for an empty one, that stand directly in the content of
+/// a pattern.
 void SchemaPatterns::collectElements( const xmlNode* in_pPattern, std::string_view in_strName,
                                       std::set<const xmlNode*>& inout_setSeen, Patterns& out_vecPatterns ) {
     const Step step( *this );
@@ -123,7 +135,7 @@ void SchemaPatterns::collectElements( const xmlNode* in_pPattern, std::string_vi
         return;
     for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
         if ( isPattern( pChild, "element" ) ) {
-            if ( getPatternAttribute( pChild, "name" ) == in_strName )
+            if ( in_strName.empty() || getPatternAttribute( pChild, "name" ) == in_strName )
                 out_vecPatterns.push_back( pChild );
         } else if ( isPattern( pChild, "ref" ) ) {
             for ( const xmlNode* const pDefinition : getDefinitions( pChild ) )

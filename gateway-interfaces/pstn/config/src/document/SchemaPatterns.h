@@ -50,6 +50,9 @@ public:
     /// The names of the required children that the element lacks. Alternatives are one text.
     std::vector<std::string> findMissingChildren( const xmlNode* in_pElement );
 
+    /// The names of all children that the content of the patterns takes, in the order of the schema.
+    std::vector<std::string> findChildNames( const Patterns& in_vecPatterns );
+
 private:
     std::vector<std::string> findMissing( const xmlNode* in_pPattern, const xmlNode* in_pElement );
     std::vector<std::string> findMissingAmong( const xmlNode* in_pPattern, const xmlNode* in_pElement );

@@ -11,6 +11,7 @@
 #include "document/XmlDocumentReader.h"
 #include "reading/ChildElements.h"
 #include "reading/ElementReader.h"
+#include "reading/EntryListener.h"
 
 namespace Velquin::Pstn {
 
@@ -37,10 +38,17 @@ bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
     return false;
 }
 
-/// Reports which attributes are wrong and which children are missing, whether libxml2 named the element or not.
+/// Reports which attributes are wrong and which children are missing, whether libxml2 named the element or not. A
+/// survey asks about every element: libxml2 passes over most faults behind the first.
 void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xmlDoc* in_pDocument,
              const Logger& in_logger ) {
     SchemaAdvisor advisor( in_pSchema, in_logger );
+    if ( EntryListener::getCurrent() ) {
+        for ( const auto& [strName, uTimes] : inout_route.getUnplaced() )
+            inout_route.reportWrongAttributes( strName, nullptr );
+        advisor.adviseOnDocument( xmlDocGetRootElement( in_pDocument ) );
+        return;
+    }
     for ( const auto& [strName, uTimes] : inout_route.getUnplaced() ) {
         // Another error may have named some of them.
         const std::size_t uMost = uTimes + inout_route.getElementsWithWrongAttributes().size();
@@ -117,7 +125,10 @@ XmlDocumentPtr loadAndValidateXmlDocument( const char* in_szConfigFile, const ch
         advise( errorRoute, pSchemaDocument->get(), pDocument->get(), in_logger );
         VELQUIN_REPORT_ERROR( in_logger, "failed to validate PSTN configuration file "
                                              << in_szConfigFile << " against schema " << in_szSchemaFile );
-        return nullptr;
+        EntryListener* const pListener = EntryListener::getCurrent();
+        if ( !pListener )
+            return nullptr;
+        pListener->refuseFile();
     }
     return pDocument;
 }

@@ -8,6 +8,7 @@
 
 #include <velquin/Assertion.h>
 
+#include "RuleNames.h"
 #include "hardware/InterfaceKind.h"
 #include "hardware/TirvanaAnalogBoardConfig.h"
 
@@ -45,12 +46,12 @@ bool gatherInterfaces( const Config& in_config, std::vector<const typename TKind
 }
 
 template <class TInterface>
-void addFinding( const TInterface& in_interface, const char* in_szSubject, const std::string& in_strWhat,
-                 CrossCheckFindings& out_findings ) {
+void addFinding( const TInterface& in_interface, Fault in_fault, const char* in_szSubject,
+                 const std::string& in_strWhat, CrossCheckFindings& out_findings ) {
     std::string strText = in_szSubject;
     strText.append( " \"" ).append( in_interface.getUniqueId( false ) ).append( "\"" ).append( in_strWhat );
     out_findings.push_back( { std::is_same_v<TInterface, AnalogInterfaceConfig>, in_interface.getBoardConfig()->getId(),
-                              in_interface.getId(), std::move( strText ) } );
+                              in_interface.getId(), std::move( in_fault ), std::move( strText ) } );
 }
 
 template <class TInterface>
@@ -58,7 +59,7 @@ void checkPhysicalConfigs( const std::vector<const TInterface*>& in_vecInterface
                            CrossCheckFindings& out_findings ) {
     for ( const TInterface* const pInterface : in_vecInterfaces ) {
         if ( pInterface->getPhysicalConfig().isNull() )
-            addFinding( *pInterface, in_szSubject,
+            addFinding( *pInterface, { Rules::NO_PHYSICAL_CONFIG }, in_szSubject,
                         " has not physical configuration. Please make sure to apply a physical configuration to this "
                         "interface.",
                         out_findings );
@@ -93,6 +94,9 @@ private:
 
 void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out_findings ) {
     TakenNumbers taken;
+    const auto tirpipeTwice = []( unsigned int in_uTirpipe ) {
+        return Fault{ Rules::TIRPIPE_TWICE, "tirpipe", std::to_string( in_uTirpipe ) };
+    };
     const auto describe = []( unsigned int in_uTirpipe ) {
         return " has an already used tirpipe number: " + std::to_string( in_uTirpipe ) +
                ". Please make sure every analog board and Digital interface has a unique tirpipe number.";
@@ -101,14 +105,15 @@ void checkTirpipes( const CrossCheckSubject& in_subject, CrossCheckFindings& out
         const auto* const pBoard = dynamic_cast<const TirvanaAnalogBoardConfig*>( hBoard.get() );
         if ( pBoard && !taken.take( pBoard->getTirpipe() ) )
             out_findings.push_back(
-                { true, uBoardId, std::nullopt,
+                { true, uBoardId, std::nullopt, tirpipeTwice( pBoard->getTirpipe() ),
                   "Analog board \"" + std::to_string( uBoardId ) + "\"" + describe( pBoard->getTirpipe() ) } );
     }
     for ( const DigitalInterfaceConfig* const pDigitalInterface : in_subject.vecDigitalInterfaces ) {
         // A virtual span has no tirpipe number.
         const auto* const pInterface = dynamic_cast<const TirvanaDigitalInterfaceConfig*>( pDigitalInterface );
         if ( pInterface && !taken.take( pInterface->getTirpipe() ) )
-            addFinding( *pDigitalInterface, "Digital Interface", describe( pInterface->getTirpipe() ), out_findings );
+            addFinding( *pDigitalInterface, tirpipeTwice( pInterface->getTirpipe() ), "Digital Interface",
+                        describe( pInterface->getTirpipe() ), out_findings );
     }
 }
 
@@ -121,7 +126,7 @@ void checkCallControl( const std::vector<const TInterface*>& in_vecInterfaces,
     std::sort( in_vecConfigured.begin(), in_vecConfigured.end(), std::less<>() );
     for ( const TInterface* const pInterface : in_vecInterfaces ) {
         if ( !std::binary_search( in_vecConfigured.begin(), in_vecConfigured.end(), pInterface, std::less<>() ) )
-            addFinding( *pInterface, in_szSubject,
+            addFinding( *pInterface, { Rules::NO_CALL_CONTROL }, in_szSubject,
                         " has no call-control configuration. Please make sure to apply a call- control configuration "
                         "to this interface.",
                         out_findings );

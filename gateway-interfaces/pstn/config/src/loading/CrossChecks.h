@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <velquin/Finding.h>
+
 #include "hardware/Config.h"
 
 namespace Velquin::Pstn {
@@ -26,6 +28,7 @@ struct CrossCheckFinding {
     bool bAnalog;
     unsigned int uBoardId;
     std::optional<unsigned int> uInterfaceId; ///< unset when the fault is the board's
+    Fault fault;
     std::string strText;
 };
 using CrossCheckFindings = std::vector<CrossCheckFinding>;

@@ -57,6 +57,7 @@ public:
 
 private:
     enum class Entry { ATTACHED, REFUSED, CONTAINS_ERRORS };
+    using Step = bool ( Impl::* )( const xmlNode* in_pRootNode );
 
     static const Logger& getLogger() { return XmlConfig::getLogger(); }
 
@@ -67,7 +68,7 @@ private:
     bool loadBoardsConfig( const xmlNode* in_pRootNode );
     bool loadInterfacePhysicalsConfig( const xmlNode* in_pRootNode );
     bool loadCallControlConfig( const xmlNode* in_pRootNode );
-    bool crossCheck( const xmlNode* in_pRootNode ) const;
+    bool crossCheck( const xmlNode* in_pRootNode );
 
     XmlConfig* m_pOwner = nullptr; // the copy that is loading
     UniqueObjPtr<XmlSerializerObjectFactory> m_pFactory{ new XmlSerializerObjectFactory() };
@@ -92,8 +93,20 @@ bool XmlConfig::Impl::load( XmlConfig& in_owner, const char* in_szConfigFile, co
     const xmlNode* const pRootNode = pDocument->getRoot();
     if ( !VELQUIN_ASSERT( pRootNode ) )
         return false;
-    return loadProvidersConfig( pRootNode ) && loadBoardsConfig( pRootNode ) &&
-           loadInterfacePhysicalsConfig( pRootNode ) && loadCallControlConfig( pRootNode ) && crossCheck( pRootNode );
+    EntryListener* const pListener = EntryListener::getCurrent();
+    if ( pListener )
+        pListener->beginDocument( pRootNode );
+    for ( const Step step : { &Impl::loadProvidersConfig, &Impl::loadBoardsConfig, &Impl::loadInterfacePhysicalsConfig,
+                              &Impl::loadCallControlConfig, &Impl::crossCheck } ) {
+        if ( ( this->*step )( pRootNode ) )
+            continue;
+        if ( !pListener )
+            return false;
+        pListener->refuseFile();
+    }
+    if ( pListener )
+        pListener->endDocument();
+    return !pListener || !pListener->isFileRefused();
 }
 
 /// Reads the entries of one section, in document order. An absent or empty section is valid.
@@ -184,7 +197,7 @@ bool XmlConfig::Impl::loadCallControlConfig( const xmlNode* in_pRootNode ) {
     return true;
 }
 
-bool XmlConfig::Impl::crossCheck( const xmlNode* in_pRootNode ) const {
+bool XmlConfig::Impl::crossCheck( const xmlNode* in_pRootNode ) {
     ModelLocator locator( in_pRootNode );
     CrossCheckSubject subject( *m_pOwner );
     if ( !subject.gather() )
@@ -196,7 +209,7 @@ bool XmlConfig::Impl::crossCheck( const xmlNode* in_pRootNode ) const {
         for ( CrossCheckFinding& finding : findings ) {
             const auto [pElement, strPath] = locator.find( finding.bAnalog, finding.uBoardId, finding.uInterfaceId );
             const ElementPlace place( pElement ? pElement : in_pRootNode, strPath );
-            reportFinding( getLogger(), Logger::ERROR_LEVEL, std::move( finding.strText ), __FILE__, __LINE__ );
+            reportFinding( getLogger(), std::move( finding.fault ), std::move( finding.strText ), __FILE__, __LINE__ );
         }
         bSound = bSound && findings.empty();
     }

@@ -71,11 +71,12 @@ xmlNode* AttributeReader::requireChild( const char* in_szName ) const {
     return pChild;
 }
 
-void AttributeReader::reportMissing( const char* in_szAttribute ) const {
+void AttributeReader::reportMissing( const char* in_szAttribute, std::string in_strAdvice ) const {
     Finding finding;
     finding.eKind = Finding::Kind::MISSING_ATTRIBUTE;
     finding.strRule = Rules::MISSING_ATTRIBUTE;
     finding.strAttribute = in_szAttribute;
+    finding.strHint = std::move( in_strAdvice );
     reportMissing( std::move( finding ) );
 }
 
@@ -94,7 +95,8 @@ void AttributeReader::reportMissing( Finding in_finding ) const {
 
 void AttributeReader::reportInvalid( const RefusedValue& in_refused, std::string_view in_strHint ) const {
     Finding finding;
-    finding.eKind = Finding::Kind::INVALID_VALUE;
+    const bool bUnknown = std::string_view( in_refused.szRule ) == Rules::UNKNOWN_ATTRIBUTE;
+    finding.eKind = bUnknown ? Finding::Kind::UNKNOWN_ATTRIBUTE : Finding::Kind::INVALID_VALUE;
     finding.strRule = in_refused.szRule;
     finding.strAttribute = in_refused.szAttribute;
     finding.strValue = in_refused.strValue;

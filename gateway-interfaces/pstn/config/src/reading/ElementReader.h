@@ -174,7 +174,8 @@ public:
     xmlNode* requireChild( const char* in_szName ) const;
 
     /// Reports that the attribute is missing.
-    void reportMissing( const char* in_szAttribute ) const;
+    /// @param in_strAdvice what would be right, for people
+    void reportMissing( const char* in_szAttribute, std::string in_strAdvice = {} ) const;
     /// Reports that a required child element is missing; `in_strName` may name alternatives.
     void reportMissingChild( std::string_view in_strName ) const;
     /// Reports that the value is refused.

@@ -1,0 +1,73 @@
+#include "survey/Elements.h"
+
+#include <algorithm>
+
+#include "document/Element.h"
+#include "reading/ChildElements.h"
+#include "reading/Number.h"
+
+namespace Velquin::Pstn {
+
+namespace {
+
+void appendTree( const xmlNode* in_pElement, std::vector<const xmlNode*>& out_vecElements ) {
+    out_vecElements.push_back( in_pElement );
+    for ( const xmlNode* const pChild : ChildElements( in_pElement ) )
+        appendTree( pChild, out_vecElements );
+}
+
+} // namespace
+
+std::string getValue( const xmlNode* in_pElement, const char* in_szAttribute ) {
+    AttributeText text;
+    static_cast<void>( findAttribute( in_pElement, in_szAttribute, text ) );
+    return text.c_str();
+}
+
+std::optional<unsigned int> getNumber( const xmlNode* in_pElement, const char* in_szAttribute ) {
+    return parseNumber<unsigned int>( getValue( in_pElement, in_szAttribute ), NumberPolicy::LEADING );
+}
+
+bool isSameIdentifier( std::string_view in_strX, std::string_view in_strY ) {
+    const auto uX = parseNumber<unsigned int>( in_strX, NumberPolicy::WHOLE );
+    return in_strX == in_strY || ( uX && uX == parseNumber<unsigned int>( in_strY, NumberPolicy::WHOLE ) );
+}
+
+bool isNamed( const xmlNode* in_pElement, std::string_view in_strName ) {
+    return in_strName == getElementName( in_pElement );
+}
+
+bool isWithin( const xmlNode* in_pElement, const xmlNode* in_pAncestor ) {
+    while ( in_pElement && in_pElement != in_pAncestor )
+        in_pElement = getParentElement( in_pElement );
+    return in_pElement != nullptr;
+}
+
+std::vector<const xmlNode*> getChain( const xmlNode* in_pElement ) {
+    std::vector<const xmlNode*> vecChain;
+    for ( const xmlNode* p = in_pElement; p && getParentElement( p ); p = getParentElement( p ) )
+        vecChain.push_back( p );
+    std::reverse( vecChain.begin(), vecChain.end() );
+    return vecChain;
+}
+
+std::vector<const xmlNode*> getTree( const xmlNode* in_pElement ) {
+    std::vector<const xmlNode*> vecElements;
+    appendTree( in_pElement, vecElements );
+    return vecElements;
+}
+
+bool isReference( const xmlNode* in_pElement ) {
+    const xmlNode* const pParent = getParentElement( in_pElement );
+    return pParent && ( isNamed( pParent, "applyTo" ) || isNamed( pParent, "members" ) );
+}
+
+bool isAnalog( const xmlNode* in_pElement ) {
+    const auto vecChain = getChain( in_pElement );
+    return std::any_of( vecChain.begin(), vecChain.end(), []( const xmlNode* in_pOne ) {
+        const std::string_view strName = getElementName( in_pOne );
+        return strName == "analog" || strName.starts_with( "tirvanaAnalog" );
+    } );
+}
+
+} // namespace Velquin::Pstn

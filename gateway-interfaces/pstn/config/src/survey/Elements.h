@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "reading/XmlNodeFwd.h"
+
+namespace Velquin::Pstn {
+
+// What a survey asks of the elements around a finding.
+
+/// The attribute's value; empty when it is absent.
+std::string getValue( const xmlNode* in_pElement, const char* in_szAttribute );
+
+/// The attribute's leading number; nothing when it has none.
+std::optional<unsigned int> getNumber( const xmlNode* in_pElement, const char* in_szAttribute );
+
+/// Whether both texts name one thing: the same number, or the same text.
+bool isSameIdentifier( std::string_view in_strX, std::string_view in_strY );
+
+bool isNamed( const xmlNode* in_pElement, std::string_view in_strName );
+
+/// Whether the first stands in the second, or is it.
+bool isWithin( const xmlNode* in_pElement, const xmlNode* in_pAncestor );
+
+/// The elements from the section (a child of the root) down to the element.
+std::vector<const xmlNode*> getChain( const xmlNode* in_pElement );
+
+/// The element and all elements in it, in document order.
+std::vector<const xmlNode*> getTree( const xmlNode* in_pElement );
+
+/// Whether the element names a board, or should: a reference of `applyTo`, a member of a group.
+bool isReference( const xmlNode* in_pElement );
+
+/// Whether the element is below `analog`, or in the physical configuration of analog lines.
+bool isAnalog( const xmlNode* in_pElement );
+
+} // namespace Velquin::Pstn

@@ -1,0 +1,254 @@
+#include "survey/FindingDetails.h"
+
+#include <algorithm>
+#include <string>
+
+#include "RuleNames.h"
+#include "Suggestion.h"
+#include "document/Element.h"
+#include "reading/ChildElements.h"
+#include "survey/Elements.h"
+
+namespace Velquin::Pstn {
+
+namespace {
+
+constexpr std::size_t MAX_DETAILED = 300; // each may look through the whole document
+
+using Elements = std::vector<const xmlNode*>;
+
+/// Boards of one kind.
+Elements getBoards( const xmlNode* in_pRoot, bool in_bAnalog ) {
+    Elements vecBoards;
+    for ( const xmlNode* const pSection : ChildElements( in_pRoot, "boards" ) ) {
+        for ( const xmlNode* const pBoard : ChildElements( pSection ) ) {
+            if ( isAnalog( pBoard ) == in_bAnalog )
+                vecBoards.push_back( pBoard );
+        }
+    }
+    return vecBoards;
+}
+
+const xmlNode* findById( const Elements& in_vecElements, const std::string& in_strId ) {
+    const auto it = std::find_if( in_vecElements.begin(), in_vecElements.end(), [&in_strId]( const xmlNode* in_p ) {
+        return isSameIdentifier( getValue( in_p, "ID" ), in_strId );
+    } );
+    return it == in_vecElements.end() ? nullptr : *it;
+}
+
+Elements getChildren( const xmlNode* in_pParent ) {
+    Elements vecChildren;
+    for ( const xmlNode* const pChild : ChildElements( in_pParent ) )
+        vecChildren.push_back( pChild );
+    return vecChildren;
+}
+
+/// "there is no such board; there are 1, 2 and 3"
+std::string describeMissing( const std::string& in_strWhat, const std::string& in_strValue,
+                             const Elements& in_vecExisting ) {
+    constexpr std::size_t MAX_LISTED = 10;
+    std::vector<std::string> vecIds;
+    for ( const xmlNode* const pElement : in_vecExisting )
+        vecIds.push_back( getValue( pElement, "ID" ) );
+    std::string strText = "there is no " + in_strWhat + " with this ID";
+    if ( vecIds.empty() )
+        return strText;
+    if ( const std::string strNearest = findNearest( in_strValue, vecIds ); !strNearest.empty() )
+        return strText + "; did you mean \"" + strNearest + "\"?";
+    strText += vecIds.size() == 1 ? "; there is " : "; there are ";
+    for ( std::size_t u = 0; u < std::min( vecIds.size(), MAX_LISTED ); ++u )
+        strText.append( u == 0 ? "" : u + 1 == vecIds.size() ? " and " : ", " ).append( vecIds[u] );
+    return vecIds.size() > MAX_LISTED ? strText + " ..." : strText;
+}
+
+void relate( Finding& inout_finding, const char* in_szLabel, const xmlNode* in_pElement, const char* in_szAttribute ) {
+    inout_finding.vecRelated.push_back( { in_szLabel, getElementFile( in_pElement ), getElementLine( in_pElement ),
+                                          getElementNumber( in_pElement ), in_szAttribute } );
+}
+
+/// Relates the first element in front of the finding's that fits.
+template <class TFits>
+void relateFirst( SurveyedFinding& inout_item, const Elements& in_vecElements, const char* in_szAttribute,
+                  const TFits& in_fits ) {
+    for ( const xmlNode* const pElement : in_vecElements ) {
+        if ( getElementNumber( pElement ) >= getElementNumber( inout_item.pElement ) )
+            return;
+        if ( in_fits( pElement ) ) {
+            relate( inout_item.finding, "first here", pElement, in_szAttribute );
+            return;
+        }
+    }
+}
+
+void detailUnknownBoard( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
+    Finding& finding = inout_item.finding;
+    const bool bAnalog = isAnalog( inout_item.pElement );
+    const Elements vecOthers = getBoards( in_pRoot, !bAnalog );
+    if ( const xmlNode* const pOther = findById( vecOthers, finding.strValue ) ) {
+        finding.strHint = bAnalog ? "this board is digital" : "this board is analog";
+        relate( finding, "declared here", pOther, "ID" );
+        return;
+    }
+    finding.strHint =
+        describeMissing( bAnalog ? "analog board" : "digital board", finding.strValue, getBoards( in_pRoot, bAnalog ) );
+}
+
+void detailUnknownInterface( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
+    const xmlNode* const pElement = inout_item.pElement;
+    const bool bOfBoard = inout_item.finding.strAttribute == "primaryClockReference";
+    const xmlNode* const pBoard =
+        bOfBoard ? pElement : findById( getBoards( in_pRoot, isAnalog( pElement ) ), getValue( pElement, "boardID" ) );
+    if ( !pBoard )
+        return;
+    inout_item.finding.strHint = describeMissing( "interface on board " + getValue( pBoard, "ID" ),
+                                                  inout_item.finding.strValue, getChildren( pBoard ) );
+    if ( !bOfBoard )
+        relate( inout_item.finding, "board declared here", pBoard, "ID" );
+}
+
+void detailUnknownChannelGroup( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
+    Elements vecGroups;
+    for ( const xmlNode* const pCallControl : ChildElements( in_pRoot, "callControl" ) ) {
+        for ( const xmlNode* const pGroups : ChildElements( pCallControl, "channelGroups" ) )
+            vecGroups = getChildren( pGroups );
+    }
+    inout_item.finding.strHint = describeMissing( "channel group", inout_item.finding.strValue, vecGroups );
+}
+
+void detailIdentifierTwice( SurveyedFinding& inout_item, const xmlNode* ) {
+    const xmlNode* const pElement = inout_item.pElement;
+    Finding& finding = inout_item.finding;
+    const std::string strAttribute = finding.strAttribute;
+    finding.strHint =
+        "another one has this " + std::string( strAttribute == "name" ? "name" : "identifier" ) + "; give each its own";
+    const bool bAnalog = isAnalog( pElement );
+    relateFirst( inout_item, getChildren( getParentElement( pElement ) ), strAttribute.c_str(),
+                 [&]( const xmlNode* in_pOther ) {
+                     // Boards of two kinds, and FAS and NFAS groups, are numbered apart.
+                     const bool bSameKind = isNamed( in_pOther, "interface" ) ||
+                                            isNamed( in_pOther, getElementName( pElement ) ) ||
+                                            isNamed( getParentElement( pElement ), "boards" );
+                     return bSameKind && isAnalog( in_pOther ) == bAnalog &&
+                            isSameIdentifier( getValue( in_pOther, strAttribute.c_str() ), finding.strValue );
+                 } );
+}
+
+void detailTirpipeTwice( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
+    Finding& finding = inout_item.finding;
+    finding.strHint = "another board or interface has this tirpipe number; give each its own";
+    // Analog boards are asked first: the first place may stand behind.
+    for ( const xmlNode* const pBoards : ChildElements( in_pRoot, "boards" ) ) {
+        for ( const xmlNode* const pElement : getTree( pBoards ) ) {
+            if ( pElement != inout_item.pElement &&
+                 isSameIdentifier( getValue( pElement, "tirpipe" ), finding.strValue ) ) {
+                relate( finding, "first here", pElement, "tirpipe" );
+                return;
+            }
+        }
+    }
+}
+
+/// Whether two references mean one interface, or one of them a board and the other one of its interfaces.
+bool meanOneLine( const xmlNode* in_pX, const xmlNode* in_pY ) {
+    const auto uX = getNumber( in_pX, "interfaceID" );
+    const auto uY = getNumber( in_pY, "interfaceID" );
+    return getNumber( in_pX, "boardID" ) == getNumber( in_pY, "boardID" ) && ( !uX || !uY || uX == uY ) &&
+           isAnalog( in_pX ) == isAnalog( in_pY );
+}
+
+/// @param in_pScope the references in this element are looked through
+void relateFirstReference( SurveyedFinding& inout_item, const xmlNode* in_pScope, const char* in_szHint ) {
+    inout_item.finding.strHint = in_szHint;
+    relateFirst( inout_item, getTree( in_pScope ), "boardID", [&inout_item]( const xmlNode* in_pOther ) {
+        return isReference( in_pOther ) && meanOneLine( in_pOther, inout_item.pElement );
+    } );
+}
+
+void detailPhysicalConfigTwice( SurveyedFinding& inout_item, const xmlNode* ) {
+    inout_item.finding.strMessage = "this line already has a physical configuration";
+    relateFirstReference( inout_item, getChain( inout_item.pElement )[0], "apply only one to each line" );
+}
+
+void detailNfasMemberTwice( SurveyedFinding& inout_item, const xmlNode* ) {
+    inout_item.finding.strMessage = "this line is already a member of the group";
+    relateFirstReference( inout_item, getParentElement( inout_item.pElement ), "name each line once" );
+}
+
+/// The range or, for analog lines, the reference that puts channels into a group.
+void detailChannelTwice( SurveyedFinding& inout_item, const xmlNode* ) {
+    const auto getReference = []( const xmlNode* in_p ) {
+        return isReference( in_p ) ? in_p : getParentElement( in_p );
+    };
+    const xmlNode* const pElement = inout_item.pElement;
+    inout_item.finding.strHint = "a channel of this line is already in the group; name each channel once";
+    relateFirst( inout_item, getTree( getChain( pElement )[0] ), "channelGroupID", [&]( const xmlNode* in_pOther ) {
+        if ( getValue( in_pOther, "channelGroupID" ) != inout_item.finding.strValue ||
+             !meanOneLine( getReference( in_pOther ), getReference( pElement ) ) )
+            return false;
+        return getNumber( in_pOther, "firstChannel" ) <= getNumber( pElement, "lastChannel" ) &&
+               getNumber( pElement, "firstChannel" ) <= getNumber( in_pOther, "lastChannel" );
+    } );
+}
+
+/// The words of findings whose log lines say more than a person wants to read.
+void detailMessage( SurveyedFinding& inout_item, const xmlNode* ) {
+    struct Words {
+        const char* szRule;
+        const char* szMessage;
+        const char* szHint;
+    };
+    static constexpr Words WORDS[] = {
+        { Rules::NO_PHYSICAL_CONFIG, "this line has no physical configuration",
+          "name it in applyTo of an entry of physicalInterfaceConfigs" },
+        { Rules::NO_CALL_CONTROL, "this line has no call control",
+          "name it in one of the groups or configurations of callControl" },
+        { Rules::NO_D_CHANNEL, "this line has no D-channel",
+          "give its physical configuration a D-channel, or make it a DISABLED member of an NFAS group" },
+        { Rules::UNUSED_D_CHANNEL, "a DISABLED member must not have a D-channel",
+          "make it PRIMARY or BACKUP, or take the D-channel out of its physical configuration" },
+    };
+    for ( const Words& words : WORDS ) {
+        if ( !inout_item.is( words.szRule ) )
+            continue;
+        inout_item.finding.strMessage = words.szMessage;
+        inout_item.finding.strHint = words.szHint;
+    }
+}
+
+struct Detail {
+    const char* szRule;
+    void ( *add )( SurveyedFinding& inout_item, const xmlNode* in_pRoot );
+};
+
+constexpr Detail DETAILS[] = {
+    { Rules::UNKNOWN_BOARD, &detailUnknownBoard },
+    { Rules::UNKNOWN_INTERFACE, &detailUnknownInterface },
+    { Rules::UNKNOWN_CHANNEL_GROUP, &detailUnknownChannelGroup },
+    { Rules::IDENTIFIER_TWICE, &detailIdentifierTwice },
+    { Rules::TIRPIPE_TWICE, &detailTirpipeTwice },
+    { Rules::PHYSICAL_CONFIG_TWICE, &detailPhysicalConfigTwice },
+    { Rules::NFAS_MEMBER_TWICE, &detailNfasMemberTwice },
+    { Rules::CHANNEL_TWICE, &detailChannelTwice },
+    { Rules::NO_PHYSICAL_CONFIG, &detailMessage },
+    { Rules::NO_CALL_CONTROL, &detailMessage },
+    { Rules::NO_D_CHANNEL, &detailMessage },
+    { Rules::UNUSED_D_CHANNEL, &detailMessage },
+};
+
+} // namespace
+
+void addDetails( SurveyRecord& inout_record ) {
+    std::size_t uDetailed = 0;
+    for ( SurveyedFinding& item : inout_record.vecFindings ) {
+        if ( item.finding.bEcho || !item.pElement )
+            continue;
+        for ( const Detail& detail : DETAILS ) {
+            if ( item.is( detail.szRule ) )
+                detail.add( item, inout_record.pRoot );
+        }
+        if ( ++uDetailed == MAX_DETAILED )
+            return;
+    }
+}
+
+} // namespace Velquin::Pstn

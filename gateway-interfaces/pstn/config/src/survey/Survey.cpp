@@ -1,0 +1,205 @@
+#include "survey/Survey.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include <velquin/Assertion.h>
+#include <velquin/XML.h>
+
+#include "advice/Advice.h"
+#include "document/Element.h"
+#include "document/SourceText.h"
+#include "reading/EntryListener.h"
+#include "survey/Echoes.h"
+#include "survey/Elements.h"
+#include "survey/FindingDetails.h"
+#include "survey/SurveyRecord.h"
+
+namespace Velquin::Pstn {
+
+namespace {
+
+constexpr std::size_t MAX_LOCATED = 5000;
+
+class SurveyLog {
+    VELQUIN_LOGGER();
+};
+
+VELQUIN_LOGGER_IMPL( SurveyLog, "marovane.pstn.config.Survey" );
+
+/// What happens while a survey's load goes on.
+class Reading : public EntryListener {
+public:
+    Reading( const XmlConfig& in_config, SurveyRecord& out_record ) noexcept
+        : m_config( in_config ), m_record( out_record ) {}
+
+    /// The encoding that the document declares; null when it declares none, or there is no document.
+    const char* getEncoding() const noexcept { return m_bEncoding ? m_strEncoding.c_str() : nullptr; }
+
+    /// Decides, of the findings from that one on, which are mistakes and which only follow from them: what has no rule
+    /// follows from what has one.
+    void settle( std::size_t in_uBegin );
+
+private:
+    void beginDocument( const xmlNode* in_pRoot ) override;
+    void beginEntry( const xmlNode* in_pEntry ) override;
+    void endEntry( const xmlNode* in_pEntry, bool in_bTaken ) override;
+    void endDocument() override;
+
+    void findElements();
+
+    const XmlConfig& m_config;
+    SurveyRecord& m_record;
+    std::vector<std::size_t> m_vecEntries; ///< number of findings at the begin of each open entry
+    bool m_bEncoding = false;
+    std::string m_strEncoding;
+};
+
+void Reading::beginDocument( const xmlNode* in_pRoot ) {
+    m_record.pRoot = in_pRoot;
+    if ( const char* const szEncoding = getElementEncoding( in_pRoot ) ) {
+        m_bEncoding = true;
+        m_strEncoding = szEncoding;
+    }
+    settle( 0 );
+}
+
+void Reading::beginEntry( const xmlNode* ) {
+    m_vecEntries.push_back( m_record.vecFindings.size() );
+}
+
+void Reading::endEntry( const xmlNode* in_pEntry, bool in_bTaken ) {
+    settle( m_vecEntries.back() );
+    m_vecEntries.pop_back();
+    if ( !in_bTaken )
+        m_record.vecLost.push_back( in_pEntry );
+}
+
+void Reading::endDocument() {
+    settle( 0 );
+    if ( !m_record.vecFindings.empty() ) {
+        findElements();
+        markEchoes( m_record );
+        addDetails( m_record );
+    }
+    for ( Finding& finding : advise( m_config, m_record.pRoot ) )
+        m_record.vecFindings.push_back( { std::move( finding ) } );
+}
+
+void Reading::settle( std::size_t in_uBegin ) {
+    const auto itBegin = m_record.vecFindings.begin() + static_cast<std::ptrdiff_t>( in_uBegin );
+    bool bCause = std::any_of( itBegin, m_record.vecFindings.end(),
+                               []( const SurveyedFinding& in_item ) { return !in_item.finding.strRule.empty(); } );
+    for ( auto it = itBegin; it != m_record.vecFindings.end(); ++it ) {
+        Finding& finding = it->finding;
+        if ( !finding.strRule.empty() || finding.bEcho )
+            continue;
+        finding.bEcho = bCause;
+        if ( !bCause )
+            finding.strRule = Rules::INTERNAL;
+        bCause = true;
+    }
+}
+
+/// Finds the elements of the findings by their numbers.
+void Reading::findElements() {
+    const std::vector<const xmlNode*> vecElements = getTree( m_record.pRoot );
+    for ( SurveyedFinding& item : m_record.vecFindings ) {
+        const unsigned long long ullElement = item.finding.ullElement;
+        if ( ullElement == 0 || ullElement > vecElements.size() ||
+             item.finding.strFile != getElementFile( m_record.pRoot ) )
+            continue;
+        item.pElement = vecElements[ullElement - 1];
+        if ( item.finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
+            m_record.vecLost.push_back( item.pElement );
+    }
+}
+
+} // namespace
+
+class Survey::Impl {
+public:
+    bool run( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent );
+
+    XmlConfig m_config;
+    SourceText m_text;
+    std::vector<Finding> m_vecFindings;
+
+private:
+    void locate( const std::string& in_strFile );
+    void sort( const std::string& in_strFile );
+};
+
+bool Survey::Impl::run( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent ) {
+    const XML::LibraryScope library;
+    SurveyRecord record;
+    bool bLoads = false;
+    Reading reading( m_config, record );
+    {
+        const FindingWatch watch(
+            [&record]( const Finding& in_finding ) { record.vecFindings.push_back( { in_finding } ); } );
+        bLoads = m_config.load( in_szConfigFile, in_szSchemaFile, in_bLogContent );
+    }
+    if ( !record.pRoot ) // else they were settled while the document stood
+        reading.settle( 0 );
+    if ( record.vecFindings.empty() )
+        return bLoads;
+    for ( SurveyedFinding& item : record.vecFindings )
+        m_vecFindings.push_back( std::move( item.finding ) );
+    m_text.read( in_szConfigFile, reading.getEncoding() );
+    if ( record.pRoot )
+        locate( in_szConfigFile );
+    sort( in_szConfigFile );
+    return bLoads;
+}
+
+/// Sets the spans of the findings about the file, and of the places that belong to them.
+void Survey::Impl::locate( const std::string& in_strFile ) {
+    std::vector<SourceText::Place> vecPlaces;
+    for ( Finding& finding : m_vecFindings ) {
+        if ( vecPlaces.size() >= MAX_LOCATED )
+            break;
+        if ( finding.strFile != in_strFile || finding.ullElement == 0 )
+            continue;
+        vecPlaces.push_back( { finding.ullElement, finding.strAttribute, &finding.span, &finding.valueSpan } );
+        for ( Finding::Related& related : finding.vecRelated )
+            vecPlaces.push_back( { related.ullElement, related.strAttribute, &related.span, nullptr } );
+    }
+    m_text.locate( std::move( vecPlaces ) );
+}
+
+void Survey::Impl::sort( const std::string& in_strFile ) {
+    const auto getKey = [&in_strFile]( const Finding& in_finding ) {
+        const bool bLocated = in_finding.span.ullLine != 0;
+        return std::tuple( in_finding.strFile == in_strFile, bLocated ? in_finding.span.ullLine : in_finding.ullLine,
+                           in_finding.span.ullColumn, in_finding.bEcho );
+    };
+    std::stable_sort(
+        m_vecFindings.begin(), m_vecFindings.end(),
+        [&getKey]( const Finding& in_x, const Finding& in_y ) { return getKey( in_x ) < getKey( in_y ); } );
+}
+
+Survey::Survey() : m_pImpl( std::make_unique<Impl>() ) {}
+
+Survey::~Survey() = default;
+
+bool Survey::run( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent ) try {
+    return VELQUIN_ASSERT( in_szConfigFile != nullptr ) && VELQUIN_ASSERT( in_szSchemaFile != nullptr ) &&
+           m_pImpl->run( in_szConfigFile, in_szSchemaFile, in_bLogContent );
+}
+VELQUIN_CATCH_AND_RETURN( SurveyLog::getLogger(), false )
+
+const std::vector<Finding>& Survey::getFindings() const noexcept {
+    return m_pImpl->m_vecFindings;
+}
+
+const XmlConfig& Survey::getConfig() const noexcept {
+    return m_pImpl->m_config;
+}
+
+std::string_view Survey::getLine( unsigned long long in_ullLine ) const noexcept {
+    return m_pImpl->m_text.getLine( in_ullLine );
+}
+
+} // namespace Velquin::Pstn

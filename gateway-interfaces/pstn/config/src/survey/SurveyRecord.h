@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include <velquin/Finding.h>
+
+#include "reading/XmlNodeFwd.h"
+
+namespace Velquin::Pstn {
+
+/// A finding of a survey, and the element that it is about; null when it is about none.
+struct SurveyedFinding {
+    Finding finding;
+    const xmlNode* pElement = nullptr;
+
+    bool is( std::string_view in_strRule ) const noexcept { return finding.strRule == in_strRule; }
+};
+
+/// What a survey gathers while it reads a document.
+struct SurveyRecord {
+    const xmlNode* pRoot = nullptr;
+    std::vector<SurveyedFinding> vecFindings; ///< in the order in which they came
+    std::vector<const xmlNode*> vecLost;      ///< entries that were left out, and elements that nobody reads
+};
+
+} // namespace Velquin::Pstn
