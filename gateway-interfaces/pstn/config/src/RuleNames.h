@@ -41,4 +41,10 @@ inline constexpr const char* NO_CALL_CONTROL = "no-call-control";
 inline constexpr const char* MISSING_PARAMETER = "missing-parameter";
 inline constexpr const char* INTERNAL = "internal";
 
+/// The rule that an interface without D-channel breaks.
+/// @param in_bPhysicalConfig whether the interface has a physical configuration
+constexpr const char* withoutDChannel( bool in_bPhysicalConfig ) noexcept {
+    return in_bPhysicalConfig ? NO_D_CHANNEL : NO_PHYSICAL_CONFIG;
+}
+
 } // namespace Velquin::Pstn::Rules

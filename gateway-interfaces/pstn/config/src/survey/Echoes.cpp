@@ -7,6 +7,7 @@
 
 #include "RuleNames.h"
 #include "document/Element.h"
+#include "reading/ChildElements.h"
 #include "reading/Number.h"
 #include "survey/Elements.h"
 
@@ -49,31 +50,104 @@ void markExplainedErrors( SurveyRecord& inout_record ) {
     }
 }
 
-/// A reader finds what the schema's advice has found, and references repeat what another one says.
-void markRepetitions( SurveyRecord& inout_record ) {
+/// A reader finds again what the schema's advice has found, and misses what is only misspelt.
+void markSecondReports( SurveyRecord& inout_record ) {
     std::set<std::tuple<const xmlNode*, std::string>> setSeen;
-    std::map<std::tuple<std::string, std::string, std::string, bool>, SurveyedFinding*> mapReferences;
+    for ( const SurveyedFinding& item : inout_record.vecFindings ) {
+        const Finding& finding = item.finding;
+        const std::size_t uName = finding.strHint.find( '"' ); // did you mean "name"?
+        if ( !isMain( item ) || !item.pElement || uName == std::string::npos )
+            continue;
+        const std::string strMeant = finding.strHint.substr( uName + 1, finding.strHint.rfind( '"' ) - uName - 1 );
+        if ( finding.eKind == Finding::Kind::UNKNOWN_ATTRIBUTE )
+            setSeen.emplace( item.pElement, strMeant );
+        else if ( finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
+            setSeen.emplace( getParentElement( item.pElement ), strMeant );
+    }
+    for ( SurveyedFinding& item : inout_record.vecFindings ) {
+        if ( isMain( item ) && item.pElement && !item.finding.strAttribute.empty() )
+            item.finding.bEcho = !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
+    }
+}
+
+/// The identifier as a key: a number without its leading zeros.
+std::string normalize( const std::string& in_strIdentifier ) {
+    const auto uNumber = parseNumber<unsigned int>( in_strIdentifier, NumberPolicy::WHOLE );
+    return uNumber ? std::to_string( *uNumber ) : "=" + in_strIdentifier;
+}
+
+/// A board, or one of its interfaces, as a key.
+std::string describeLine( const xmlNode* in_pElement, const std::string& in_strBoard,
+                          const std::string& in_strInterface ) {
+    return ( isAnalog( in_pElement ) ? "analog " : "digital " ) + normalize( in_strBoard ) +
+           ( in_strInterface.empty() ? std::string() : "/" + normalize( in_strInterface ) );
+}
+
+std::string describeReference( const xmlNode* in_pReference ) {
+    return describeLine( in_pReference, getValue( in_pReference, "boardID" ),
+                         getValue( in_pReference, "interfaceID" ) );
+}
+
+/// The physical configurations that are applied to boards and interfaces.
+class PhysicalConfigs {
+public:
+    explicit PhysicalConfigs( const xmlNode* in_pRoot ) {
+        for ( const xmlNode* const pSection : ChildElements( in_pRoot, "physicalInterfaceConfigs" ) ) {
+            for ( const xmlNode* const pElement : getTree( pSection ) ) {
+                if ( isReference( pElement ) )
+                    m_mapConfigs.emplace( describeReference( pElement ), getChain( pElement )[1] );
+            }
+        }
+    }
+
+    /// The configuration of a line, and the line itself when it has none.
+    std::string find( const xmlNode* in_pReference ) const {
+        auto it = m_mapConfigs.find( describeReference( in_pReference ) );
+        if ( it == m_mapConfigs.end() )
+            it = m_mapConfigs.find( describeLine( in_pReference, getValue( in_pReference, "boardID" ), {} ) );
+        return it == m_mapConfigs.end() ? describeReference( in_pReference )
+                                        : std::to_string( getElementNumber( it->second ) );
+    }
+
+private:
+    std::map<std::string, const xmlNode*> m_mapConfigs;
+};
+
+/// What findings have in common that come from one mistake: references to the same thing, lines of one board, lines
+/// with one physical configuration. Empty for a finding of its own.
+std::string getCommonCause( const SurveyedFinding& in_item, const PhysicalConfigs& in_configs ) {
+    const Finding& finding = in_item.finding;
+    if ( in_item.is( Rules::UNKNOWN_INTERFACE ) )
+        return describeLine( in_item.pElement, getValue( in_item.pElement, "boardID" ), finding.strValue );
+    if ( isReferenceRule( in_item ) )
+        return describeLine( in_item.pElement, finding.strValue, {} );
+    if ( in_item.is( Rules::NO_PHYSICAL_CONFIG ) || in_item.is( Rules::NO_CALL_CONTROL ) )
+        return std::to_string( getElementNumber( getParentElement( in_item.pElement ) ) );
+    if ( in_item.is( Rules::NO_D_CHANNEL ) || in_item.is( Rules::UNUSED_D_CHANNEL ) )
+        return in_configs.find( in_item.pElement );
+    return {};
+}
+
+/// Findings that come from one mistake: the first one names the places of the others.
+void markCommonCauses( SurveyRecord& inout_record ) {
+    constexpr std::size_t MAX_RELATED = 20;
+    const PhysicalConfigs configs( inout_record.pRoot );
+    std::map<std::tuple<std::string, std::string>, Finding*> mapFirst;
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
         Finding& finding = item.finding;
-        if ( !isMain( item ) || !item.pElement || item.is( Rules::AGAINST_SCHEMA ) )
+        if ( !isMain( item ) || !item.pElement )
             continue;
-        if ( !finding.strAttribute.empty() && !setSeen.emplace( item.pElement, finding.strAttribute ).second ) {
-            finding.bEcho = true;
+        const std::string strCause = getCommonCause( item, configs );
+        if ( strCause.empty() )
             continue;
-        }
-        if ( !isReferenceRule( item ) )
-            continue;
-        const std::string strBoard =
-            item.is( Rules::UNKNOWN_INTERFACE ) ? getValue( item.pElement, "boardID" ) : std::string();
-        const auto [it, bFirst] = mapReferences.try_emplace(
-            { finding.strRule, finding.strValue, strBoard, isAnalog( item.pElement ) }, &item );
+        const auto [it, bFirst] = mapFirst.try_emplace( { finding.strRule, strCause }, &finding );
         if ( bFirst )
             continue;
         finding.bEcho = true;
-        Finding& first = it->second->finding;
-        if ( first.vecRelated.size() < 5 )
-            first.vecRelated.push_back(
-                { "named here, too", finding.strFile, finding.ullLine, finding.ullElement, finding.strAttribute } );
+        std::vector<Finding::Related>& vecRelated = it->second->vecRelated;
+        if ( vecRelated.size() < MAX_RELATED )
+            vecRelated.push_back(
+                { "the same here", finding.strFile, finding.ullLine, finding.ullElement, finding.strAttribute } );
     }
 }
 
@@ -97,13 +171,13 @@ public:
     explicit Losses( const SurveyRecord& in_record ) {
         std::set<const xmlNode*> setWithoutIdentifier;
         for ( const SurveyedFinding& item : in_record.vecFindings ) {
-            if ( !isMain( item ) || !item.pElement )
+            if ( item.finding.strRule.empty() || !item.pElement )
                 continue;
             const std::string& strAttribute = item.finding.strAttribute;
             if ( strAttribute == "ID" )
                 setWithoutIdentifier.insert( item.pElement );
-            if ( isReference( item.pElement ) )
-                addReference( item.pElement, strAttribute == "boardID" || strAttribute == "interfaceID" );
+            if ( isReference( item.pElement ) && ( strAttribute == "boardID" || strAttribute == "interfaceID" ) )
+                m_mapReferences[getElementName( getChain( item.pElement )[0] )].insert( ANY );
         }
         for ( const xmlNode* const pLost : in_record.vecLost ) {
             for ( const xmlNode* const pElement : getTree( pLost ) )
@@ -125,22 +199,13 @@ public:
         const xmlNode* const pBoard = getParentElement( in_pInterface );
         if ( it == m_mapReferences.end() || !pBoard )
             return false;
-        const std::string strBoard = describeBoard( in_pInterface, getValue( pBoard, "ID" ) );
-        return it->second.contains( ANY ) || it->second.contains( strBoard ) ||
-               it->second.contains( strBoard + '/' + normalize( getValue( in_pInterface, "ID" ) ) );
+        const std::string strBoard = getValue( pBoard, "ID" );
+        return it->second.contains( ANY ) || it->second.contains( describeLine( in_pInterface, strBoard, {} ) ) ||
+               it->second.contains( describeLine( in_pInterface, strBoard, getValue( in_pInterface, "ID" ) ) );
     }
 
 private:
     static constexpr const char* ANY = "*";
-
-    static std::string normalize( const std::string& in_strIdentifier ) {
-        const auto uNumber = parseNumber<unsigned int>( in_strIdentifier, NumberPolicy::WHOLE );
-        return uNumber ? std::to_string( *uNumber ) : "=" + in_strIdentifier;
-    }
-
-    static std::string describeBoard( const xmlNode* in_pElement, const std::string& in_strId ) {
-        return ( isAnalog( in_pElement ) ? "analog " : "digital " ) + normalize( in_strId );
-    }
 
     void addDeclaration( const xmlNode* in_pElement, bool in_bWithoutIdentifier ) {
         if ( const char* const szRule = getReferenceRule( in_pElement ) )
@@ -152,28 +217,22 @@ private:
     void addReferences( const xmlNode* in_pLost ) {
         const auto vecChain = getChain( in_pLost );
         if ( const auto it = std::find_if( vecChain.begin(), vecChain.end(), &isReference ); it != vecChain.end() ) {
-            addReference( *it, false );
+            addReference( *it );
             return;
         }
         bool bAny = true;
         for ( const xmlNode* const pElement : getTree( in_pLost ) ) {
             if ( !isReference( pElement ) )
                 continue;
-            addReference( pElement, false );
+            addReference( pElement );
             bAny = false;
         }
         if ( bAny && !vecChain.empty() )
             m_mapReferences[getElementName( vecChain[0] )].insert( ANY );
     }
 
-    /// @param in_bUnclear whether it names nothing that is there
-    void addReference( const xmlNode* in_pReference, bool in_bUnclear ) {
-        const std::string strInterface = getValue( in_pReference, "interfaceID" );
-        const std::string strBoard = describeBoard( in_pReference, getValue( in_pReference, "boardID" ) );
-        m_mapReferences[getElementName( getChain( in_pReference )[0] )].insert(
-            in_bUnclear            ? ANY
-            : strInterface.empty() ? strBoard
-                                   : strBoard + '/' + normalize( strInterface ) );
+    void addReference( const xmlNode* in_pReference ) {
+        m_mapReferences[getElementName( getChain( in_pReference )[0] )].insert( describeReference( in_pReference ) );
     }
 
     std::map<std::string, std::set<std::string>> m_mapDeclarations; ///< identifiers, by the rule of their references
@@ -188,8 +247,9 @@ void markConsequences( SurveyRecord& inout_record ) {
             continue;
         if ( isReferenceRule( item ) )
             item.finding.bEcho = losses.explainReference( item.finding );
-        else if ( item.is( Rules::NO_PHYSICAL_CONFIG ) )
-            item.finding.bEcho = losses.explainInterface( item.pElement, "physicalInterfaceConfigs" );
+        else if ( item.is( Rules::NO_PHYSICAL_CONFIG ) ) // a reference says it again
+            item.finding.bEcho =
+                isReference( item.pElement ) || losses.explainInterface( item.pElement, "physicalInterfaceConfigs" );
         else if ( item.is( Rules::NO_CALL_CONTROL ) )
             item.finding.bEcho = losses.explainInterface( item.pElement, "callControl" );
     }
@@ -199,8 +259,9 @@ void markConsequences( SurveyRecord& inout_record ) {
 
 void markEchoes( SurveyRecord& inout_record ) {
     markExplainedErrors( inout_record );
-    markRepetitions( inout_record );
+    markSecondReports( inout_record );
     markConsequences( inout_record );
+    markCommonCauses( inout_record );
 }
 
 } // namespace Velquin::Pstn

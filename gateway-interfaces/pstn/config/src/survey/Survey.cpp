@@ -37,11 +37,14 @@ public:
     /// The encoding that the document declares; null when it declares none, or there is no document.
     const char* getEncoding() const noexcept { return m_bEncoding ? m_strEncoding.c_str() : nullptr; }
 
+    /// Settles the findings about a file that can't be read, or is ill-formed: what the parser says behind its first
+    /// error follows from it.
+    void endWithoutDocument();
+
+private:
     /// Decides, of the findings from that one on, which are mistakes and which only follow from them: what has no rule
     /// follows from what has one.
     void settle( std::size_t in_uBegin );
-
-private:
     void beginDocument( const xmlNode* in_pRoot ) override;
     void beginEntry( const xmlNode* in_pEntry ) override;
     void endEntry( const xmlNode* in_pEntry, bool in_bTaken ) override;
@@ -55,6 +58,15 @@ private:
     bool m_bEncoding = false;
     std::string m_strEncoding;
 };
+
+void Reading::endWithoutDocument() {
+    bool bIllFormed = false;
+    for ( SurveyedFinding& item : m_record.vecFindings ) {
+        item.finding.bEcho = bIllFormed && item.is( Rules::ILL_FORMED );
+        bIllFormed = bIllFormed || item.is( Rules::ILL_FORMED );
+    }
+    settle( 0 );
+}
 
 void Reading::beginDocument( const xmlNode* in_pRoot ) {
     m_record.pRoot = in_pRoot;
@@ -142,7 +154,7 @@ bool Survey::Impl::run( const char* in_szConfigFile, const char* in_szSchemaFile
         bLoads = m_config.load( in_szConfigFile, in_szSchemaFile, in_bLogContent );
     }
     if ( !record.pRoot ) // else they were settled while the document stood
-        reading.settle( 0 );
+        reading.endWithoutDocument();
     if ( record.vecFindings.empty() )
         return bLoads;
     for ( SurveyedFinding& item : record.vecFindings )

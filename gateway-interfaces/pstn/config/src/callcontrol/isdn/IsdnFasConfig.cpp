@@ -16,10 +16,10 @@ bool IsdnFasConfig::addApplyToDigitalInterface( TSHandle<DigitalInterfaceConfig>
     if ( !VELQUIN_ASSERT( !in_hDigitalInterface.isNull() ) )
         return false;
     if ( !in_hDigitalInterface->hasDChannel() ) {
-        VELQUIN_REPORT( getLogger(), Fault{ Rules::NO_D_CHANNEL },
-                        "failed to apply ISDN configuration to interface "
-                            << in_hDigitalInterface->getUniqueId( false )
-                            << "because the interface does not have a D-Channel." );
+        VELQUIN_REPORT(
+            getLogger(), Fault{ Rules::withoutDChannel( !in_hDigitalInterface->getPhysicalConfig().isNull() ) },
+            "failed to apply ISDN configuration to interface " << in_hDigitalInterface->getUniqueId( false )
+                                                               << "because the interface does not have a D-Channel." );
         return false;
     }
     VELQUIN_LOG_DEBUG( getLogger(), "adding interface=" << in_hDigitalInterface->getUniqueId( false )

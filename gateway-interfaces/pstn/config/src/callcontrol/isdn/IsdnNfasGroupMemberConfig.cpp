@@ -36,11 +36,11 @@ bool IsdnNfasGroupMemberConfig::setInterfaceMember( TSHandle<DigitalInterfaceCon
     const bool bDChannel = in_hInterfaceConfig->hasDChannel();
     const char* const szUniqueId = in_hInterfaceConfig->getUniqueId( false );
     if ( m_eDChannelMode != DChannelMode::DISABLED && !bDChannel ) {
-        VELQUIN_REPORT( getLogger(), Fault{ Rules::NO_D_CHANNEL },
-                        "failed to add interface "
-                            << szUniqueId
-                            << " to NFAS group because the interface does not have a D-Channel to "
-                               "play the role of PRIMARY or BACKUP interface." );
+        VELQUIN_REPORT(
+            getLogger(), Fault{ Rules::withoutDChannel( !in_hInterfaceConfig->getPhysicalConfig().isNull() ) },
+            "failed to add interface " << szUniqueId
+                                       << " to NFAS group because the interface does not have a D-Channel to "
+                                          "play the role of PRIMARY or BACKUP interface." );
         return false;
     }
     if ( m_eDChannelMode == DChannelMode::DISABLED && bDChannel ) {
