@@ -1,4 +1,5 @@
 #include <filesystem>
+#include <regex>
 
 #include "ConfigTest.h"
 #include "reading/ChildElements.h"
@@ -32,6 +33,7 @@ public:
 
     std::map<const xmlNode*, std::set<std::string>> mapPaths; ///< of each pattern, for elements and attributes
     std::map<std::string, std::set<std::string>> mapKeywords; ///< of the attributes that have any
+    std::map<std::string, std::string> mapDefaults; ///< "Default: X." of the annotations, where X is a single word
 
 private:
     void walk( xmlNode* in_pPattern, std::string in_strPath, std::set<std::string>* out_pKeywords ) {
@@ -43,6 +45,12 @@ private:
         if ( strKind == "element" || strKind == "attribute" ) {
             in_strPath += ( strKind == "element" ? "/" : "/@" ) + getAttribute( in_pPattern, "name" );
             mapPaths[in_pPattern].insert( in_strPath );
+        }
+        for ( xmlNode* const pAnnotation : ChildElements( in_pPattern, "documentation" ) ) {
+            std::cmatch match;
+            const XmlStringPtr pText( xmlNodeGetContent( pAnnotation ) );
+            if ( std::regex_search( fromXml( pText.get() ), match, std::regex( R"(Default:\s+(\S+)\.(\s|$))" ) ) )
+                mapDefaults[in_strPath] = match[1];
         }
         std::set<std::string> setKeywords;
         for ( xmlNode* const pChild : ChildElements( in_pPattern ) )
@@ -122,18 +130,44 @@ void gatherAttributes( xmlNode* in_pElement, const std::string& in_strParent,
         gatherAttributes( pChild, strPath, inout_mapAttributes, inout_mapValues );
 }
 
+/// The text of the model that a document gives; empty when it doesn't load.
+std::string describe( const XmlDocPtr& in_pDocument ) {
+    xmlChar* pText = nullptr;
+    int nLength = 0;
+    xmlDocDumpMemory( in_pDocument.get(), &pText, &nLength );
+    XmlConfig config;
+    return loadText( config, fromXml( XmlStringPtr( pText ).get() ) ).bValid ? describeModel( config ) : "";
+}
+
+TEST( Schema, TellsTheDefaultsOfTheModel ) {
+    const Format format( SCHEMA );
+    const XmlDocPtr pDocument = parse( COMPLETE );
+    std::map<std::string, std::vector<xmlAttr*>> mapAttributes;
+    std::map<std::string, std::set<std::string>> mapValues;
+    gatherAttributes( xmlDocGetRootElement( pDocument.get() ), "", mapAttributes, mapValues );
+    std::size_t uCompared = 0;
+    for ( const auto& [strPath, strDefault] : format.mapDefaults ) {
+        for ( const xmlAttr* const pAttribute : mapAttributes[strPath] ) {
+            xmlNode* const pElement = pAttribute->parent;
+            const std::string strName = fromXml( pAttribute->name );
+            const std::string strValue = getAttribute( pElement, strName.c_str() );
+            xmlSetProp( pElement, toXml( strName.c_str() ), toXml( strDefault.c_str() ) );
+            const std::string strTold = describe( pDocument );
+            xmlUnsetProp( pElement, toXml( strName.c_str() ) );
+            EXPECT_NE( strTold, "" ) << strPath;
+            EXPECT_TRUE( describe( pDocument ) == strTold ) << strPath << " is not " << strDefault;
+            xmlSetProp( pElement, toXml( strName.c_str() ), toXml( strValue.c_str() ) );
+            ++uCompared;
+        }
+    }
+    EXPECT_GT( uCompared, 15U );
+}
+
 // So is one here that no reader reads, or that the text of the model doesn't tell.
 TEST( Schema, HasNoAttributeThatTheModelDoesNotTell ) {
     const Format format( SCHEMA );
     const XmlDocPtr pDocument = parse( COMPLETE );
-    const auto describe = [&pDocument]() -> std::string {
-        xmlChar* pText = nullptr;
-        int nLength = 0;
-        xmlDocDumpMemory( pDocument.get(), &pText, &nLength );
-        XmlConfig config;
-        return loadText( config, fromXml( XmlStringPtr( pText ).get() ) ).bValid ? describeModel( config ) : "";
-    };
-    const std::string strComplete = describe();
+    const std::string strComplete = describe( pDocument );
     std::map<std::string, std::vector<xmlAttr*>> mapAttributes;
     std::map<std::string, std::set<std::string>> mapValues;
     gatherAttributes( xmlDocGetRootElement( pDocument.get() ), "", mapAttributes, mapValues );
@@ -151,7 +185,7 @@ TEST( Schema, HasNoAttributeThatTheModelDoesNotTell ) {
             const std::string strValue = getAttribute( pAttribute->parent, strName.c_str() );
             for ( auto it = setValues.begin(); it != setValues.end() && !bTold; ++it ) {
                 xmlSetProp( pAttribute->parent, pAttribute->name, toXml( it->c_str() ) );
-                const std::string strModel = describe();
+                const std::string strModel = describe( pDocument );
                 bTold = !strModel.empty() && strModel != strComplete;
                 bRefused = bRefused && ( strModel.empty() || *it == strValue );
             }
