@@ -130,7 +130,7 @@ void reportFinding( const Logger& in_logger, Fault in_fault, std::string in_strT
         // Report the finding even when its rule is unknown.
     }
     if ( !finding.strAttribute.empty() )
-        finding.eKind = Finding::Kind::INVALID_VALUE;
+        finding.eKind = in_fault.eKind;
     finding.strValue = std::move( in_fault.strValue );
     finding.strHint = std::move( in_fault.strHint );
     finding.strText = std::move( in_strText );

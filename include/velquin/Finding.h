@@ -119,9 +119,10 @@ struct Fault {
     const char* szAttribute = "";
     std::string strValue{};
     std::string strHint{};
+    Finding::Kind eKind = Finding::Kind::INVALID_VALUE; ///< counts only with an attribute
 };
 
-/// The same for a fault at ERROR. With an attribute, the finding is of the kind INVALID_VALUE.
+/// The same for a fault at ERROR. Without an attribute, the finding is of the kind OTHER.
 VELQUIN_CORE_EXPORT void reportFinding( const Logger& in_logger, Fault in_fault, std::string in_strText,
                                         const char* in_szFile, int in_nLine ) noexcept;
 

@@ -4,6 +4,7 @@
 
 #include <velquin/Finding.h>
 
+#include "RuleNames.h"
 #include "Setters.h"
 
 namespace Velquin::Pstn {
@@ -16,8 +17,12 @@ bool DigitalInterfaceConfig::setPhysicalConfig( TSHandle<DigitalInterfacePhysica
 
 bool DigitalInterfaceConfig::hasDChannel() const try {
     if ( m_hPhysicalConfig.isNull() ) {
-        VELQUIN_REPORT_WARNING( getLogger(),
-                                "digital interface \"" << getUniqueId( false ) << "\" has no physical configuration" );
+        Finding finding;
+        finding.nLevel = Logger::WARNING_LEVEL;
+        finding.strRule = Rules::NO_PHYSICAL_CONFIG;
+        finding.strText =
+            std::string( "digital interface \"" ) + getUniqueId( false ) + "\" has no physical configuration";
+        reportFinding( getLogger(), std::move( finding ), __FILE__, __LINE__ );
         return false;
     }
     return m_hPhysicalConfig->hasDChannel();

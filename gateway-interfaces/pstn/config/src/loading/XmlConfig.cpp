@@ -177,7 +177,8 @@ bool XmlConfig::Impl::loadCallControlConfig( const xmlNode* in_pRootNode ) {
     xmlNode* const pCallControl = XML::findFirstElement( in_pRootNode, "callControl" );
     if ( !pCallControl ) {
         const ElementPlace place( in_pRootNode );
-        VELQUIN_REPORT( getLogger(), Fault{ Rules::MISSING_ELEMENT },
+        VELQUIN_REPORT( getLogger(),
+                        ( Fault{ Rules::MISSING_ELEMENT, "callControl", {}, {}, Finding::Kind::MISSING_ELEMENT } ),
                         "Can't load call control parameters. Make sure to have a \"callControl\" "
                         "element your   configuration file." );
         return false;

@@ -82,7 +82,7 @@ TBase* createByKeyword( const Entry<TBase> ( &in_aEntries )[N], const char* in_s
         if ( entry.strKeyword == strKeyword )
             return entry.create();
     }
-    Fault fault{ Rules::UNKNOWN_ELEMENT };
+    Fault fault{ Rules::UNKNOWN_ELEMENT, in_szKeyword ? in_szKeyword : "", {}, {}, Finding::Kind::UNKNOWN_ELEMENT };
     if ( in_szAttribute )
         fault = { Rules::INVALID_VALUE, in_szAttribute, std::string( strKeyword ),
                   describeValues( std::vector{ in_aEntries[0].strKeyword } ) };

@@ -19,6 +19,10 @@ bool isMain( const SurveyedFinding& in_item ) {
     return !in_item.finding.bEcho && !in_item.finding.strRule.empty();
 }
 
+bool isAboutDChannel( const SurveyedFinding& in_item ) {
+    return in_item.is( Rules::NO_D_CHANNEL ) || in_item.is( Rules::UNUSED_D_CHANNEL );
+}
+
 bool isReferenceRule( const SurveyedFinding& in_item ) {
     return in_item.is( Rules::UNKNOWN_BOARD ) || in_item.is( Rules::UNKNOWN_INTERFACE ) ||
            in_item.is( Rules::UNKNOWN_CHANNEL_GROUP );
@@ -37,11 +41,11 @@ bool explains( const xmlNode* in_pAdvised, const xmlNode* in_pBlamed ) {
 void markExplainedErrors( SurveyRecord& inout_record ) {
     std::vector<const xmlNode*> vecAdvised;
     for ( const SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( isMain( item ) && !item.is( Rules::AGAINST_SCHEMA ) && item.pElement )
+        if ( isMain( item ) && !item.is( Rules::AGAINST_SCHEMA ) && !item.is( Rules::INTERNAL ) && item.pElement )
             vecAdvised.push_back( item.pElement );
     }
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( item.is( Rules::AGAINST_SCHEMA ) )
+        if ( item.is( Rules::AGAINST_SCHEMA ) || item.is( Rules::INTERNAL ) )
             item.finding.bEcho = !vecAdvised.empty() &&
                                  ( !item.pElement || std::any_of( vecAdvised.begin(), vecAdvised.end(),
                                                                   [&item]( const xmlNode* in_pAdvised ) {
@@ -100,13 +104,12 @@ public:
         }
     }
 
-    /// The configuration of a line, and the line itself when it has none.
-    std::string find( const xmlNode* in_pReference ) const {
+    /// The configuration of a line; null when it has none.
+    const xmlNode* find( const xmlNode* in_pReference ) const {
         auto it = m_mapConfigs.find( describeReference( in_pReference ) );
         if ( it == m_mapConfigs.end() )
             it = m_mapConfigs.find( describeLine( in_pReference, getValue( in_pReference, "boardID" ), {} ) );
-        return it == m_mapConfigs.end() ? describeReference( in_pReference )
-                                        : std::to_string( getElementNumber( it->second ) );
+        return it == m_mapConfigs.end() ? nullptr : it->second;
     }
 
 private:
@@ -123,9 +126,8 @@ std::string getCommonCause( const SurveyedFinding& in_item, const PhysicalConfig
         return describeLine( in_item.pElement, finding.strValue, {} );
     if ( in_item.is( Rules::NO_PHYSICAL_CONFIG ) || in_item.is( Rules::NO_CALL_CONTROL ) )
         return std::to_string( getElementNumber( getParentElement( in_item.pElement ) ) );
-    if ( in_item.is( Rules::NO_D_CHANNEL ) || in_item.is( Rules::UNUSED_D_CHANNEL ) )
-        return in_configs.find( in_item.pElement );
-    return {};
+    const xmlNode* const pConfig = isAboutDChannel( in_item ) ? in_configs.find( in_item.pElement ) : nullptr;
+    return pConfig ? std::to_string( getElementNumber( pConfig ) ) : std::string();
 }
 
 /// Findings that come from one mistake: the first one names the places of the others.
@@ -176,6 +178,7 @@ public:
             const std::string& strAttribute = item.finding.strAttribute;
             if ( strAttribute == "ID" )
                 setWithoutIdentifier.insert( item.pElement );
+            addMissing( item );
             if ( isReference( item.pElement ) && ( strAttribute == "boardID" || strAttribute == "interfaceID" ) )
                 m_mapReferences[getElementName( getChain( item.pElement )[0] )].insert( ANY );
         }
@@ -206,6 +209,18 @@ public:
 
 private:
     static constexpr const char* ANY = "*";
+
+    /// A section that is missing, misspelt, or lacks what its reader needs may have meant any line.
+    void addMissing( const SurveyedFinding& in_item ) {
+        const auto vecChain = getChain( in_item.pElement );
+        if ( in_item.is( Rules::MISSING_ELEMENT ) && vecChain.size() < 2 )
+            m_mapReferences[vecChain.empty() ? in_item.finding.strAttribute : getElementName( vecChain[0] )].insert(
+                ANY );
+        if ( in_item.is( Rules::UNKNOWN_ELEMENT ) && vecChain.size() == 1 ) {
+            m_mapReferences["physicalInterfaceConfigs"].insert( ANY );
+            m_mapReferences["callControl"].insert( ANY );
+        }
+    }
 
     void addDeclaration( const xmlNode* in_pElement, bool in_bWithoutIdentifier ) {
         if ( const char* const szRule = getReferenceRule( in_pElement ) )
@@ -242,6 +257,12 @@ private:
 /// References to what was left out, and interfaces that such a reference was meant for
 void markConsequences( SurveyRecord& inout_record ) {
     const Losses losses( inout_record );
+    const PhysicalConfigs configs( inout_record.pRoot );
+    std::set<const xmlNode*> setFaultyConfigs;
+    for ( const SurveyedFinding& item : inout_record.vecFindings ) {
+        if ( isMain( item ) && item.pElement && getChain( item.pElement ).size() > 1 )
+            setFaultyConfigs.insert( getChain( item.pElement )[1] );
+    }
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
         if ( !isMain( item ) || !item.pElement )
             continue;
@@ -250,6 +271,8 @@ void markConsequences( SurveyRecord& inout_record ) {
         else if ( item.is( Rules::NO_PHYSICAL_CONFIG ) ) // a reference says it again
             item.finding.bEcho =
                 isReference( item.pElement ) || losses.explainInterface( item.pElement, "physicalInterfaceConfigs" );
+        else if ( isAboutDChannel( item ) )
+            item.finding.bEcho = setFaultyConfigs.contains( configs.find( item.pElement ) );
         else if ( item.is( Rules::NO_CALL_CONTROL ) )
             item.finding.bEcho = losses.explainInterface( item.pElement, "callControl" );
     }

@@ -65,8 +65,7 @@ bool isReference( const xmlNode* in_pElement ) {
 bool isAnalog( const xmlNode* in_pElement ) {
     const auto vecChain = getChain( in_pElement );
     return std::any_of( vecChain.begin(), vecChain.end(), []( const xmlNode* in_pOne ) {
-        const std::string_view strName = getElementName( in_pOne );
-        return strName == "analog" || strName.starts_with( "tirvanaAnalog" );
+        return std::string_view( getElementName( in_pOne ) ).find( "nalog" ) != std::string_view::npos;
     } );
 }
 

@@ -34,7 +34,7 @@ std::vector<const xmlNode*> getTree( const xmlNode* in_pElement );
 /// Whether the element names a board, or should: a reference of `applyTo`, a member of a group.
 bool isReference( const xmlNode* in_pElement );
 
-/// Whether the element is below `analog`, or in the physical configuration of analog lines.
+/// Whether the element is about analog lines: stands in an element with a name of that kind, which may be misspelt.
 bool isAnalog( const xmlNode* in_pElement );
 
 } // namespace Velquin::Pstn
