@@ -21,3 +21,4 @@ struct Program {
 // Each adds one verb. The verb runs when the command line is parsed.
 
 void addCheckCommand( Program& inout_program );
+void addMapCommand( Program& inout_program );

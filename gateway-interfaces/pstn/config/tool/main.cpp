@@ -10,12 +10,13 @@ namespace {
 int run( int in_nArguments, char** in_aszArguments ) {
     Program program;
     program.strDefaultSchema = getDefaultSchemaPath( in_aszArguments[0] );
-    program.app.description( "Checks PSTN configuration files of the gateway." );
+    program.app.description( "Checks PSTN configuration files of the gateway, and shows what is in them." );
     program.app.set_version_flag( "--version", PSTNCONFIG_VERSION );
     program.app.require_subcommand( 1 );
     program.app.footer(
         "Exit code: 0 all files valid, 1 a file invalid, 2 wrong usage or a file or the schema can't be read." );
     addCheckCommand( program );
+    addMapCommand( program );
 
     try {
         program.app.parse( in_nArguments, in_aszArguments );
