@@ -1,6 +1,7 @@
 #include "Printable.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -14,17 +15,36 @@ std::size_t firstLength( std::string_view in_strText ) {
     return static_cast<std::size_t>( it - in_strText.begin() );
 }
 
-/// Whether the bytes are one UTF-8 character that acts instead of being shown.
+/// Characters that act instead of being shown.
+struct CodePoints {
+    char32_t cFirst;
+    char32_t cLast;
+};
+constexpr CodePoints ACTING[] = {
+    { 0x00, 0x1f },     // C0 controls
+    { 0x7f, 0x9f },     // delete and C1 controls
+    { 0x200e, 0x200f }, // direction marks
+    { 0x2028, 0x202e }, // line and paragraph separator, embeddings, overrides
+    { 0x2066, 0x2069 }, // isolates
+};
+
+/// Length of a character with that first byte; 0 for a byte that begins none.
+std::size_t getLength( unsigned char in_byteFirst ) {
+    return in_byteFirst < 0x80 ? 1 : in_byteFirst >= 0xf0 ? 4 : in_byteFirst >= 0xe0 ? 3 : in_byteFirst >= 0xc0 ? 2 : 0;
+}
+
+/// Whether the character acts, or is none at all: the name of a file may be no UTF-8.
 bool acts( std::string_view in_strCharacter ) {
-    if ( in_strCharacter.size() == 1 )
-        return static_cast<unsigned char>( in_strCharacter[0] ) < 0x20 || in_strCharacter[0] == 0x7f;
-    const auto isBetween = [in_strCharacter]( std::string_view in_strFirst, std::string_view in_strLast ) {
-        return in_strFirst <= in_strCharacter && in_strCharacter <= in_strLast;
-    };
-    return isBetween( "\xc2\x80", "\xc2\x9f" ) ||         // C1 controls
-           isBetween( "\xe2\x80\x8e", "\xe2\x80\x8f" ) || // direction marks
-           isBetween( "\xe2\x80\xa8", "\xe2\x80\xae" ) || // line and paragraph separator, embeddings, overrides
-           isBetween( "\xe2\x81\xa6", "\xe2\x81\xa9" );   // isolates
+    if ( in_strCharacter.size() != getLength( static_cast<unsigned char>( in_strCharacter[0] ) ) )
+        return true;
+    // The first byte tells the length by its upper bits. The others have six bits each.
+    char32_t c = static_cast<unsigned char>( in_strCharacter[0] );
+    if ( in_strCharacter.size() > 1 )
+        c &= 0x7fU >> in_strCharacter.size();
+    for ( const char cFollowing : in_strCharacter.substr( 1 ) )
+        c = ( c << 6U ) | ( static_cast<unsigned char>( cFollowing ) & 0x3fU );
+    return std::any_of( std::begin( ACTING ), std::end( ACTING ),
+                        [c]( const CodePoints& in_points ) { return in_points.cFirst <= c && c <= in_points.cLast; } );
 }
 
 } // namespace
