@@ -85,7 +85,7 @@ TEST( Survey, FindsEachMissingOrWrongAttributeOnce ) {
             const SurveyResult result = survey( document.getText() );
             if ( result.bLoads )
                 continue; // the case is about readers behind another schema
-            const bool bOfParent = one.vecEdits[0].strTo[0] == '<';
+            const bool bOfParent = one.vecEdits[0].strTo == "-";
             expectOne( result, bOfParent ? "" : document.expand( "{line}", "" ), "", "" );
             ++uMistakes;
         }
