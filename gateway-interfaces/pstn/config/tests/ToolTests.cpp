@@ -1,27 +1,8 @@
-#include "ConfigTest.h"
+#include "ToolRun.h"
 
 // The program that operators run: what it prints and how it exits.
 
 namespace Velquin::Pstn::Test {
-
-namespace {
-
-struct ToolResult {
-    int nExitCode;
-    std::string strOutput;
-    std::string strErrors;
-};
-
-ToolResult runTool( const std::string& in_strArguments ) {
-    const TemporaryFile output( "" );
-    const TemporaryFile errors( "" );
-    const std::string strCommand =
-        std::string( PSTN_TEST_TOOL ) + " " + in_strArguments + " >" + output.getPath() + " 2>" + errors.getPath();
-    const int nStatus = std::system( strCommand.c_str() );
-    return { nStatus > 255 ? nStatus / 256 : nStatus, readFile( output.getPath() ), readFile( errors.getPath() ) };
-}
-
-} // namespace
 
 TEST( Tool, AcceptsAValidFileWithTheSchemaThatComesWithIt ) {
     const ToolResult result = runTool( "check " + COMPLETE );

@@ -5,7 +5,11 @@
 
 #include <velquin/pstn/loading/XmlConfig.h>
 
+#include "Command.h"
+
 /// Loads a file for a verb that shows the model. When the gateway would not load it, prints to standard error what is
 /// wrong.
+/// @param out_eExitCode that of the verb when the file can't be loaded
 /// @return null when the file can't be loaded
-std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strFile, const std::string& in_strSchema );
+std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strFile, const std::string& in_strSchema,
+                                                      ExitCode& out_eExitCode );
