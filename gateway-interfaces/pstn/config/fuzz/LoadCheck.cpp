@@ -7,7 +7,7 @@
 
 #include "ErrorCount.h"
 #include "FuzzTarget.h"
-#include "ModelText.h"
+#include "ModelDescription.h"
 #include "QuietLog.h"
 #include "TemporaryFile.h"
 #include "hardware/InterfaceKind.h"
@@ -41,15 +41,19 @@ void readBoards( const XmlConfig& in_config ) {
     }
 }
 
-/// The part of a model that is written, as text.
-std::string describeWritten( const XmlConfig& in_config ) {
-    std::istringstream boards( describeBoards( in_config ) );
-    std::string strWritten;
-    for ( std::string strLine; std::getline( boards, strLine ); ) {
-        if ( strLine.find( " primaryClockReference = " ) == std::string::npos )
-            strWritten += strLine + "\n";
+/// The part of a model that is written.
+Json describeWritten( const XmlConfig& in_config ) {
+    Json model = describeBoards( in_config );
+    for ( Json& section : model ) {
+        for ( Json& board : section ) {
+            for ( Json& interface : board["interfaces"] ) {
+                interface.erase( "primaryClockReference" );
+                interface.erase( "defaults" );
+            }
+            board.erase( "primaryClockReference" );
+        }
     }
-    return strWritten;
+    return model;
 }
 
 } // namespace

@@ -361,6 +361,30 @@ void shape( Record& inout_texts, const Record& in_shape ) {
 
 } // namespace
 
+namespace {
+
+void addLines( const Json& in_value, const std::string& in_strKey, std::string& out_strLines ) {
+    if ( in_value.is_object() && !in_value.empty() ) {
+        for ( const auto& [strKey, value] : in_value.items() ) {
+            if ( !isListOfDefaults( strKey, value ) )
+                addLines( value, in_strKey + ( in_strKey.empty() ? "" : " " ) + strKey, out_strLines );
+        }
+    } else if ( in_value.is_array() && !in_value.empty() ) {
+        for ( const Json& value : in_value )
+            out_strLines += in_strKey + " = " + toText( value ) + "\n";
+    } else {
+        out_strLines += in_strKey + " = " + toText( in_value ) + "\n";
+    }
+}
+
+} // namespace
+
+std::string describeLines( const Config& in_config ) {
+    std::string strLines;
+    addLines( describeModel( in_config ), "", strLines );
+    return strLines;
+}
+
 std::vector<Case> readCases( const std::string& in_strFile ) {
     std::vector<Case> vecCases;
     Chains mapChains{ { "schema", {} } };
@@ -392,7 +416,7 @@ std::vector<Case> readCases( const std::string& in_strFile ) {
 
 namespace {
 
-/// Of a line of a model's text, what stands in front of the value.
+/// Of a line of a model, what stands in front of the value.
 std::string getKey( const std::string& in_strLine ) {
     return in_strLine.substr( 0, in_strLine.find( " = " ) );
 }
@@ -417,12 +441,12 @@ std::map<std::string, std::string> groupLines( const std::vector<std::string>& i
     return mapLines;
 }
 
-/// How the text of a model differs from that of the complete document: all lines of the keys that have others, and "no
-/// " with the lines whose key is gone, unless "none" of what holds them says it for all. When nothing differs so, the
-/// order of all lines counts, too.
+/// How the lines of a model differ from those of the complete document: all lines of the keys that have others, and "no
+/// " with the lines whose key is gone, unless null in place of what holds them says it for all. When nothing differs
+/// so, the order of all lines counts, too.
 std::string getChanges( const XmlConfig& in_config ) {
     std::vector<std::string> vecOld = split( readFile( DATA_FOLDER + "/complete.model" ), "\n" );
-    std::vector<std::string> vecNew = split( describeModel( in_config ), "\n" );
+    std::vector<std::string> vecNew = split( describeLines( in_config ), "\n" );
     vecOld.pop_back();
     vecNew.pop_back();
     vecOld = splitValues( vecOld );

@@ -16,7 +16,7 @@
 #include <velquin/XML.h>
 
 #include "LogCapture.h"
-#include "ModelText.h"
+#include "ModelDescription.h"
 #include "PstnConfig.h"
 #include "document/LibXml2.h"
 
@@ -106,7 +106,7 @@ struct Case {
     std::vector<std::string> vecLines;
     std::vector<Edit> vecEdits = {};
     bool bValid = false;
-    std::vector<std::string> vecChanges = {}; ///< lines of the model's text, see ModelText.h, or "no " and what is gone
+    std::vector<std::string> vecChanges = {}; ///< of the model's lines, or "no " and what is gone
     std::string strSchema = ANY_SCHEMA;
 
     friend void PrintTo( const Case& in_case, std::ostream* out_pStream ) { *out_pStream << in_case.strName; }
@@ -136,6 +136,10 @@ std::vector<std::string> assertions( const std::string& in_strAll );
 /// Expected lines of classes that don't write.
 std::vector<std::string> notImplemented( const std::vector<std::string>& in_vecClasses );
 
+/// All that a model holds, a line for each value, "KEY ... KEY = VALUE", without the lists of defaults. The elements of
+/// a list have a line each.
+std::string describeLines( const Config& in_config );
+
 /// Every text of the library must be provoked by a case: a table registers its cases for the list of texts.
 std::vector<Case> registerCases( std::vector<Case> in_vecCases );
 /// The lines of all of them, unexpanded.
@@ -147,7 +151,7 @@ struct KeywordRow {
     std::string strPath; ///< end of the path of its element, the first of which counts
     std::string strAttribute;
     std::vector<std::pair<std::string, int>> vecKeywords; ///< and the values they stand for
-    std::string strLine;                                  ///< of the model's text, up to the value
+    std::string strLine;                                  ///< of the model's lines, up to the value
     std::vector<Edit> vecNeeds;                           ///< what the document needs for these keywords
     std::string strOtherLine = {};                        ///< with any other text; empty when that is refused
     bool bReported = true;                                ///< whether any other text is

@@ -130,13 +130,13 @@ void gatherAttributes( xmlNode* in_pElement, const std::string& in_strParent,
         gatherAttributes( pChild, strPath, inout_mapAttributes, inout_mapValues );
 }
 
-/// The text of the model that a document gives; empty when it doesn't load.
+/// The lines of the model that a document gives; empty when it doesn't load.
 std::string describe( const XmlDocPtr& in_pDocument ) {
     xmlChar* pText = nullptr;
     int nLength = 0;
     xmlDocDumpMemory( in_pDocument.get(), &pText, &nLength );
     XmlConfig config;
-    return loadText( config, fromXml( XmlStringPtr( pText ).get() ) ).bValid ? describeModel( config ) : "";
+    return loadText( config, fromXml( XmlStringPtr( pText ).get() ) ).bValid ? describeLines( config ) : "";
 }
 
 TEST( Schema, TellsTheDefaultsOfTheModel ) {
@@ -163,7 +163,7 @@ TEST( Schema, TellsTheDefaultsOfTheModel ) {
     EXPECT_GT( uCompared, 15U );
 }
 
-// So is one here that no reader reads, or that the text of the model doesn't tell.
+// So is one here that no reader reads, or that the description of the model doesn't tell.
 TEST( Schema, HasNoAttributeThatTheModelDoesNotTell ) {
     const Format format( SCHEMA );
     const XmlDocPtr pDocument = parse( COMPLETE );

@@ -77,8 +77,7 @@ void addCheckCommand( Program& inout_program ) {
     CLI::App* const pCheck = inout_program.app.add_subcommand(
         "check", "Loads files as the gateway does and prints what is wrong with them" );
     pCheck->add_option( "FILE", options.vecFiles, "Configuration files" )->required();
-    pCheck->add_option( "--schema", options.strSchema, "RelaxNG schema instead of the one that comes with the program" )
-        ->type_name( "RNG" );
+    addSchemaOption( *pCheck, options.strSchema );
     pCheck->add_option( "--parameters", options.strParameters, "The gateway's parameters, a file of name=value lines" )
         ->type_name( "FILE" );
     pCheck

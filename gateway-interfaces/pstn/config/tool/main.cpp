@@ -16,6 +16,8 @@ int run( int in_nArguments, char** in_aszArguments ) {
     program.app.footer(
         "Exit code: 0 all files valid, 1 a file invalid, 2 wrong usage or a file or the schema can't be read." );
     addCheckCommand( program );
+    addShowCommand( program );
+    addDiffCommand( program );
     addMapCommand( program );
 
     try {
@@ -23,10 +25,20 @@ int run( int in_nArguments, char** in_aszArguments ) {
     } catch ( const CLI::ParseError& error ) {
         return program.app.exit( error ) == 0 ? EXIT_VALID : EXIT_NOT_CHECKED;
     }
+    if ( !std::cout.flush() ) {
+        std::cerr << "pstnconfig: can't write the output" << std::endl;
+        return EXIT_NOT_CHECKED;
+    }
     return program.eExitCode;
 }
 
 } // namespace
+
+void addSchemaOption( CLI::App& inout_command, std::string& inout_strSchema ) {
+    inout_command
+        .add_option( "--schema", inout_strSchema, "RelaxNG schema instead of the one that comes with the program" )
+        ->type_name( "RNG" );
+}
 
 int main( int argc, char** argv ) {
     // Allocates the buffer now. At the first line of output, a large document would already be freed, and malloc would
