@@ -12,6 +12,7 @@
 #include "TemporaryFile.h"
 #include "hardware/InterfaceKind.h"
 #include "loading/XmlConfig.h"
+#include "survey/Survey.h"
 
 namespace Velquin::Pstn::Fuzz {
 
@@ -56,6 +57,25 @@ Json describeWritten( const XmlConfig& in_config ) {
     return model;
 }
 
+/// A survey has the verdict of the load and, of a file that loads, the same model.
+void checkSurvey( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLoads,
+                  const XmlConfig& in_config ) {
+    Survey survey;
+    {
+        const FindingWatch noCount( []( const Finding& ) {} );
+        require( survey.run( in_szConfigFile, in_szSchemaFile ) == in_bLoads, "a survey has the verdict of the load" );
+    }
+    bool bMistake = false;
+    for ( const Finding& finding : survey.getFindings() ) {
+        require( finding.bEcho || !finding.strRule.empty(), "a mistake breaks a rule" );
+        require( !describeFinding( finding ).empty(), "a finding says something" );
+        bMistake = bMistake || ( !finding.bEcho && finding.nLevel >= Logger::ERROR_LEVEL );
+    }
+    require( in_bLoads || bMistake, "a file that doesn't load has a mistake" );
+    require( !in_bLoads || describeModel( survey.getConfig() ) == describeModel( in_config ),
+             "a survey reads the model of a load" );
+}
+
 } // namespace
 
 void checkLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bTalkative ) {
@@ -64,6 +84,7 @@ void checkLoad( const char* in_szConfigFile, const char* in_szSchemaFile, bool i
     {
         const ErrorCount errors;
         const bool bLoaded = config.load( in_szConfigFile, in_szSchemaFile, in_bTalkative );
+        checkSurvey( in_szConfigFile, in_szSchemaFile, bLoaded, config );
         require( bLoaded == ( errors.getThoseThatEndALoad() == 0 ),
                  "a load fails when, and only when, it reports an error" );
         if ( !bLoaded )

@@ -57,6 +57,8 @@ std::string describeNames( std::string_view in_strText, std::span<const std::str
         return "did you mean \"" + strNearest + "\"?";
     if ( in_names.empty() )
         return "nothing is expected here";
+    if ( in_names.size() == 1 )
+        return "expected \"" + in_names[0] + "\"";
     std::string strText = "expected ";
     for ( std::size_t u = 0; u < std::min( in_names.size(), MAX_LISTED ); ++u )
         strText.append( u == 0 ? "" : u + 1 == in_names.size() ? " or " : ", " ).append( in_names[u] );

@@ -11,6 +11,7 @@
 #include <log4cplus/nullappender.h>
 
 #include "document/DocumentBuilder.h"
+#include "survey/Survey.h"
 
 namespace Velquin::Pstn::Test {
 
@@ -204,6 +205,14 @@ LoadResult load( XmlConfig& out_config, const std::string& in_strFile, const std
     LoadResult result;
     result.vecLines =
         captureLines( [&] { result.bValid = out_config.load( in_strFile.c_str(), in_strSchema.c_str(), false ); } );
+    // A survey has the verdict of the load, and a reason for it.
+    const Velquin::Test::LogCapture quiet( Logger::ERROR_LEVEL );
+    Survey survey;
+    EXPECT_EQ( survey.run( in_strFile.c_str(), in_strSchema.c_str() ), result.bValid );
+    const auto& vecFindings = survey.getFindings();
+    EXPECT_TRUE( result.bValid || std::any_of( vecFindings.begin(), vecFindings.end(), []( const Finding& in_finding ) {
+                     return !in_finding.bEcho && in_finding.nLevel >= Logger::ERROR_LEVEL;
+                 } ) );
     return result;
 }
 

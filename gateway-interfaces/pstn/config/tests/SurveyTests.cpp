@@ -93,4 +93,91 @@ TEST( Survey, FindsEachMissingOrWrongAttributeOnce ) {
     EXPECT_GE( uMistakes, 200U );
 }
 
+/// Ten files with five mistakes each, which don't hide each other.
+TEST( Survey, FindsFiveMistakesInOneRunInTheirOrder ) {
+    // Each mistake concerns an entry that no other one refers to.
+    const std::vector<Mistake> vecAll = readMistakes();
+    std::vector<Mistake> vecIndependent;
+    for ( const char* const szFrom :
+          { "/tirvanaAnalogBoard[1]", "/analogFxsConfig/applyTo/interfaceRef",
+            "/tirvanaAnalogConfig/applyTo/interfaceRef[2]", "/member[2]",
+            "/fasConfig[1]/applyTo/interfaceRef/BChannelRange[2]", "/disconnectDetectors/detector" } ) {
+        const auto it = std::find_if( vecAll.begin(), vecAll.end(), [szFrom]( const Mistake& in_mistake ) {
+            return in_mistake.vecEdits[0].strFrom == szFrom;
+        } );
+        ASSERT_NE( it, vecAll.end() ) << szFrom;
+        vecIndependent.push_back( *it );
+    }
+    vecIndependent.push_back( { "missing-attribute", "priority", "{line}", { { "/DChannelsThreads", "-priority" } } } );
+    unsigned int uFiles = 0;
+    for ( std::size_t uFirst = 0; uFirst < vecIndependent.size(); ++uFirst ) {
+        for ( std::size_t uSecond = 0; uSecond < uFirst; ++uSecond, ++uFiles ) {
+            // All but two of the seven
+            TestDocument document;
+            std::vector<std::pair<unsigned int, std::string>> vecExpected;
+            for ( std::size_t u = 0; u < vecIndependent.size(); ++u ) {
+                if ( u == uFirst || u == uSecond )
+                    continue;
+                document.edit( vecIndependent[u].vecEdits[0] );
+                vecExpected.emplace_back( std::stoul( document.expand( "{line}", "" ) ), vecIndependent[u].strRule );
+            }
+            std::sort( vecExpected.begin(), vecExpected.end() );
+            std::vector<std::pair<unsigned int, std::string>> vecFound;
+            const SurveyResult result = survey( document.getText() );
+            for ( const Finding& finding : result.vecMistakes )
+                vecFound.emplace_back( finding.span.ullLine, finding.strRule );
+            EXPECT_EQ( vecFound, vecExpected ) << result.strText;
+        }
+    }
+    EXPECT_GE( uFiles, 10U );
+}
+
+TEST( Survey, TellsLinesAndColumnsInFilesOfAnyEncoding ) {
+    const std::string strHead = "<!-- Gr\u00f6\u00dfe < > \" -->\n<!DOCTYPE a [ <!-- ]> --> <!ELEMENT a ANY> ]>\n";
+    const std::string strText = strHead + "<pstnConfig\n\tversion = '2.4'><?pi <a>?><![CDATA[<b>]]>\n"
+                                          "<!-- \u260e --><boards><x\n y='\u260e'/></boards></pstnConfig>";
+    const auto find = []( const std::string& in_strBytes ) {
+        const TemporaryFile file( in_strBytes );
+        const Velquin::Test::LogCapture quiet( Logger::ERROR_LEVEL );
+        Survey survey;
+        EXPECT_FALSE( survey.run( file.getPath().c_str(), SCHEMA ) );
+        std::vector<std::string> vecFound;
+        for ( const Finding& finding : survey.getFindings() ) {
+            if ( finding.bEcho )
+                continue;
+            std::ostringstream place;
+            place << finding.span.ullLine << ':' << finding.span.ullColumn << '-' << finding.span.ullEndColumn << ' '
+                  << finding.valueSpan.ullColumn << '-' << finding.valueSpan.ullEndColumn << ' ' << finding.strRule
+                  << ' ' << survey.getLine( finding.span.ullLine );
+            vecFound.push_back( place.str() );
+        }
+        return vecFound;
+    };
+    const std::vector<std::string> vecExpected = find( "\xEF\xBB\xBF" + strText );
+    EXPECT_THAT( vecExpected,
+                 testing::Contains( "4:2-17 13-16 invalid-value \tversion = '2.4'><?pi <a>?><![CDATA[<b>]]>" ) );
+    EXPECT_THAT( vecExpected, testing::Contains( "5:19-21 0-0 unknown-element <!-- \u260e --><boards><x" ) );
+    std::string strUtf16 = "\xFF\xFE";
+    for ( std::size_t u = 0; u < strText.size(); ++u ) { // of the characters here, one or three bytes in UTF-8
+        const auto c = static_cast<unsigned char>( strText[u] );
+        unsigned int uCode = c;
+        if ( c >= 0xE0 ) {
+            uCode = ( c & 0x0FU ) << 12U | ( strText[u + 1] & 0x3FU ) << 6U | ( strText[u + 2] & 0x3FU );
+            u += 2;
+        } else if ( c >= 0xC0 ) {
+            uCode = ( c & 0x1FU ) << 6U | ( strText[u + 1] & 0x3FU );
+            ++u;
+        }
+        strUtf16 += static_cast<char>( uCode & 0xFFU );
+        strUtf16 += static_cast<char>( uCode >> 8U );
+    }
+    EXPECT_EQ( find( strUtf16 ), vecExpected );
+}
+
+TEST( Survey, StopsCountingWhereTheParserGivesUp ) {
+    const SurveyResult result = survey( "<pstnConfig>\n<boards a='1' b=>\n</pstnConfig" );
+    expectOne( result, "2", "ill-formed", "" );
+    EXPECT_EQ( survey( readFile( COMPLETE ), "/no/such/schema.rng" ).vecMistakes.size(), 1U );
+}
+
 } // namespace Velquin::Pstn::Test

@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstring>
 
+#include "document/ElementPaths.h"
+
 namespace Velquin::Pstn {
 
 namespace {
@@ -40,6 +42,10 @@ unsigned long long getElementNumber( const xmlNode* in_pElement ) noexcept {
 }
 
 std::string getElementPath( const xmlNode* in_pElement ) {
+    if ( ElementPaths* const pPaths = ElementPaths::getCurrent(); pPaths && isOfOwnDocument( in_pElement ) ) {
+        if ( std::string strPath = pPaths->find( in_pElement ); !strPath.empty() )
+            return strPath;
+    }
     return fromXml( XmlStringPtr( xmlGetNodePath( const_cast<xmlNode*>( in_pElement ) ) ).get() );
 }
 

@@ -54,34 +54,42 @@ void SchemaAdvisor::adviseOnDocument( xmlNode* in_pRoot ) {
 
 void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns ) {
     m_patterns.beginElement();
-    bool bFaulty = adviseOnAttributes( in_pElement, in_vecPatterns );
-    std::vector<std::string> vecMissing = m_patterns.findMissingChildren( in_pElement );
+    const bool bAttributes = adviseOnAttributes( in_pElement, in_vecPatterns );
+    std::vector<xmlNode*> vecUnknown;
     for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
         m_patterns.beginElement();
         const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_vecPatterns, pChild );
         if ( m_patterns.isLost() || m_uFaultyElements >= MAX_FAULTY_ELEMENTS )
             return;
-        if ( !vecPatterns.empty() ) {
+        if ( vecPatterns.empty() )
+            vecUnknown.push_back( pChild );
+        else
             adviseOnTree( pChild, vecPatterns );
-            continue;
-        }
-        reportUnknownChild( pChild, in_vecPatterns );
-        std::erase( vecMissing, findNearest( getElementName( pChild ), vecMissing ) ); // it is there, but misspelt
-        bFaulty = true;
+    }
+    std::vector<std::string> vecMissing = m_patterns.findMissingChildren( in_pElement );
+    m_uFaultyElements += bAttributes || !vecUnknown.empty() || !vecMissing.empty();
+    const std::vector<std::string> vecNames = m_patterns.findChildNames( in_vecPatterns );
+    for ( xmlNode* const pChild : vecUnknown ) {
+        // What is missing may be there under a wrong name.
+        const bool bOnlyOne = vecUnknown.size() == 1 && vecMissing.size() == 1;
+        const std::string strNearest = bOnlyOne ? vecMissing[0] : findNearest( getElementName( pChild ), vecMissing );
+        reportUnknownChild(
+            pChild, describeNames( getElementName( pChild ), std::erase( vecMissing, strNearest ) > 0
+                                                                 ? std::span<const std::string>( &strNearest, 1 )
+                                                                 : vecNames ) );
     }
     const ElementReader reader( in_pElement, m_logger, CHILD_WORDING );
     for ( const std::string& strName : vecMissing )
         reader.reportMissingChild( strName );
-    m_uFaultyElements += bFaulty || !vecMissing.empty();
 }
 
-void SchemaAdvisor::reportUnknownChild( xmlNode* in_pChild, const SchemaPatterns::Patterns& in_vecPatterns ) {
+void SchemaAdvisor::reportUnknownChild( xmlNode* in_pChild, std::string in_strHint ) {
     const AttributeReader reader( in_pChild, m_logger, CHILD_WORDING );
     Finding finding;
     finding.eKind = Finding::Kind::UNKNOWN_ELEMENT;
     finding.strRule = Rules::UNKNOWN_ELEMENT;
     finding.strAttribute = reader.getName();
-    finding.strHint = describeNames( finding.strAttribute, m_patterns.findChildNames( in_vecPatterns ) );
+    finding.strHint = std::move( in_strHint );
     reader.reportDeclared( "Unexpected element [" + getElementPath( in_pChild ) + "]", ".", std::move( finding ) );
 }
 

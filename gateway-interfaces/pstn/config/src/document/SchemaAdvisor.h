@@ -35,7 +35,7 @@ public:
 
 private:
     void adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns );
-    void reportUnknownChild( xmlNode* in_pChild, const SchemaPatterns::Patterns& in_vecPatterns );
+    void reportUnknownChild( xmlNode* in_pChild, std::string in_strHint );
     bool adviseOnAttributes( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns );
     void collectMisfits( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecParents,
                          std::string_view in_strName, std::size_t in_uMost, std::vector<xmlNode*>& out_vecMisfits );

@@ -68,9 +68,16 @@ void markSecondReports( SurveyRecord& inout_record ) {
         else if ( finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
             setSeen.emplace( getParentElement( item.pElement ), strMeant );
     }
+    std::set<const xmlNode*> setWithoutChild;
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( isMain( item ) && item.pElement && !item.finding.strAttribute.empty() )
-            item.finding.bEcho = !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
+        if ( !isMain( item ) || !item.pElement || item.finding.strAttribute.empty() )
+            continue;
+        const bool bSeen = !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
+        // A reader may miss the attribute of a child that is missing.
+        item.finding.bEcho =
+            bSeen || ( item.is( Rules::MISSING_ATTRIBUTE ) && setWithoutChild.contains( item.pElement ) );
+        if ( item.is( Rules::MISSING_ELEMENT ) )
+            setWithoutChild.insert( item.pElement );
     }
 }
 

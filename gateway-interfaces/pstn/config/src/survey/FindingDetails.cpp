@@ -13,7 +13,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
-constexpr std::size_t MAX_DETAILED = 300; // each may look through the whole document
+constexpr std::size_t MAX_DETAILED = 100; // each may look through the whole document
 
 using Elements = std::vector<const xmlNode*>;
 

@@ -9,6 +9,7 @@
 
 #include "advice/Advice.h"
 #include "document/Element.h"
+#include "document/ElementPaths.h"
 #include "document/SourceText.h"
 #include "reading/EntryListener.h"
 #include "survey/Echoes.h"
@@ -52,6 +53,7 @@ private:
 
     void findElements();
 
+    const ElementPaths m_paths;
     const XmlConfig& m_config;
     SurveyRecord& m_record;
     std::vector<std::size_t> m_vecEntries; ///< number of findings at the begin of each open entry
