@@ -1,7 +1,9 @@
 #include "advice/AdviceSubject.h"
 
+#include <numeric>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "callcontrol/isdn/IsdnFasConfig.h"
 #include "callcontrol/isdn/IsdnNfasConfig.h"
@@ -35,23 +37,51 @@ void gatherBoards( const Config& in_config, bool in_bAnalog, std::vector<AdviceS
     }
 }
 
-/// The lines by their interface, to find one of many.
-template <class TLine>
-class LineFinder {
+/// Deals items out to the lines that they belong to, in the order in which they come.
+template <class TLine, class TItem>
+class Dealer {
 public:
-    explicit LineFinder( std::vector<TLine>& inout_vecLines ) : m_vecLines( inout_vecLines ) {
-        for ( std::size_t u = 0; u < inout_vecLines.size(); ++u )
-            m_mapLines.emplace( inout_vecLines[u].pInterface, u );
+    explicit Dealer( std::vector<TLine>& inout_vecLines )
+        : m_vecLines( inout_vecLines ), m_vecCounts( inout_vecLines.size() + 1 ) {}
+
+    /// Drops an item of an interface that is on no board of the model.
+    void add( const InterfaceConfig* in_pInterface, const TItem& in_item ) {
+        if ( const std::size_t uLine = findLine( in_pInterface ); uLine < m_vecLines.size() ) {
+            m_vecItems.push_back( { uLine, in_item } );
+            ++m_vecCounts[uLine + 1];
+        }
     }
 
-    /// Null for an interface that is on no board of the model.
-    TLine* find( const InterfaceConfig* in_pInterface ) const {
-        const auto it = m_mapLines.find( in_pInterface );
-        return it == m_mapLines.end() ? nullptr : &m_vecLines[it->second];
+    /// @param out_vecItems the items, line by line
+    /// @param in_member where each line refers to its own
+    void deal( std::vector<TItem>& out_vecItems, std::span<const TItem> TLine::*in_member ) {
+        std::partial_sum( m_vecCounts.begin(), m_vecCounts.end(), m_vecCounts.begin() );
+        out_vecItems.resize( m_vecItems.size() );
+        for ( std::size_t u = 0; u < m_vecLines.size(); ++u )
+            m_vecLines[u].*in_member = { out_vecItems.data() + m_vecCounts[u], m_vecCounts[u + 1] - m_vecCounts[u] };
+        for ( const auto& [uLine, item] : m_vecItems )
+            out_vecItems[m_vecCounts[uLine]++] = item;
     }
 
 private:
+    /// Most interfaces are named in ascending order: first looks at the last one found, and at the one behind it.
+    std::size_t findLine( const InterfaceConfig* in_pInterface ) {
+        for ( std::size_t u = m_uLast; u < m_uLast + 2 && u < m_vecLines.size(); ++u ) {
+            if ( m_vecLines[u].pInterface == in_pInterface )
+                return m_uLast = u;
+        }
+        if ( m_mapLines.empty() ) {
+            for ( std::size_t u = 0; u < m_vecLines.size(); ++u )
+                m_mapLines.emplace( m_vecLines[u].pInterface, u );
+        }
+        const auto it = m_mapLines.find( in_pInterface );
+        return it == m_mapLines.end() ? m_vecLines.size() : m_uLast = it->second;
+    }
+
     std::vector<TLine>& m_vecLines;
+    std::vector<std::pair<std::size_t, TItem>> m_vecItems;
+    std::vector<std::size_t> m_vecCounts; ///< of the line before
+    std::size_t m_uLast = 0;
     std::unordered_map<const InterfaceConfig*, std::size_t> m_mapLines;
 };
 
@@ -63,48 +93,46 @@ AdviceSubject::AdviceSubject( const Config& in_config )
     gatherBoards<AnalogKind>( config, true, vecBoards, vecPorts, vecAnalogPhysicals );
     if ( hCallControl.isNull() )
         return;
-    gatherDigitalCallControl();
-    gatherAnalogCallControl();
+    gatherRanges();
+    if ( !hCallControl->getIsdnConfig().isNull() )
+        gatherIsdnUses();
+    if ( !hCallControl->getAnalogConfig().isNull() )
+        gatherAnalogUses();
 }
 
-void AdviceSubject::gatherDigitalCallControl() {
-    const LineFinder<Span> spans( vecSpans );
+void AdviceSubject::gatherRanges() {
+    Dealer<Span, Range> dealer( vecSpans );
     for ( const auto& [strId, hGroup] : hCallControl->getChannelGroupsConfig() ) {
-        for ( const auto& hRange : hGroup->getBChannelRangeConfig() ) {
-            if ( Span* const pSpan = spans.find( hRange->getInterfaceConfig().get() ) )
-                pSpan->vecRanges.push_back( { hGroup.get(), hRange.get() } );
-        }
+        for ( const auto& hRange : hGroup->getBChannelRangeConfig() )
+            dealer.add( hRange->getInterfaceConfig().get(), { hGroup.get(), hRange.get() } );
     }
-    if ( hCallControl->getIsdnConfig().isNull() )
-        return;
+    dealer.deal( m_vecRanges, &Span::ranges );
+}
+
+void AdviceSubject::gatherIsdnUses() {
+    Dealer<Span, IsdnUse> dealer( vecSpans );
     for ( const auto& [uId, hFas] : hCallControl->getIsdnConfig()->getFasConfigs() ) {
-        for ( const auto& hInterface : hFas->getApplyToDigitalInterfaces() ) {
-            if ( Span* const pSpan = spans.find( hInterface.get() ) )
-                pSpan->vecUses.push_back( { hFas.get(), nullptr } );
-        }
+        for ( const auto& hInterface : hFas->getApplyToDigitalInterfaces() )
+            dealer.add( hInterface.get(), { hFas.get(), nullptr } );
     }
     for ( const auto& [uId, hNfas] : hCallControl->getIsdnConfig()->getNfasConfigs() ) {
-        for ( const auto& [strInterface, hMember] : hNfas->getMemberInterfaces() ) {
-            if ( Span* const pSpan = spans.find( hMember->getInterfaceConfig().get() ) )
-                pSpan->vecUses.push_back( { hNfas.get(), hMember.get() } );
-        }
+        for ( const auto& [strInterface, hMember] : hNfas->getMemberInterfaces() )
+            dealer.add( hMember->getInterfaceConfig().get(), { hNfas.get(), hMember.get() } );
     }
+    dealer.deal( m_vecIsdnUses, &Span::uses );
 }
 
-void AdviceSubject::gatherAnalogCallControl() {
-    if ( hCallControl->getAnalogConfig().isNull() )
-        return;
-    const LineFinder<Port> ports( vecPorts );
-    const auto gather = [&ports]( const auto& in_mapConfigs, bool in_bFxs ) {
+void AdviceSubject::gatherAnalogUses() {
+    Dealer<Port, AnalogUse> dealer( vecPorts );
+    const auto gather = [&dealer]( const auto& in_mapConfigs, bool in_bFxs ) {
         for ( const auto& [uId, hConfig] : in_mapConfigs ) {
-            for ( const auto& hInterface : hConfig->getApplyToAnalogInterfaces() ) {
-                if ( Port* const pPort = ports.find( hInterface.get() ) )
-                    pPort->vecUses.push_back( { hConfig.get(), in_bFxs } );
-            }
+            for ( const auto& hInterface : hConfig->getApplyToAnalogInterfaces() )
+                dealer.add( hInterface.get(), { hConfig.get(), in_bFxs } );
         }
     };
     gather( hCallControl->getAnalogConfig()->getFxoConfigs(), false );
     gather( hCallControl->getAnalogConfig()->getFxsConfigs(), true );
+    dealer.deal( m_vecAnalogUses, &Port::uses );
 }
 
 } // namespace Velquin::Pstn

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "hardware/Config.h"
@@ -29,13 +30,13 @@ struct AdviceSubject {
     struct Span {
         const DigitalInterfaceConfig* pInterface;
         const DigitalInterfacePhysicalConfig* pPhysical;
-        std::vector<IsdnUse> vecUses; ///< FAS groups first; a group that names the span twice stands there twice
-        std::vector<Range> vecRanges; ///< by channel group, then by channel
+        std::span<const IsdnUse> uses; ///< FAS groups first; a group that names the span twice stands there twice
+        std::span<const Range> ranges; ///< by channel group, then by channel
     };
     struct Port {
         const AnalogInterfaceConfig* pInterface;
         const AnalogInterfacePhysicalConfig* pPhysical;
-        std::vector<AnalogUse> vecUses; ///< FXO first
+        std::span<const AnalogUse> uses; ///< FXO first
     };
     /// A board, and where its interfaces stand among the spans or the ports.
     struct Board {
@@ -52,6 +53,8 @@ struct AdviceSubject {
     };
 
     explicit AdviceSubject( const Config& in_config );
+    AdviceSubject( const AdviceSubject& ) = delete;
+    AdviceSubject& operator=( const AdviceSubject& ) = delete;
 
     const Config& config;
     TSHandle<CallControlConfig> hCallControl; ///< as all that it holds, perhaps null
@@ -62,8 +65,14 @@ struct AdviceSubject {
     std::vector<Physical<AnalogInterfacePhysicalConfig>> vecAnalogPhysicals;
 
 private:
-    void gatherDigitalCallControl();
-    void gatherAnalogCallControl();
+    void gatherIsdnUses();
+    void gatherRanges();
+    void gatherAnalogUses();
+
+    // What the lines refer to, line by line: a vector for each line would cost more than all rules.
+    std::vector<IsdnUse> m_vecIsdnUses;
+    std::vector<Range> m_vecRanges;
+    std::vector<AnalogUse> m_vecAnalogUses;
 };
 
 } // namespace Velquin::Pstn

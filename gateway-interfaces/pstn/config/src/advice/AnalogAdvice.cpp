@@ -16,10 +16,8 @@ bool isFxs( const AdviceSubject::Port& in_port ) {
     return in_port.pInterface->getMediaType() == AnalogInterfaceConfig::MediaType::FXS;
 }
 
-bool hasDetector( const AnalogFxoConfig& in_config ) {
-    const AnalogDisconnectSupervisionConfig* const pSupervision = in_config.getDisconnectSupervisonConfigHandle().get();
-    return pSupervision &&
-           ( pSupervision->isRingCadenceDetectionEnabled() || !pSupervision->getDisconnectDetectorsMap().empty() );
+bool hasDetector( const AnalogDisconnectSupervisionConfig& in_supervision ) {
+    return in_supervision.isRingCadenceDetectionEnabled() || !in_supervision.getDisconnectDetectorsMap().empty();
 }
 
 } // namespace
@@ -27,9 +25,9 @@ bool hasDetector( const AnalogFxoConfig& in_config ) {
 void advisePortType( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     for ( const AdviceSubject::Port& port : in_subject.vecPorts ) {
         const bool bFxs = isFxs( port );
-        const auto itWrong = std::find_if( port.vecUses.begin(), port.vecUses.end(),
+        const auto itWrong = std::find_if( port.uses.begin(), port.uses.end(),
                                            [=]( const auto& in_use ) { return in_use.bFxs != bFxs; } );
-        if ( itWrong == port.vecUses.end() )
+        if ( itWrong == port.uses.end() )
             continue;
         Advice advice{ placeOf( *itWrong, *port.pInterface ),
                        nameOf( *port.pInterface ) + ( bFxs ? " is an FXS port in an FXO configuration"
@@ -38,9 +36,9 @@ void advisePortType( const AdviceSubject& in_subject, AdviceReport& inout_report
                        bFxs ? "move it to an analogFxsConfig, or change its type"
                             : "move it to an analogFxoConfig, or change its type",
                        { { "declared here", placeOf( *port.pInterface ).attribute( "type" ) } } };
-        const auto itRight = std::find_if( port.vecUses.begin(), port.vecUses.end(),
+        const auto itRight = std::find_if( port.uses.begin(), port.uses.end(),
                                            [=]( const auto& in_use ) { return in_use.bFxs == bFxs; } );
-        if ( itRight != port.vecUses.end() ) {
+        if ( itRight != port.uses.end() ) {
             advice.strHint = "take it out: it has its own configuration already";
             advice.vecRelated.push_back( { "also here", placeOf( *itRight, *port.pInterface ) } );
         }
@@ -52,7 +50,7 @@ void advisePortInTwoConfigs( const AdviceSubject& in_subject, AdviceReport& inou
     for ( const AdviceSubject::Port& port : in_subject.vecPorts ) {
         const bool bFxs = isFxs( port );
         const AdviceSubject::AnalogUse* pFirst = nullptr;
-        for ( const AdviceSubject::AnalogUse& use : port.vecUses ) {
+        for ( const AdviceSubject::AnalogUse& use : port.uses ) {
             if ( use.bFxs != bFxs )
                 continue; // advisePortType tells
             if ( !pFirst ) {
@@ -109,18 +107,21 @@ void adviseNoHangUpDetection( const AdviceSubject& in_subject, AdviceReport& ino
     if ( in_subject.hCallControl.isNull() || in_subject.hCallControl->getAnalogConfig().isNull() )
         return;
     for ( const auto& [uId, hConfig] : in_subject.hCallControl->getAnalogConfig()->getFxoConfigs() ) {
-        if ( hConfig->getApplyToAnalogInterfaces().empty() || hasDetector( *hConfig ) )
+        // The load says so when it leaves out a supervision that it can't read.
+        const AnalogDisconnectSupervisionConfig* const pSupervision =
+            hConfig->getDisconnectSupervisonConfigHandle().get();
+        if ( hConfig->getApplyToAnalogInterfaces().empty() || !pSupervision || hasDetector( *pSupervision ) )
             continue;
         const AdvicePlace place = placeOf( AdviceSubject::AnalogUse{ hConfig.get(), false } );
-        // The load leaves out a supervision that it can't read, and says so.
-        const bool bLost = hConfig->getDisconnectSupervisonConfigHandle().isNull() &&
-                           inout_report.getDocument().find( place.vecKeys.front(), "disconnectSupervision" ).pElement;
-        if ( !bLost )
-            inout_report.add(
-                { place.below( hConfig->getDisconnectSupervisonConfigHandle().isNull() ? "" : "disconnectSupervision" ),
-                  "the lines of " + std::string( "analogFxoConfig " ) + std::to_string( uId ) +
-                      " never notice that the far end hung up",
-                  "add a detector to its disconnectDetectors" } );
+        // A detector that could not be read has a finding of its own.
+        if ( inout_report.getDocument()
+                 .find( place.vecKeys.front(), "disconnectSupervision/disconnectDetectors/detector" )
+                 .pElement )
+            continue;
+        inout_report.add(
+            { place.below( "disconnectSupervision" ),
+              "the lines of analogFxoConfig " + std::to_string( uId ) + " never notice that the far end hung up",
+              "add a detector to its disconnectDetectors" } );
     }
 }
 

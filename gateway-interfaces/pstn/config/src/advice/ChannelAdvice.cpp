@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <bitset>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -26,11 +27,11 @@ const Line& lineOf( const DigitalInterfacePhysicalConfig& in_physical ) {
     return in_physical.getMediaType() == MediaType::T1 ? T1 : E1;
 }
 
-/// The timeslot of the span's D-channel; 0 when it has none.
-unsigned int getDChannel( const AdviceSubject::Span& in_span ) {
-    return in_span.pPhysical && in_span.pPhysical->hasDChannel()
-               ? in_span.pPhysical->getDChannelConfig()->getDChannelIndex()
-               : 0;
+/// The timeslot of the span's D-channel, if it has one.
+std::optional<unsigned int> getDChannel( const AdviceSubject::Span& in_span ) {
+    if ( !in_span.pPhysical || !in_span.pPhysical->hasDChannel() )
+        return {};
+    return in_span.pPhysical->getDChannelConfig()->getDChannelIndex();
 }
 
 bool hasChannel( const AdviceSubject::Range& in_range, unsigned int in_uChannel ) {
@@ -44,7 +45,7 @@ bool isSwapped( const AdviceSubject::Range& in_range ) {
 /// The ranges of the span that hold the channel.
 std::vector<AdviceRelated> findRanges( const AdviceSubject::Span& in_span, unsigned int in_uChannel ) {
     std::vector<AdviceRelated> vecRelated;
-    for ( const AdviceSubject::Range& range : in_span.vecRanges ) {
+    for ( const AdviceSubject::Range& range : in_span.ranges ) {
         if ( hasChannel( range, in_uChannel ) )
             vecRelated.push_back( { "also here", placeOf( range ) } );
     }
@@ -82,7 +83,7 @@ void adviseChannelOutsideLine( const AdviceSubject& in_subject, AdviceReport& in
         if ( !span.pPhysical )
             continue;
         const Line& line = lineOf( *span.pPhysical );
-        for ( const AdviceSubject::Range& range : span.vecRanges ) {
+        for ( const AdviceSubject::Range& range : span.ranges ) {
             const bool bFirst =
                 range.pRange->getFirstChannel() == 0 || range.pRange->getFirstChannel() > line.uLastChannel;
             // The load itself warns of a range whose ends are exchanged.
@@ -99,13 +100,14 @@ void adviseChannelOutsideLine( const AdviceSubject& in_subject, AdviceReport& in
 
 void adviseDChannelInRange( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     for ( const AdviceSubject::Span& span : in_subject.vecSpans ) {
-        const unsigned int uDChannel = getDChannel( span );
+        const std::optional<unsigned int> uFound = getDChannel( span );
         // A D-channel elsewhere than usual is the mistake itself.
-        if ( uDChannel == 0 || uDChannel != lineOf( *span.pPhysical ).uDChannel )
+        if ( !uFound || *uFound != lineOf( *span.pPhysical ).uDChannel )
             continue;
-        const auto it = std::find_if( span.vecRanges.begin(), span.vecRanges.end(),
+        const unsigned int uDChannel = *uFound;
+        const auto it = std::find_if( span.ranges.begin(), span.ranges.end(),
                                       [=]( const auto& in_range ) { return hasChannel( in_range, uDChannel ); } );
-        if ( it == span.vecRanges.end() )
+        if ( it == span.ranges.end() )
             continue;
         std::vector<AdviceRelated> vecRelated = findRanges( span, uDChannel );
         vecRelated.erase( vecRelated.begin() );
@@ -145,25 +147,27 @@ void adviseGroupEmpty( const AdviceSubject& in_subject, AdviceReport& inout_repo
 void adviseChannelUnused( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     for ( const AdviceSubject::Span& span : in_subject.vecSpans ) {
         // Ranges with exchanged ends have a finding of their own, which explains the rest.
-        if ( !span.pPhysical || span.vecUses.empty() ||
-             std::any_of( span.vecRanges.begin(), span.vecRanges.end(), &isSwapped ) )
+        if ( !span.pPhysical || span.uses.empty() || std::any_of( span.ranges.begin(), span.ranges.end(), &isSwapped ) )
             continue;
         Channels unused;
         for ( unsigned int u = 1; u <= lineOf( *span.pPhysical ).uLastChannel; ++u )
             unused.set( u );
-        if ( const unsigned int uDChannel = getDChannel( span ); uDChannel < unused.size() )
-            unused.reset( uDChannel );
-        for ( const AdviceSubject::Range& range : span.vecRanges ) {
+        if ( const std::optional<unsigned int> uDChannel = getDChannel( span ) ) {
+            // Where the D-channel is elsewhere than usual, that is the mistake.
+            unused.reset( lineOf( *span.pPhysical ).uDChannel );
+            if ( *uDChannel < unused.size() )
+                unused.reset( *uDChannel );
+        }
+        for ( const AdviceSubject::Range& range : span.ranges ) {
             const unsigned int uLast = std::min( range.pRange->getLastChannel(), 31U );
             for ( unsigned int u = range.pRange->getFirstChannel(); u <= uLast; ++u )
                 unused.reset( u );
         }
-        if ( unused.none() ||
-             inout_report.getDocument().countRanges( span.pInterface->getBoardConfig()->getId(),
-                                                     span.pInterface->getId() ) != span.vecRanges.size() )
+        if ( unused.none() || inout_report.getDocument().countRanges( span.pInterface->getBoardConfig()->getId(),
+                                                                      span.pInterface->getId() ) != span.ranges.size() )
             continue;
         const bool bOne = unused.count() == 1;
-        inout_report.add( { placeOf( span.vecUses.front(), *span.pInterface ),
+        inout_report.add( { placeOf( span.uses.front(), *span.pInterface ),
                             std::string( bOne ? "channel " : "channels " ) + describe( unused ) + " of " +
                                 nameOf( *span.pInterface ) + ( bOne ? " is" : " are" ) + " in no channel group",
                             bOne ? "add a BChannelRange if it is to carry calls"

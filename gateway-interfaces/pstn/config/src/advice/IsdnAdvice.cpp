@@ -70,12 +70,12 @@ std::optional<MediaType> getMediaType( const Member& in_member ) {
 
 void adviseSpanInTwoIsdnGroups( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     for ( const AdviceSubject::Span& span : in_subject.vecSpans ) {
-        const auto itOther = std::find_if( span.vecUses.begin(), span.vecUses.end(), [&]( const auto& in_use ) {
-            return in_use.pGroup != span.vecUses.front().pGroup;
+        const auto itOther = std::find_if( span.uses.begin(), span.uses.end(), [&]( const auto& in_use ) {
+            return in_use.pGroup != span.uses.front().pGroup;
         } );
-        if ( itOther == span.vecUses.end() )
+        if ( itOther == span.uses.end() )
             continue;
-        const AdviceSubject::IsdnUse& first = span.vecUses.front();
+        const AdviceSubject::IsdnUse& first = span.uses.front();
         inout_report.add( { placeOf( *itOther, *span.pInterface ),
                             nameOf( *span.pInterface ) + " is already in " + nameOf( first ),
                             "leave it in one ISDN group",
@@ -87,12 +87,13 @@ void adviseNfasPrimary( const AdviceSubject& in_subject, AdviceReport& inout_rep
     forEachGroup( in_subject, [&]( const IsdnNfasConfig& in_group ) {
         const std::vector<const Member*> vecPrimaries = findMembers( in_group, DChannelMode::PRIMARY );
         const std::vector<const Member*> vecBackups = findMembers( in_group, DChannelMode::BACKUP );
-        adviseSeveral( in_group, vecPrimaries, "a group has one PRIMARY D-channel; make this one BACKUP or DISABLED",
-                       inout_report );
-        adviseSeveral( in_group, vecBackups, "a group has one BACKUP D-channel at most; make this one DISABLED",
-                       inout_report );
-        if ( !vecPrimaries.empty() )
+        if ( !vecPrimaries.empty() ) {
+            adviseSeveral( in_group, vecPrimaries,
+                           "a group has one PRIMARY D-channel; make this one BACKUP or DISABLED", inout_report );
+            adviseSeveral( in_group, vecBackups, "a group has one BACKUP D-channel at most; make this one DISABLED",
+                           inout_report );
             return;
+        }
         const AdvicePlace place = placeOfGroup( in_group );
         // A member that could not be read may be the PRIMARY one.
         if ( inout_report.getDocument().countChildren( place.vecKeys.front(), "members" ) !=
@@ -133,7 +134,7 @@ void adviseNfasMixedMedia( const AdviceSubject& in_subject, AdviceReport& inout_
 void adviseSignallingNotCcs( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     using E1Signaling = DigitalInterfacePhysicalConfig::E1Signaling;
     for ( const AdviceSubject::Span& span : in_subject.vecSpans ) {
-        if ( !span.pPhysical || span.vecUses.empty() || span.pPhysical->getMediaType() != MediaType::E1 )
+        if ( !span.pPhysical || span.uses.empty() || span.pPhysical->getMediaType() != MediaType::E1 )
             continue;
         const E1Signaling eSignaling = span.pPhysical->getE1Signaling();
         // A member whose signalling runs on another span needs none of its own.
@@ -144,7 +145,7 @@ void adviseSignallingNotCcs( const AdviceSubject& in_subject, AdviceReport& inou
                   .below( "digitalE1", "E1Signaling" ),
               "",
               nameOf( *span.pInterface ) + " is under ISDN, which needs CCS",
-              { { "ISDN here", placeOf( span.vecUses.front(), *span.pInterface ) } } } );
+              { { "ISDN here", placeOf( span.uses.front(), *span.pInterface ) } } } );
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "advice/Advice.h"
 #include "advice/AdviceTable.h"
 
 namespace Velquin::Pstn {
