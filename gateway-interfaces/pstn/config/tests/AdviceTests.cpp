@@ -78,7 +78,10 @@ std::string describeRules() {
     constexpr const char* SEVERITIES[] = { "fault", "warning", "note" };
     for ( const Rule& rule : getRules() )
         strText += std::string( "\n## " ) + rule.szName + "\n\n*" + SEVERITIES[static_cast<int>( rule.eSeverity )] +
-                   ":* " + rule.szTitle + "\n\n" + rule.szExplanation + "\n";
+                   ":* " + rule.szTitle + "\n\n" +
+                   std::regex_replace( std::regex_replace( rule.szExplanation, std::regex( "&" ), "&amp;" ),
+                                       std::regex( "<" ), "&lt;" ) +
+                   "\n";
     return strText;
 }
 

@@ -1,7 +1,7 @@
 #include "advice/AdviceSubject.h"
 
+#include <algorithm>
 #include <numeric>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
@@ -64,25 +64,32 @@ public:
     }
 
 private:
+    using Id = std::pair<unsigned int, unsigned int>;
+
+    static Id idOf( const InterfaceConfig& in_interface ) {
+        return { in_interface.getBoardConfig()->getId(), in_interface.getId() };
+    }
+
     /// Most interfaces are named in ascending order: first looks at the last one found, and at the one behind it.
     std::size_t findLine( const InterfaceConfig* in_pInterface ) {
         for ( std::size_t u = m_uLast; u < m_uLast + 2 && u < m_vecLines.size(); ++u ) {
             if ( m_vecLines[u].pInterface == in_pInterface )
                 return m_uLast = u;
         }
-        if ( m_mapLines.empty() ) {
-            for ( std::size_t u = 0; u < m_vecLines.size(); ++u )
-                m_mapLines.emplace( m_vecLines[u].pInterface, u );
-        }
-        const auto it = m_mapLines.find( in_pInterface );
-        return it == m_mapLines.end() ? m_vecLines.size() : m_uLast = it->second;
+        if ( !in_pInterface || in_pInterface->getBoardConfig().isNull() )
+            return m_vecLines.size();
+        const auto it = std::lower_bound(
+            m_vecLines.begin(), m_vecLines.end(), idOf( *in_pInterface ),
+            []( const TLine& in_line, const Id& in_id ) { return idOf( *in_line.pInterface ) < in_id; } );
+        if ( it == m_vecLines.end() || it->pInterface != in_pInterface )
+            return m_vecLines.size();
+        return m_uLast = static_cast<std::size_t>( it - m_vecLines.begin() );
     }
 
     std::vector<TLine>& m_vecLines;
     std::vector<std::pair<std::size_t, TItem>> m_vecItems;
     std::vector<std::size_t> m_vecCounts; ///< of the line before
     std::size_t m_uLast = 0;
-    std::unordered_map<const InterfaceConfig*, std::size_t> m_mapLines;
 };
 
 } // namespace

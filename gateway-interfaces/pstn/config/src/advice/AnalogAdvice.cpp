@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "advice/AdviceTable.h"
 #include "analog/AnalogCallControlConfig.h"
@@ -90,7 +91,7 @@ void advisePortNumberTwice( const AdviceSubject& in_subject, AdviceReport& inout
 }
 
 void advisePhoneNumberTwice( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
-    std::map<std::string, const InterfaceConfig*> mapNumbers;
+    std::map<std::string_view, const InterfaceConfig*> mapNumbers;
     for ( const AdviceSubject::Port& port : in_subject.vecPorts ) {
         if ( !isFxs( port ) || *port.pInterface->getPhoneNumber() == '\0' )
             continue;

@@ -58,6 +58,13 @@ AdvicePlace placeOfDChannel( const AdviceSubject::Physical<DigitalInterfacePhysi
 
 using Channels = std::bitset<32>;
 
+/// The channels from the first to the last; those beyond 31 are left out.
+Channels makeChannels( unsigned int in_uFirst, unsigned int in_uLast ) {
+    if ( in_uFirst > std::min( in_uLast, 31U ) )
+        return {};
+    return ( ~0ULL << in_uFirst ) & ( ~0ULL >> ( 63 - std::min( in_uLast, 31U ) ) );
+}
+
 /// "9", "9 to 15", "9 to 15 and 17"
 std::string describe( const Channels& in_channels ) {
     std::vector<std::string> vecParts;
@@ -149,20 +156,14 @@ void adviseChannelUnused( const AdviceSubject& in_subject, AdviceReport& inout_r
         // Ranges with exchanged ends have a finding of their own, which explains the rest.
         if ( !span.pPhysical || span.uses.empty() || std::any_of( span.ranges.begin(), span.ranges.end(), &isSwapped ) )
             continue;
-        Channels unused;
-        for ( unsigned int u = 1; u <= lineOf( *span.pPhysical ).uLastChannel; ++u )
-            unused.set( u );
+        Channels unused = makeChannels( 1, lineOf( *span.pPhysical ).uLastChannel );
         if ( const std::optional<unsigned int> uDChannel = getDChannel( span ) ) {
             // Where the D-channel is elsewhere than usual, that is the mistake.
             unused.reset( lineOf( *span.pPhysical ).uDChannel );
-            if ( *uDChannel < unused.size() )
-                unused.reset( *uDChannel );
+            unused &= ~makeChannels( *uDChannel, *uDChannel );
         }
-        for ( const AdviceSubject::Range& range : span.ranges ) {
-            const unsigned int uLast = std::min( range.pRange->getLastChannel(), 31U );
-            for ( unsigned int u = range.pRange->getFirstChannel(); u <= uLast; ++u )
-                unused.reset( u );
-        }
+        for ( const AdviceSubject::Range& range : span.ranges )
+            unused &= ~makeChannels( range.pRange->getFirstChannel(), range.pRange->getLastChannel() );
         if ( unused.none() || inout_report.getDocument().countRanges( span.pInterface->getBoardConfig()->getId(),
                                                                       span.pInterface->getId() ) != span.ranges.size() )
             continue;

@@ -1,6 +1,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "advice/AdviceTable.h"
@@ -53,7 +54,7 @@ void adviseMissingPeer( const AdviceSubject& in_subject, const VirtualSpan& in_s
 template <class TLine>
 void adviseNames( const std::vector<TLine>& in_vecLines, const AdviceSubject::Board& in_board,
                   AdviceReport& inout_report ) {
-    std::map<std::string, const InterfaceConfig*> mapNames;
+    std::map<std::string_view, const InterfaceConfig*> mapNames;
     for ( std::size_t u = in_board.uFirst; u < in_board.uEnd; ++u ) {
         const InterfaceConfig& line = *in_vecLines[u].pInterface;
         if ( *line.getDisplayName() == '\0' )
@@ -88,7 +89,7 @@ void advisePeer( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     VirtualSpans mapSpans;
     for ( const AdviceSubject::Span& span : in_subject.vecSpans ) {
         if ( const auto* const pSpan = dynamic_cast<const VirtualSpan*>( span.pInterface ) )
-            mapSpans.emplace( idOf( *pSpan ), pSpan );
+            mapSpans.emplace_hint( mapSpans.end(), idOf( *pSpan ), pSpan );
     }
     const auto isLinkedBack = [&]( const VirtualSpan& in_span ) {
         const VirtualSpan* const pPeer = findPeer( mapSpans, in_span );
