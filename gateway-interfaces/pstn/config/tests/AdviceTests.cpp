@@ -8,6 +8,7 @@
 
 #include "ConfigTest.h"
 #include "advice/Advice.h"
+#include "survey/Survey.h"
 
 // The advice on a model, and the texts of all rules.
 
@@ -17,23 +18,17 @@ namespace {
 
 struct AdviceResult {
     bool bValid = false;
-    std::vector<Finding> vecLoad;
     std::vector<Finding> vecAdvice;
 };
 
-/// Loads a document, and asks for advice on what it left in the model.
+/// Loads a document, and asks for advice on the model.
 AdviceResult adviseOn( const TestDocument& in_document, const std::string& in_strSchema ) {
     AdviceResult result;
     const TemporaryFile file( in_document.getText() );
     XmlConfig config;
-    {
-        const FindingWatch watch( [&]( const Finding& in_finding ) { result.vecLoad.push_back( in_finding ); } );
-        result.bValid = load( config, file.getPath(), in_strSchema ).bValid;
-    }
-    const XmlDocPtr pDocument(
-        xmlReadFile( file.getPath().c_str(), nullptr, XML_PARSE_NOERROR | XML_PARSE_NOWARNING ) );
-    if ( pDocument )
-        result.vecAdvice = advise( config, xmlDocGetRootElement( pDocument.get() ) );
+    result.bValid = load( config, file.getPath(), in_strSchema ).bValid;
+    const XmlDocPtr pDocument( xmlReadFile( file.getPath().c_str(), nullptr, XML_PARSE_NONET ) );
+    result.vecAdvice = advise( config, xmlDocGetRootElement( pDocument.get() ) );
     for ( const Finding& finding : result.vecAdvice ) {
         const std::unique_ptr<xmlXPathContext, decltype( &xmlXPathFreeContext )> pContext(
             xmlXPathNewContext( pDocument.get() ), &xmlXPathFreeContext );
@@ -122,17 +117,39 @@ TEST( Advice, HasNothingToSayOfTheExamples ) {
     }
 }
 
-// What a failed load leaves behind is a model with missing parts.
+// What can be read of a wrong file is a model with missing parts.
 TEST( Advice, TakesEveryModelAndNamesOnlyRulesThatAreThere ) {
     for ( const auto& entry : std::filesystem::directory_iterator( DATA_FOLDER + "/cases" ) ) {
         if ( entry.path().extension() != ".cases" )
             continue;
         for ( const Case& one : readCases( entry.path().filename().string() ) ) {
             SCOPED_TRACE( one.strName );
-            const AdviceResult result = adviseOn( TestDocument( one.vecEdits ), one.strSchema );
-            for ( const Finding& finding : result.vecLoad )
+            const TemporaryFile file( TestDocument( one.vecEdits ).getText() );
+            Survey survey;
+            survey.run( file.getPath().c_str(), one.strSchema.c_str() );
+            for ( const Finding& finding : survey.getFindings() )
                 EXPECT_TRUE( finding.strRule.empty() || findRule( finding.strRule ) ) << finding.strRule;
         }
+    }
+}
+
+// Parts of a file that are wrong leave gaps in the model, which are no mistakes of their own.
+TEST( Advice, SaysNothingThatOnlyFollowsFromAFault ) {
+    for ( const std::vector<Edit>& vecEdits : std::vector<std::vector<Edit>>{
+              { { "/BChannelRange[5]", "lastChannel=\"x\"" } }, // channel-unused
+              { { "/fasConfig/applyTo/interfaceRef/BChannelRange", "-" },
+                { "/fasConfig/applyTo/interfaceRef/BChannelRange", "-" } },
+              { { "/member[1]", "nfasInterfaceID=\"x\"" } }, // nfas-primary
+              { { "/fasConfig", "ID=\"x\"" } },              // group-empty
+              { { "/detector", "-name" }, { "/ringCadenceDetector", "active=\"NO\" -ringCadenceOffDelayMs" } },
+          } ) {
+        const TemporaryFile file( TestDocument( vecEdits ).getText() );
+        Survey survey;
+        EXPECT_FALSE( survey.run( file.getPath().c_str(), SCHEMA ) );
+        for ( const Finding& finding : survey.getFindings() )
+            EXPECT_TRUE( finding.nLevel == Logger::ERROR_LEVEL ||
+                         getUsualAdvice().contains( finding.strElementPath + describeFinding( finding ) ) )
+                << vecEdits[0].strFrom << " " << describe( finding );
     }
 }
 

@@ -1,7 +1,5 @@
 #include "advice/AdviceReport.h"
 
-#include "callcontrol/isdn/IsdnFasConfig.h"
-#include "callcontrol/isdn/IsdnNfasConfig.h"
 #include "document/Element.h"
 #include "hardware/AnalogInterfaceConfig.h"
 
@@ -39,29 +37,28 @@ AdvicePlace placeOfPhysical( const char* in_szElement, const InterfacePhysicalCo
 
 void AdviceReport::add( const Advice& in_advice ) {
     const auto [pElement, strPath] = find( in_advice.place );
-    if ( pElement && !m_setBroken.emplace( m_pRule, pElement, in_advice.place.szAttribute ).second )
+    if ( !pElement || !m_setBroken.emplace( m_pRule, pElement, in_advice.place.szAttribute ).second )
         return;
-    const bool bNote = in_advice.bNote || m_pRule->eSeverity == Severity::NOTE;
+    AttributeText value;
+    const bool bValue = *in_advice.place.szAttribute && findAttribute( pElement, in_advice.place.szAttribute, value );
+    if ( !bValue && in_advice.strMessage.empty() )
+        return; // a default value, which nobody wrote
     Finding finding;
     finding.strRule = m_pRule->szName;
-    finding.nLevel = bNote ? Logger::INFO_LEVEL : Logger::WARNING_LEVEL;
+    finding.nLevel =
+        in_advice.bNote || m_pRule->eSeverity == Severity::NOTE ? Logger::INFO_LEVEL : Logger::WARNING_LEVEL;
+    finding.strFile = getElementFile( pElement );
+    finding.ullLine = getElementLine( pElement );
+    finding.ullElement = getElementNumber( pElement );
+    finding.strElementPath = strPath;
     finding.strHint = in_advice.strHint;
-    if ( pElement ) {
-        finding.strFile = getElementFile( pElement );
-        finding.ullLine = getElementLine( pElement );
-        finding.ullElement = getElementNumber( pElement );
-        finding.strElementPath = strPath;
-        AttributeText value;
-        if ( *in_advice.place.szAttribute && findAttribute( pElement, in_advice.place.szAttribute, value ) ) {
-            finding.eKind = Finding::Kind::INVALID_VALUE;
-            finding.strAttribute = in_advice.place.szAttribute;
-            finding.strValue = value.view();
-        }
-    }
-    if ( finding.eKind != Finding::Kind::INVALID_VALUE )
+    if ( bValue ) {
+        finding.eKind = Finding::Kind::INVALID_VALUE;
+        finding.strAttribute = in_advice.place.szAttribute;
+        finding.strValue = value.view();
+    } else {
         finding.strMessage = in_advice.strMessage;
-    if ( finding.strMessage.empty() && finding.strAttribute.empty() )
-        return; // a default value, which nobody wrote
+    }
     for ( const AdviceRelated& related : in_advice.vecRelated ) {
         const xmlNode* const pRelated = find( related.place ).pElement;
         if ( pRelated )
@@ -119,11 +116,8 @@ AdvicePlace placeOf( const AdviceSubject::AnalogUse& in_use, const InterfaceConf
 }
 
 AdvicePlace placeOf( const AdviceSubject::Range& in_range ) {
-    const IsdnCommonConfig* const pIsdn = in_range.pRange->getIsdnCommonConfig().get();
-    const bool bNfas = dynamic_cast<const IsdnNfasConfig*>( pIsdn ) != nullptr;
-    const Key entry( bNfas ? "nfasGroup" : "fasConfig", pIsdn ? pIsdn->getId() : 0U );
     std::vector<Key> vecKeys;
-    for ( const Key& reference : keysOfReference( entry, *in_range.pRange->getInterfaceConfig() ) )
+    for ( const Key& reference : placeOf( *in_range.pUse, *in_range.pRange->getInterfaceConfig() ).vecKeys )
         vecKeys.push_back( reference.with( in_range.pRange->getFirstChannel(), in_range.pRange->getLastChannel(),
                                            in_range.pGroup->getId() ) );
     return { vecKeys };

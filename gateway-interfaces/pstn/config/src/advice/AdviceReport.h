@@ -50,7 +50,7 @@ public:
     /// The rule that speaks from now on.
     void setRule( const Rule& in_rule ) noexcept { m_pRule = &in_rule; }
     /// Takes an advice. An element, or an attribute, breaks a rule only once: where it names many lines, the first one
-    /// tells.
+    /// tells. What stands nowhere in the document, nobody can mend there: that is dropped.
     void add( const Advice& in_advice );
     /// The document, for rules that must know whether a part of it is missing from the model.
     ModelLocator& getDocument() noexcept { return m_locator; }

@@ -46,10 +46,29 @@ public:
 
     /// Drops an item of an interface that is on no board of the model.
     void add( const InterfaceConfig* in_pInterface, const TItem& in_item ) {
-        if ( const std::size_t uLine = findLine( in_pInterface ); uLine < m_vecLines.size() ) {
+        if ( const TLine* const pLine = find( in_pInterface ) ) {
+            const auto uLine = static_cast<std::size_t>( pLine - m_vecLines.data() );
             m_vecItems.push_back( { uLine, in_item } );
             ++m_vecCounts[uLine + 1];
         }
+    }
+
+    /// The line of the interface; null when no board of the model has it. Most interfaces are named in ascending order:
+    /// first looks at the last one found, and at the one behind it.
+    const TLine* find( const InterfaceConfig* in_pInterface ) {
+        for ( std::size_t u = m_uLast; u < m_uLast + 2 && u < m_vecLines.size(); ++u ) {
+            if ( m_vecLines[u].pInterface == in_pInterface )
+                return &m_vecLines[m_uLast = u];
+        }
+        if ( !in_pInterface || in_pInterface->getBoardConfig().isNull() )
+            return nullptr;
+        const auto it = std::lower_bound(
+            m_vecLines.begin(), m_vecLines.end(), idOf( *in_pInterface ),
+            []( const TLine& in_line, const Id& in_id ) { return idOf( *in_line.pInterface ) < in_id; } );
+        if ( it == m_vecLines.end() || it->pInterface != in_pInterface )
+            return nullptr;
+        m_uLast = static_cast<std::size_t>( it - m_vecLines.begin() );
+        return &*it;
     }
 
     /// @param out_vecItems the items, line by line
@@ -70,22 +89,6 @@ private:
         return { in_interface.getBoardConfig()->getId(), in_interface.getId() };
     }
 
-    /// Most interfaces are named in ascending order: first looks at the last one found, and at the one behind it.
-    std::size_t findLine( const InterfaceConfig* in_pInterface ) {
-        for ( std::size_t u = m_uLast; u < m_uLast + 2 && u < m_vecLines.size(); ++u ) {
-            if ( m_vecLines[u].pInterface == in_pInterface )
-                return m_uLast = u;
-        }
-        if ( !in_pInterface || in_pInterface->getBoardConfig().isNull() )
-            return m_vecLines.size();
-        const auto it = std::lower_bound(
-            m_vecLines.begin(), m_vecLines.end(), idOf( *in_pInterface ),
-            []( const TLine& in_line, const Id& in_id ) { return idOf( *in_line.pInterface ) < in_id; } );
-        if ( it == m_vecLines.end() || it->pInterface != in_pInterface )
-            return m_vecLines.size();
-        return m_uLast = static_cast<std::size_t>( it - m_vecLines.begin() );
-    }
-
     std::vector<TLine>& m_vecLines;
     std::vector<std::pair<std::size_t, TItem>> m_vecItems;
     std::vector<std::size_t> m_vecCounts; ///< of the line before
@@ -100,9 +103,10 @@ AdviceSubject::AdviceSubject( const Config& in_config )
     gatherBoards<AnalogKind>( config, true, vecBoards, vecPorts, vecAnalogPhysicals );
     if ( hCallControl.isNull() )
         return;
-    gatherRanges();
-    if ( !hCallControl->getIsdnConfig().isNull() )
+    if ( !hCallControl->getIsdnConfig().isNull() ) {
         gatherIsdnUses();
+        gatherRanges();
+    }
     if ( !hCallControl->getAnalogConfig().isNull() )
         gatherAnalogUses();
 }
@@ -110,8 +114,17 @@ AdviceSubject::AdviceSubject( const Config& in_config )
 void AdviceSubject::gatherRanges() {
     Dealer<Span, Range> dealer( vecSpans );
     for ( const auto& [strId, hGroup] : hCallControl->getChannelGroupsConfig() ) {
-        for ( const auto& hRange : hGroup->getBChannelRangeConfig() )
-            dealer.add( hRange->getInterfaceConfig().get(), { hGroup.get(), hRange.get() } );
+        for ( const auto& hRange : hGroup->getBChannelRangeConfig() ) {
+            const Span* const pSpan = dealer.find( hRange->getInterfaceConfig().get() );
+            if ( !pSpan )
+                continue;
+            // The range may outlive an ISDN group that could not be read to its end: then it refers to nothing.
+            const auto itUse = std::find_if( pSpan->uses.begin(), pSpan->uses.end(), [&]( const IsdnUse& in_use ) {
+                return in_use.pGroup == hRange->getIsdnCommonConfig().get();
+            } );
+            if ( itUse != pSpan->uses.end() )
+                dealer.add( pSpan->pInterface, { hGroup.get(), hRange.get(), &*itUse } );
+        }
     }
     dealer.deal( m_vecRanges, &Span::ranges );
 }

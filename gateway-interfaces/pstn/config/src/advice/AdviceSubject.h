@@ -23,9 +23,11 @@ struct AdviceSubject {
         const AnalogCallControlCommonConfig* pConfig;
         bool bFxs;
     };
+    /// Channels of a span that an ISDN group put into a channel group.
     struct Range {
         const ChannelGroupConfig* pGroup;
         const BChannelRangeConfig* pRange;
+        const IsdnUse* pUse;
     };
     struct Span {
         const DigitalInterfaceConfig* pInterface;

@@ -153,8 +153,9 @@ void adviseGroupEmpty( const AdviceSubject& in_subject, AdviceReport& inout_repo
 
 void adviseChannelUnused( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     for ( const AdviceSubject::Span& span : in_subject.vecSpans ) {
-        // Ranges with exchanged ends have a finding of their own, which explains the rest.
-        if ( !span.pPhysical || span.uses.empty() || std::any_of( span.ranges.begin(), span.ranges.end(), &isSwapped ) )
+        // A span without ranges, and ranges with exchanged ends, have findings of their own, which explain the rest.
+        if ( !span.pPhysical || span.ranges.empty() ||
+             std::any_of( span.ranges.begin(), span.ranges.end(), &isSwapped ) )
             continue;
         Channels unused = makeChannels( 1, lineOf( *span.pPhysical ).uLastChannel );
         if ( const std::optional<unsigned int> uDChannel = getDChannel( span ) ) {

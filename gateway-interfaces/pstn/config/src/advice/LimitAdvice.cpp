@@ -104,7 +104,7 @@ void checkProviders( const AdviceSubject& in_subject, AdviceReport& inout_report
             continue;
         const auto checkThreads = [&]( const TirvanaThreadGroupConfig& in_threads, const char* in_szElement ) {
             check( THREADS, in_threads.getThreadCount(), inout_report,
-                   [&] { return AdvicePlace{ { ModelLocator::Key( hProvider->getId() ) } }.below( in_szElement ); } );
+                   [&] { return AdvicePlace{ { ModelLocator::Key( pProvider->getId() ) } }.below( in_szElement ); } );
         };
         checkThreads( pProvider->getBChannelsThreadsConfig(), "BChannelsThreads" );
         checkThreads( pProvider->getDChannelsThreadsConfig(), "DChannelsThreads" );
@@ -173,15 +173,18 @@ void checkIsdn( const IsdnConfig& in_isdn, AdviceReport& inout_report ) {
     };
     for ( const auto& [uId, hFas] : in_isdn.getFasConfigs() )
         checkGroup( *hFas, nullptr );
+    const auto checkMember = [&]( const IsdnNfasConfig& in_group, const IsdnNfasGroupMemberConfig& in_member ) {
+        if ( !in_member.getInterfaceConfig().isNull() )
+            check( NFAS_INTERFACE, static_cast<double>( in_member.getNfasInterfaceID() ), inout_report, [&] {
+                return placeOf( AdviceSubject::IsdnUse{ &in_group, &in_member }, *in_member.getInterfaceConfig() );
+            } );
+    };
     for ( const auto& [uId, hNfas] : in_isdn.getNfasConfigs() ) {
-        for ( const auto& [strInterface, hMember] : hNfas->getMemberInterfaces() ) {
-            checkGroup( *hNfas, hMember.get() );
-            if ( !hMember->getInterfaceConfig().isNull() )
-                check( NFAS_INTERFACE, static_cast<double>( hMember->getNfasInterfaceID() ), inout_report, [&] {
-                    return placeOf( AdviceSubject::IsdnUse{ hNfas.get(), hMember.get() },
-                                    *hMember->getInterfaceConfig() );
-                } );
-        }
+        const auto& members = hNfas->getMemberInterfaces();
+        if ( !members.empty() )
+            checkGroup( *hNfas, members.begin()->second.get() );
+        for ( const auto& [strInterface, hMember] : members )
+            checkMember( *hNfas, *hMember );
     }
 }
 
