@@ -79,8 +79,12 @@ void ModelLocator::gather() {
     if ( !m_vecElements.empty() )
         return;
     m_vecElements.push_back( { m_pRoot, NONE, 0, 0, 0 } );
-    for ( std::uint32_t u = 0; u < m_vecElements.size(); ++u )
+    for ( std::uint32_t u = 0; u < m_vecElements.size(); ++u ) {
+        AttributeText group;
+        if ( findAttribute( m_vecElements[u].pElement, "channelGroupID", group ) )
+            m_setFilledGroups.emplace( group.view() );
         gatherChildren( u );
+    }
     // As the loader does, take the first section of each name.
     for ( const char* const szSection : { "boards", "providers", "physicalInterfaceConfigs",
                                           "callControl/channelGroups", "callControl/isdn", "callControl/analog" } ) {
@@ -149,7 +153,6 @@ void ModelLocator::indexReferences( std::uint32_t in_uReferences, const Key& in_
         const unsigned long long ullBoard = readNumber( reference.pElement, "boardID" );
         const Key key = in_entry.with( ullBoard, strInterface );
         add( key, u );
-        m_setFilledGroups.insert( readText( reference.pElement, "channelGroupID" ) );
         const std::size_t uRanges = reference.uEndOfChildren - reference.uFirstChild;
         if ( uRanges != 0 )
             m_mapRanges[Key( "", ullBoard, strInterface ).getText()] += uRanges;
@@ -158,7 +161,6 @@ void ModelLocator::indexReferences( std::uint32_t in_uReferences, const Key& in_
             const std::string strGroup = readText( pRange, "channelGroupID" );
             add( key.with( readNumber( pRange, "firstChannel" ), readNumber( pRange, "lastChannel" ), strGroup ),
                  uRange );
-            m_setFilledGroups.insert( strGroup );
         }
     }
 }

@@ -68,7 +68,7 @@ public:
     std::size_t countChildren( const Key& in_key, std::string_view in_strBelow );
     /// The number of B-channel ranges that the ISDN groups give to an interface.
     std::size_t countRanges( unsigned int in_uBoardId, unsigned int in_uInterfaceId );
-    /// Whether a range or a reference names that channel group.
+    /// Whether any element names that channel group.
     bool isFilled( std::string_view in_strChannelGroup );
 
 private:
