@@ -120,7 +120,8 @@ private:
             const char* const szLine =
                 m_shape.eLine == ConfigShape::Line::T1 || uBoard >= getFirstNfasBoard() ? "T1" : "E1";
             m_stream << "    <tirvanaDigitalBoard ID=\"" << uBoard << "\" displayName=\"" << szLine << " card "
-                     << uBoard << "\" model=\"TVD-" << m_shape.uSpans << "\">\n";
+                     << uBoard << "\" model=\"TVD-" << m_shape.uSpans << '"'
+                     << ( m_shape.uSpans > 0 ? " primaryClockReference=\"1\"" : "" ) << ">\n";
             for ( unsigned int uSpan = 1; uSpan <= m_shape.uSpans; ++uSpan )
                 m_stream << "      <interface ID=\"" << uSpan << "\" displayName=\"" << szLine << '-' << uBoard << '-'
                          << uSpan << "\" tirpipe=\"" << m_uTirpipe++ << "\"/>\n";

@@ -1,6 +1,7 @@
 #include <ctime>
 
 #include "ConfigTest.h"
+#include "survey/Survey.h"
 
 // The checks over the whole model.
 
@@ -76,13 +77,12 @@ std::string makeSpans( unsigned int in_uSpans ) {
            "</isdn></callControl></pstnConfig>";
 }
 
-double measureLoad( unsigned int in_uSpans ) {
+double measure( unsigned int in_uSpans, const std::function<void( const std::string& )>& in_run ) {
     const TemporaryFile file( makeSpans( in_uSpans ) );
     double dBest = 1e9;
     for ( int n = 0; n < 3; ++n ) {
-        XmlConfig config;
         const std::clock_t begin = std::clock();
-        EXPECT_EQ( load( config, file.getPath(), SCHEMA ).vecLines.size(), 1U ) << "the span without group";
+        in_run( file.getPath() );
         dBest = std::min( dBest, static_cast<double>( std::clock() - begin ) );
     }
     return dBest;
@@ -92,8 +92,23 @@ double measureLoad( unsigned int in_uSpans ) {
 
 // Catches a check that asks group after group for every interface: eight times the spans would cost 64 times as much.
 TEST( CrossChecks, CostNoMoreThanTheModelIsLarge ) {
-    const double dFew = measureLoad( 2000 );
-    EXPECT_LT( measureLoad( 16000 ), 20 * dFew );
+    const auto run = []( const std::string& in_strFile ) {
+        XmlConfig config;
+        EXPECT_EQ( load( config, in_strFile, SCHEMA ).vecLines.size(), 1U ) << "the span without group";
+    };
+    const double dFew = measure( 2000, run );
+    EXPECT_LT( measure( 16000, run ), 20 * dFew );
+}
+
+// The same of the advice where it has something to say of every span, also of the places that it looks for.
+TEST( Advice, CostsNoMoreThanTheModelIsLarge ) {
+    const auto run = []( const std::string& in_strFile ) {
+        Survey survey;
+        survey.run( in_strFile.c_str(), SCHEMA );
+        EXPECT_GT( survey.getFindings().size(), 2U * 1990 );
+    };
+    const double dFew = measure( 2000, run );
+    EXPECT_LT( measure( 16000, run ), 20 * dFew );
 }
 
 } // namespace Velquin::Pstn::Test

@@ -1,9 +1,17 @@
 #include "advice/Advice.h"
 
+#include "advice/AdviceTable.h"
+
 namespace Velquin::Pstn {
 
-std::vector<Finding> advise( const Config&, const xmlNode* ) {
-    return {};
+std::vector<Finding> advise( const Config& in_config, const xmlNode* in_pRoot ) {
+    const AdviceSubject subject( in_config );
+    AdviceReport report( in_pRoot );
+    for ( const AdviceRule& entry : ADVICE_TABLE ) {
+        report.setRule( entry.rule );
+        entry.advise( subject, report );
+    }
+    return report.release();
 }
 
 } // namespace Velquin::Pstn

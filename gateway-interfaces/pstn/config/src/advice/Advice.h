@@ -12,11 +12,11 @@
 namespace Velquin::Pstn {
 
 /// The rules of the advice, in the order of their table.
-std::span<const Rule> getAdviceRules() noexcept;
+VELQUIN_PSTN_CONFIG_EXPORT std::span<const Rule> getAdviceRules() noexcept;
 
 /// What a careful colleague would say of a model that loads, or of the part that could be read. Logs nothing.
 /// @param in_pRoot the root element from which the model was read
 /// @return findings at WARNING, or at INFO for notes, with file, line, element, attribute, value and hint
-std::vector<Finding> advise( const Config& in_config, const xmlNode* in_pRoot );
+VELQUIN_PSTN_CONFIG_EXPORT std::vector<Finding> advise( const Config& in_config, const xmlNode* in_pRoot );
 
 } // namespace Velquin::Pstn
