@@ -60,14 +60,16 @@ void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Pa
         m_patterns.beginElement();
         const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_vecPatterns, pChild );
         if ( m_patterns.isLost() || m_uFaultyElements >= MAX_FAULTY_ELEMENTS )
-            return;
-        if ( vecPatterns.empty() )
-            vecUnknown.push_back( pChild );
-        else
+            break;
+        if ( !vecPatterns.empty() ) {
             adviseOnTree( pChild, vecPatterns );
+        } else {
+            vecUnknown.push_back( pChild );
+            ++m_uFaultyElements;
+        }
     }
     std::vector<std::string> vecMissing = m_patterns.findMissingChildren( in_pElement );
-    m_uFaultyElements += bAttributes || !vecUnknown.empty() || !vecMissing.empty();
+    m_uFaultyElements += bAttributes || !vecMissing.empty();
     const std::vector<std::string> vecNames = m_patterns.findChildNames( in_vecPatterns );
     for ( xmlNode* const pChild : vecUnknown ) {
         // What is missing may be there under a wrong name.

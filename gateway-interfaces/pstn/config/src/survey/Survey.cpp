@@ -21,6 +21,7 @@ namespace Velquin::Pstn {
 
 namespace {
 
+constexpr std::size_t MAX_FINDINGS = 10'000; // a file made to harm could have one on each line
 constexpr std::size_t MAX_LOCATED = 5000;
 
 class SurveyLog {
@@ -65,7 +66,7 @@ void Reading::endWithoutDocument() {
     bool bIllFormed = false;
     for ( SurveyedFinding& item : m_record.vecFindings ) {
         item.finding.bEcho = bIllFormed && item.is( Rules::ILL_FORMED );
-        bIllFormed = bIllFormed || item.is( Rules::ILL_FORMED );
+        bIllFormed = bIllFormed || ( item.is( Rules::ILL_FORMED ) && item.finding.nLevel >= Logger::ERROR_LEVEL );
     }
     settle( 0 );
 }
@@ -151,8 +152,10 @@ bool Survey::Impl::run( const char* in_szConfigFile, const char* in_szSchemaFile
     bool bLoads = false;
     Reading reading( m_config, record );
     {
-        const FindingWatch watch(
-            [&record]( const Finding& in_finding ) { record.vecFindings.push_back( { in_finding } ); } );
+        const FindingWatch watch( [&record]( const Finding& in_finding ) {
+            if ( record.vecFindings.size() < MAX_FINDINGS )
+                record.vecFindings.push_back( { in_finding } );
+        } );
         bLoads = m_config.load( in_szConfigFile, in_szSchemaFile, in_bLogContent );
     }
     if ( !record.pRoot ) // else they were settled while the document stood

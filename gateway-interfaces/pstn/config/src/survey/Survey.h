@@ -37,8 +37,8 @@ public:
     /// @return whether XmlConfig::load would load the file
     bool run( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent = false );
 
-    /// All findings: first those without a line, then by line and column. An echo stands behind the findings of its
-    /// line.
+    /// All findings, or the first ten thousand of a file that has more. Those without a line come first, then they
+    /// stand by line and column; an echo stands behind the findings of its line.
     const std::vector<Finding>& getFindings() const noexcept;
 
     /// What could be read. Meant to be looked at: where there are findings, parts are missing.
