@@ -14,6 +14,7 @@
 #include "QuietLog.h"
 #include "document/DocumentBuilder.h"
 #include "loading/XmlConfig.h"
+#include "survey/Survey.h"
 
 using namespace Velquin::Pstn;
 
@@ -41,18 +42,27 @@ extern "C" bool runLoad( const char* in_szConfigFile, const char* in_szSchemaFil
     return bLoaded;
 }
 
+/// Surveys and releases.
+extern "C" bool runSurvey( const char* in_szConfigFile, const char* in_szSchemaFile ) {
+    Survey survey;
+    return survey.run( in_szConfigFile, in_szSchemaFile );
+}
+
 int main( int argc, char** argv ) {
     const std::string_view strMode = argc == 4 ? argv[3] : "";
     const bool bLogContent = strMode == "--log-content";
     const bool bMemory = strMode == "--memory";
     const bool bNative = strMode == "--native";
-    if ( argc < 3 || argc > 4 || ( argc == 4 && !bLogContent && !bMemory && !bNative ) ) {
-        std::cerr << "usage: load_once FILE SCHEMA [--log-content|--memory|--native]\n";
+    const bool bSurvey = strMode == "--survey";
+    if ( argc < 3 || argc > 4 || ( argc == 4 && !bLogContent && !bMemory && !bNative && !bSurvey ) ) {
+        std::cerr << "usage: load_once FILE SCHEMA [--log-content|--memory|--native|--survey]\n";
         return 2;
     }
     if ( bNative && !setDocumentBuilder( DocumentBuilder::NATIVE ) )
         return 2;
     const QuietLog log( bLogContent ? log4cplus::INFO_LOG_LEVEL : log4cplus::WARN_LOG_LEVEL );
+    if ( bSurvey )
+        return runSurvey( argv[1], argv[2] ) ? 0 : 1;
     if ( bMemory && !runLoad( argv[1], argv[2], false, false ) )
         return 1;
     return runLoad( argv[1], argv[2], bLogContent, bMemory ) ? 0 : 1;
