@@ -2,18 +2,32 @@
 
 #include <iostream>
 
-#include "FindingPrinter.h"
 #include "ToolLog.h"
+#include "check/TextReport.h"
 
 std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strFile, const std::string& in_strSchema,
                                                       ExitCode& out_eExitCode ) {
     setUpLog( "OFF" );
-    FindingPrinter printer( std::cerr, in_strFile );
-    const Velquin::FindingWatch watch(
-        [&printer]( const Velquin::Finding& in_finding ) { printer.print( in_finding ); } );
+    CheckedFile loaded;
+    loaded.strFile = in_strFile;
     auto pConfig = std::make_unique<Velquin::Pstn::XmlConfig>();
-    if ( pConfig->load( in_strFile.c_str(), in_strSchema.c_str(), false ) )
+    bool bLoads = false;
+    {
+        const Velquin::FindingWatch watch(
+            [&loaded]( const Velquin::Finding& in_finding ) { loaded.add( in_finding ); } );
+        bLoads = pConfig->load( in_strFile.c_str(), in_strSchema.c_str(), false );
+    }
+    if ( loaded.vecFindings.empty() )
         return pConfig;
-    out_eExitCode = printer.isUnreadable() || printer.concerns( in_strSchema ) ? EXIT_NOT_CHECKED : EXIT_INVALID;
+    TextReport report( std::cerr );
+    if ( bLoads ) {
+        loaded.eVerdict = loaded.counts.uErrors > 0 ? Verdict::PARTIAL : Verdict::VALID;
+        report.add( loaded );
+        return pConfig;
+    }
+    // A load ends at the first fault. A check tells them all.
+    const CheckedFile checked = checkFile( in_strFile, { in_strSchema } );
+    report.add( checked );
+    out_eExitCode = checked.eVerdict == Verdict::UNCHECKED ? EXIT_NOT_CHECKED : EXIT_INVALID;
     return nullptr;
 }

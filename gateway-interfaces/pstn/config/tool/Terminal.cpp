@@ -4,27 +4,73 @@
 #include <cstdlib>
 
 #if defined( _WIN32 )
+#include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 #else
+#include <sys/ioctl.h>
 #include <unistd.h>
 #endif
 
+// Only the operating system knows what is a terminal.
+
 namespace {
 
-/// Whether standard output is a terminal. Only the operating system knows it.
-bool isTerminal() {
+constexpr unsigned int USUAL_WIDTH = 100;
+
 #if defined( _WIN32 )
-    return _isatty( _fileno( stdout ) ) != 0;
-#else
-    return isatty( STDOUT_FILENO ) != 0;
-#endif
+bool isTerminal( std::FILE* in_pFile ) {
+    return _isatty( _fileno( in_pFile ) ) != 0;
 }
 
+unsigned int getWidth( DWORD in_uHandle ) {
+    CONSOLE_SCREEN_BUFFER_INFO info;
+    return GetConsoleScreenBufferInfo( GetStdHandle( in_uHandle ), &info )
+               ? static_cast<unsigned int>( info.srWindow.Right - info.srWindow.Left + 1 )
+               : 0;
+}
+
+constexpr DWORD OUTPUTS[] = { STD_OUTPUT_HANDLE, STD_ERROR_HANDLE };
+#else
+bool isTerminal( std::FILE* in_pFile ) {
+    return isatty( fileno( in_pFile ) ) != 0;
+}
+
+unsigned int getWidth( int in_nFile ) {
+    winsize size{};
+    return ioctl( in_nFile, TIOCGWINSZ, &size ) == 0 ? size.ws_col : 0;
+}
+
+constexpr int OUTPUTS[] = { STDOUT_FILENO, STDERR_FILENO };
+#endif
+
 } // namespace
+
+bool isOutputTerminal() {
+    return isTerminal( stdout );
+}
+
+bool isErrorTerminal() {
+    return isTerminal( stderr );
+}
 
 bool wantsColour( const std::string& in_strChoice ) {
     if ( in_strChoice != "auto" )
         return in_strChoice == "always";
     const char* const szNoColour = std::getenv( "NO_COLOR" );
-    return isTerminal() && ( !szNoColour || !*szNoColour );
+    return isOutputTerminal() && ( !szNoColour || !*szNoColour );
+}
+
+unsigned int getTerminalWidth() {
+    for ( const auto output : OUTPUTS ) {
+        if ( const unsigned int uWidth = getWidth( output ) )
+            return uWidth;
+    }
+    return USUAL_WIDTH;
+}
+
+void setBinaryInput() {
+#if defined( _WIN32 )
+    _setmode( _fileno( stdin ), _O_BINARY );
+#endif
 }

@@ -4,8 +4,13 @@
 
 #include "Command.h"
 #include "SchemaPath.h"
+#include "UsageError.h"
 
 namespace {
+
+std::string describeUsageError( const std::string& in_strReason ) {
+    return "pstnconfig: " + in_strReason + "\nRun with --help for more information.\n";
+}
 
 int run( int in_nArguments, char** in_aszArguments ) {
     Program program;
@@ -14,16 +19,25 @@ int run( int in_nArguments, char** in_aszArguments ) {
     program.app.set_version_flag( "--version", PSTNCONFIG_VERSION );
     program.app.require_subcommand( 1 );
     program.app.footer(
-        "Exit code: 0 all files valid, 1 a file invalid, 2 wrong usage or a file or the schema can't be read." );
+        "Exit code: 0 all files valid, 1 a file invalid, 2 wrong usage, or a file or the schema can't be read." );
     addCheckCommand( program );
     addShowCommand( program );
     addDiffCommand( program );
     addMapCommand( program );
 
+    if ( const std::string strUnknown = describeUnknownVerb( program.app, in_nArguments, in_aszArguments );
+         !strUnknown.empty() ) {
+        std::cerr << describeUsageError( strUnknown );
+        return EXIT_NOT_CHECKED;
+    }
+    program.app.failure_message( []( const CLI::App* in_pApp, const CLI::Error& in_error ) {
+        const std::string strUnknown = describeUnknownOption( *in_pApp );
+        return describeUsageError( strUnknown.empty() ? in_error.what() : strUnknown );
+    } );
     try {
         program.app.parse( in_nArguments, in_aszArguments );
     } catch ( const CLI::ParseError& error ) {
-        return program.app.exit( error ) == 0 ? EXIT_VALID : EXIT_NOT_CHECKED;
+        program.eExitCode = program.app.exit( error ) == 0 ? EXIT_VALID : EXIT_NOT_CHECKED;
     }
     if ( !std::cout.flush() ) {
         std::cerr << "pstnconfig: can't write the output" << std::endl;

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <velquin/pstn/survey/Rules.h>
+
+/// The rule for names in the gateway's parameter file, which only this program checks.
+inline constexpr const char* UNKNOWN_PARAMETER = "unknown-parameter";
+
+/// The rules of the library, and then that of this program.
+const std::vector<Velquin::Pstn::Rule>& getAllRules();
+
+/// The rule of that name; null for an unknown name.
+const Velquin::Pstn::Rule* findAnyRule( const std::string& in_strName );
+
+/// `unknown rule "x"`, and which one may be meant.
+std::string describeUnknownRule( const std::string& in_strName );
+
+/// "error", "warning" or "note".
+const char* getSeverityName( Velquin::Pstn::Severity in_eSeverity );
+
+/// Prints name, severity and title of each rule.
+void listRules( std::ostream& inout_stream );
+
+/// Prints what a rule means, why it hurts and what to do.
+/// @param in_uWidth columns
+void explainRule( std::ostream& inout_stream, const Velquin::Pstn::Rule& in_rule, std::size_t in_uWidth );
