@@ -80,7 +80,7 @@ TEST( Map, SaysWhyThereIsNone ) {
         EXPECT_EQ( result.strOutput, "" );
         EXPECT_EQ( result.strErrors.substr( 0, result.strErrors.find( '\n' ) ), in_strErrors );
     };
-    expectUsage( " -o map.png", "--output: map.png: the name must end in .svg or .html" );
+    expectUsage( " -o map.png", "pstnconfig: --output: map.png: the name must end in .svg or .html" );
     expectUsage( " -o /no/such/folder/map.svg", "pstnconfig: can't write /no/such/folder/map.svg" );
     if ( FILE* const pFull = std::fopen( "/dev/full", "w" ) ) {
         std::fclose( pFull );

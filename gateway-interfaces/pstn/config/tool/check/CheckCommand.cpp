@@ -151,7 +151,7 @@ ExitCode check( CheckOptions& inout_options ) {
 
 void addOptions( CLI::App& inout_check, CheckOptions& inout_options ) {
     CheckOptions& options = inout_options;
-    inout_check.add_option( "FILE", options.vecFiles, "Configuration files; - is standard input" );
+    inout_check.add_option( "FILE", options.vecFiles, "Configuration files; - is standard input" )->type_name( "" );
     inout_check
         .add_option( "--parameters", options.strParameters,
                      "The gateway's parameters, a file of name=value lines; without FILE, they name file and schema" )

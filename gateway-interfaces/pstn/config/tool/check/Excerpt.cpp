@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <deque>
 
-#include "Cell.h"
+#include "../Cell.h"
 
 namespace {
 

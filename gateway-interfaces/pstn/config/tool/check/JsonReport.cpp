@@ -1,10 +1,9 @@
-#include <nlohmann/json.hpp>
-
+#include "../description/ModelDescription.h"
 #include "Report.h"
 
-using Json = nlohmann::ordered_json;
 using Velquin::Finding;
 using Velquin::SourceSpan;
+using Velquin::Pstn::Json;
 
 namespace {
 
@@ -75,8 +74,7 @@ public:
         const Json document = { { "format", "pstnconfig-check" },      { "version", FORMAT_VERSION },
                                 { "tool", PSTNCONFIG_VERSION },        { "files", std::move( m_files ) },
                                 { "verdicts", std::move( verdicts ) }, { "counts", toJson( in_totals.counts ) } };
-        // The name of a file may be no UTF-8.
-        m_stream << document.dump( 2, ' ', false, Json::error_handler_t::replace ) << '\n';
+        m_stream << Velquin::Pstn::toText( document, 2 ) << '\n';
     }
 
 private:

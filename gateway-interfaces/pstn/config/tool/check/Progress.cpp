@@ -2,8 +2,7 @@
 
 #include <iostream>
 
-#include <velquin/Logger.h>
-
+#include "../Printable.h"
 #include "../Terminal.h"
 
 Progress::Progress( std::size_t in_uFiles, bool in_bWanted )
@@ -13,10 +12,9 @@ void Progress::begin( const std::string& in_strFile ) {
     ++m_uBegun;
     if ( !m_bWanted || std::chrono::steady_clock::now() - m_start < std::chrono::seconds( 1 ) )
         return;
-    std::string strLine =
-        "checking " + std::to_string( m_uBegun ) + " of " + std::to_string( m_uFiles ) + ": " + in_strFile;
-    Velquin::makePrintable( strLine );
-    std::cerr << '\r' << strLine.substr( 0, getTerminalWidth() - 1 ) << "\x1b[K" << std::flush;
+    const std::string strLine =
+        "checking " + std::to_string( m_uBegun ) + " of " + std::to_string( m_uFiles ) + ": " + printable( in_strFile );
+    std::cerr << '\r' << shorten( strLine, getTerminalWidth() - 1 ) << "\x1b[K" << std::flush;
     m_bShown = true;
 }
 

@@ -2,14 +2,13 @@
 #include <filesystem>
 #include <map>
 
-#include <nlohmann/json.hpp>
-
+#include "../description/ModelDescription.h"
 #include "Report.h"
 #include "RuleHelp.h"
 
-using Json = nlohmann::ordered_json;
 using Velquin::Finding;
 using Velquin::SourceSpan;
+using Velquin::Pstn::Json;
 
 namespace {
 
@@ -67,8 +66,7 @@ public:
         const Json document = { { "$schema", "https://json.schemastore.org/sarif-2.1.0.json" },
                                 { "version", "2.1.0" },
                                 { "runs", Json::array( { run } ) } };
-        // The name of a file may be no UTF-8.
-        m_stream << document.dump( 2, ' ', false, Json::error_handler_t::replace ) << '\n';
+        m_stream << Velquin::Pstn::toText( document, 2 ) << '\n';
     }
 
 private:

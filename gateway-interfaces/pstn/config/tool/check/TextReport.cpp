@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iomanip>
 
+#include "../Printable.h"
+
 using Velquin::Finding;
 using Velquin::SourceSpan;
 
@@ -47,11 +49,6 @@ std::string describe( const MistakeCounts& in_counts ) {
     return strText.empty() ? strText : strText + ")";
 }
 
-std::string printable( std::string in_strText ) {
-    Velquin::makePrintable( in_strText );
-    return in_strText;
-}
-
 } // namespace
 
 void TextReport::add( const CheckedFile& in_file ) {
@@ -83,7 +80,7 @@ void TextReport::print( const Finding& in_finding ) {
     const std::string strSeverity = getSeverityName( in_finding );
     printPlace( in_finding.strFile, getSpan( in_finding ) );
     m_stream << colour( getSeverityColour( strSeverity ) ) << strSeverity << ": " << colour( PLAIN ) << colour( BOLD )
-             << Velquin::describeFinding( in_finding ) << colour( PLAIN );
+             << printable( Velquin::describeFinding( in_finding ) ) << colour( PLAIN );
     if ( !in_finding.strRule.empty() || in_finding.bEcho )
         m_stream << " [" << in_finding.strRule << ( in_finding.strRule.empty() || !in_finding.bEcho ? "" : ", " )
                  << ( in_finding.bEcho ? "echo" : "" ) << ']';

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Printable.h"
+#include "../Printable.h"
 
 using namespace Velquin::Pstn;
 

@@ -4,10 +4,10 @@
 
 #include <fmt/format.h>
 
+#include "../Printable.h"
 #include "MapRenderings.h"
 #include "MapStyle.h"
 #include "PageParts.h"
-#include "Printable.h"
 
 using Look = ChannelMap::Look;
 

@@ -3,9 +3,9 @@
 
 #include <fmt/format.h>
 
+#include "../Printable.h"
 #include "MapRenderings.h"
 #include "MapStyle.h"
-#include "Printable.h"
 
 using Look = ChannelMap::Look;
 

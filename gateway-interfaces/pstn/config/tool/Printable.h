@@ -4,7 +4,7 @@
 #include <string_view>
 
 /// The UTF-8 text with a question mark for each character that a terminal or browser obeys instead of showing it:
-/// controls, line separators, and marks that turn the direction of writing.
+/// controls, line separators, and marks that turn the direction of writing. A tab becomes blanks.
 std::string printable( std::string_view in_strText );
 
 /// A printable text as content or attribute value of XML and HTML.
