@@ -18,8 +18,8 @@ int run( int in_nArguments, char** in_aszArguments ) {
     program.app.description( "Checks PSTN configuration files of the gateway, and shows what is in them." );
     program.app.set_version_flag( "--version", PSTNCONFIG_VERSION );
     program.app.require_subcommand( 1 );
-    program.app.footer(
-        "Exit code: 0 all files valid, 1 a file invalid, 2 wrong usage, or a file or the schema can't be read." );
+    program.app.footer( "Exit code: 0 all files valid or the same, 1 a file invalid or different, 2 wrong usage, or a "
+                        "file can't be read." );
     addCheckCommand( program );
     addShowCommand( program );
     addDiffCommand( program );
