@@ -160,12 +160,13 @@ TEST( Survey, TellsLinesAndColumnsInFilesOfAnyEncoding ) {
     std::string strUtf16 = "\xFF\xFE";
     for ( std::size_t u = 0; u < strText.size(); ++u ) { // of the characters here, one or three bytes in UTF-8
         const auto c = static_cast<unsigned char>( strText[u] );
+        const auto next = [&]( std::size_t in_u ) { return static_cast<unsigned char>( strText[in_u] ) & 0x3FU; };
         unsigned int uCode = c;
         if ( c >= 0xE0 ) {
-            uCode = ( c & 0x0FU ) << 12U | ( strText[u + 1] & 0x3FU ) << 6U | ( strText[u + 2] & 0x3FU );
+            uCode = ( c & 0x0FU ) << 12U | next( u + 1 ) << 6U | next( u + 2 );
             u += 2;
         } else if ( c >= 0xC0 ) {
-            uCode = ( c & 0x1FU ) << 6U | ( strText[u + 1] & 0x3FU );
+            uCode = ( c & 0x1FU ) << 6U | next( u + 1 );
             ++u;
         }
         strUtf16 += static_cast<char>( uCode & 0xFFU );
