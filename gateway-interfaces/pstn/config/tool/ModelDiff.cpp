@@ -167,7 +167,8 @@ void gatherEvents( const Json& in_model, bool in_bNew, LineEvents& inout_mapEven
 Json listGroups( const Holders& in_holders, bool in_bCallControl ) {
     Json names = Json::array();
     for ( const auto& [strGroup, strCallControl] : in_holders )
-        names.push_back( in_bCallControl ? strGroup + " (" + strCallControl + ")" : strGroup );
+        names.push_back( in_bCallControl ? std::string( strGroup ).append( " (" ).append( strCallControl ).append( ")" )
+                                         : strGroup );
     return names;
 }
 
@@ -252,10 +253,12 @@ void printChanges( std::ostream& out_stream, const Json& in_changes ) {
                        << change["firstChannel"];
             if ( !bOne )
                 out_stream << '-' << change["lastChannel"];
-            out_stream << ( strOld.empty()   ? " join" + strVerbEnd + " group " + strNew
-                            : strNew.empty() ? " leave" + strVerbEnd + " group " + strOld
-                                             : " move" + strVerbEnd + " from group " + strOld + " to group " + strNew )
-                       << '\n';
+            if ( strOld.empty() )
+                out_stream << " join" << strVerbEnd << " group " << strNew << '\n';
+            else if ( strNew.empty() )
+                out_stream << " leave" << strVerbEnd << " group " << strOld << '\n';
+            else
+                out_stream << " move" << strVerbEnd << " from group " << strOld << " to group " << strNew << '\n';
             continue;
         }
         const auto strName = change["name"].get<std::string>();

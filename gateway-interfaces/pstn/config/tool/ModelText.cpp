@@ -113,7 +113,7 @@ void printObjects( std::ostream& out_stream, const Json& in_objects, const std::
                 continue;
             const auto itHeading = HEADINGS.find( strKey );
             vecHeading.push_back( itHeading == HEADINGS.end() ? strKey : itHeading->second );
-            vecCells.push_back( value == "" ? "" : toMarkedWords( object, strKey, value ) );
+            vecCells.push_back( value == Json( "" ) ? "" : toMarkedWords( object, strKey, value ) );
         }
         if ( vecRows.empty() )
             vecRows.push_back( vecHeading );
@@ -130,8 +130,9 @@ void printRanges( std::ostream& out_stream, const Json& in_ranges ) {
         for ( const Json& range : ranges ) {
             const std::string strFirst = toWords( range["firstChannel"] );
             const std::string strLast = toWords( range["lastChannel"] );
-            vecRows.push_back( { strLine, strFirst == strLast ? strFirst : strFirst + "-" + strLast,
-                                 range.contains( "callControl" ) ? range["callControl"].get<std::string>() : "" } );
+            vecRows.push_back(
+                { strLine, strFirst == strLast ? strFirst : std::string( strFirst ).append( "-" ).append( strLast ),
+                  range.contains( "callControl" ) ? range["callControl"].get<std::string>() : "" } );
         }
     }
     printTable( out_stream, vecRows );

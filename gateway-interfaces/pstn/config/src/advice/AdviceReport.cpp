@@ -70,7 +70,7 @@ void AdviceReport::add( const Advice& in_advice ) {
 
 ModelLocator::Place AdviceReport::find( const AdvicePlace& in_place ) {
     for ( const Key& key : in_place.vecKeys ) {
-        const ModelLocator::Place place = m_locator.find( key, in_place.strBelow );
+        ModelLocator::Place place = m_locator.find( key, in_place.strBelow );
         if ( place.pElement )
             return place;
     }

@@ -21,6 +21,7 @@ constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
 template <class TMap>
 std::vector<std::string> getNames( const TMap& in_map ) {
     std::vector<std::string> vecNames;
+    vecNames.reserve( in_map.size() );
     for ( const auto& [strName, value] : in_map )
         vecNames.push_back( strName );
     return vecNames;

@@ -76,7 +76,8 @@ Json describe( const AnalogDisconnectSupervisionConfig& in_supervision ) {
     for ( const auto& [strName, hDetector] : in_supervision.getDisconnectDetectorsMap() ) {
         Json& sequence = mapDetectors.emplace( strName, Json::array() ).first->second;
         for ( const auto& [strFirst, strSecond] : hDetector->getSequence() )
-            sequence.push_back( strSecond.empty() ? strFirst : strFirst + "/" + strSecond );
+            sequence.push_back( strSecond.empty() ? strFirst
+                                                  : std::string( strFirst ).append( "/" ).append( strSecond ) );
     }
     Json detectors = Json::object();
     for ( auto& [strName, sequence] : mapDetectors )
