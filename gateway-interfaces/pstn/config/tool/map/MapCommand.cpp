@@ -68,8 +68,7 @@ void addMapCommand( Program& inout_program ) {
         ->type_name( "WHEN" )
         ->check(
             CLI::IsMember( std::vector<std::string>( std::begin( COLOUR_CHOICES ), std::end( COLOUR_CHOICES ) ) ) );
-    pMap->add_option( "--schema", pOptions->strSchema, "RelaxNG schema instead of the one that comes with the program" )
-        ->type_name( "RNG" );
+    addSchemaOption( *pMap, pOptions->strSchema );
     pMap->footer(
         "Each row is a line, each cell a timeslot. Letters name the channel groups of the legend.\n"
         "Exit code: 0 the map is written, 1 the file is invalid, 2 wrong usage, or a file or the schema can't "
