@@ -107,7 +107,9 @@ private:
 void expectBounded( [[maybe_unused]] const Cost& in_cost, [[maybe_unused]] std::size_t in_uBytes,
                     [[maybe_unused]] std::size_t in_uMemory ) {
 #ifndef COSTS_ARE_THE_SANITIZERS
-    EXPECT_LT( in_cost.getSeconds(), 1 + 0.5e-6 * static_cast<double>( in_uBytes ) );
+    // The slowest file takes 0.6 us a byte on a quiet machine and twice that on a busy one. Work that grows with the
+    // square of the file would take minutes.
+    EXPECT_LT( in_cost.getSeconds(), 4 + 2e-6 * static_cast<double>( in_uBytes ) );
     EXPECT_LT( in_cost.getPeakBytes(), 4000000 + in_uMemory * in_uBytes );
 #endif
 }
