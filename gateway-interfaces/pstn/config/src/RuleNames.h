@@ -39,6 +39,7 @@ inline constexpr const char* NO_CALL_CONTROL = "no-call-control";
 
 // The gateway itself
 inline constexpr const char* MISSING_PARAMETER = "missing-parameter";
+inline constexpr const char* UNKNOWN_PARAMETER = "unknown-parameter"; ///< the library reports none; a program may
 inline constexpr const char* INTERNAL = "internal";
 
 /// The rule that an interface without D-channel breaks.

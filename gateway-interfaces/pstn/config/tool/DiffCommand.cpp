@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "Command.h"
+#include "InputFile.h"
 #include "LoadedConfig.h"
 #include "ModelDiff.h"
 
@@ -17,6 +18,8 @@ struct DiffOptions {
 };
 
 ExitCode diff( const DiffOptions& in_options ) {
+    if ( in_options.strOld == InputFile::STANDARD_INPUT && in_options.strNew == InputFile::STANDARD_INPUT )
+        throw CLI::ValidationError( "NEW", "standard input (-) can be read only once" );
     ExitCode eUnused = EXIT_NOT_CHECKED; // a file that can't be loaded is no change
     const auto pOld = loadConfig( in_options.strOld, in_options.strSchema, eUnused );
     const auto pNew = loadConfig( in_options.strNew, in_options.strSchema, eUnused );
@@ -37,7 +40,7 @@ void addDiffCommand( Program& inout_program ) {
     pOptions->strSchema = inout_program.strDefaultSchema;
     CLI::App* const pDiff = inout_program.app.add_subcommand(
         "diff", "Says what changes for the gateway from one file to another, whatever their order and layout" );
-    pDiff->add_option( "OLD", pOptions->strOld, "Configuration file" )->required();
+    pDiff->add_option( "OLD", pOptions->strOld, "Configuration file; - is standard input" )->required();
     pDiff->add_option( "NEW", pOptions->strNew, "Configuration file" )->required();
     pDiff->add_option( "--format", pOptions->strFormat, "text, or json; docs/show-json.md says what is in it" )
         ->type_name( "FORMAT" )

@@ -1,6 +1,7 @@
 #include "LoadedConfig.h"
 
 #include <iostream>
+#include <utility>
 
 #include "ToolLog.h"
 #include "check/TextReport.h"
@@ -8,14 +9,17 @@
 std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strFile, const std::string& in_strSchema,
                                                       ExitCode& out_eExitCode ) {
     setUpLog( "OFF" );
+    const InputFile input( in_strFile );
     CheckedFile loaded;
-    loaded.strFile = in_strFile;
+    loaded.strFile = input.getName();
     auto pConfig = std::make_unique<Velquin::Pstn::XmlConfig>();
     bool bLoads = false;
     {
-        const Velquin::FindingWatch watch(
-            [&loaded]( const Velquin::Finding& in_finding ) { loaded.add( in_finding ); } );
-        bLoads = pConfig->load( in_strFile.c_str(), in_strSchema.c_str(), false );
+        const Velquin::FindingWatch watch( [&]( Velquin::Finding in_finding ) {
+            input.rename( in_finding );
+            loaded.add( std::move( in_finding ) );
+        } );
+        bLoads = pConfig->load( input.getPath().c_str(), in_strSchema.c_str(), false );
     }
     if ( loaded.vecFindings.empty() )
         return pConfig;
@@ -26,7 +30,7 @@ std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strF
         return pConfig;
     }
     // A load ends at the first fault. A check tells them all.
-    const CheckedFile checked = checkFile( in_strFile, { in_strSchema } );
+    const CheckedFile checked = checkFile( input, { in_strSchema } );
     report.add( checked );
     out_eExitCode = checked.eVerdict == Verdict::UNCHECKED ? EXIT_NOT_CHECKED : EXIT_INVALID;
     return nullptr;

@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "LessByNumbers.h"
 #include "ModelText.h"
 
 using namespace Velquin::Pstn;
@@ -146,7 +147,7 @@ struct Event {
 };
 
 /// By line: what happens at each channel.
-using LineEvents = std::map<std::string, std::multimap<unsigned long long, Event>>;
+using LineEvents = std::map<std::string, std::multimap<unsigned long long, Event>, LessByNumbers>;
 
 void gatherEvents( const Json& in_model, bool in_bNew, LineEvents& inout_mapEvents ) {
     for ( const auto& [strGroup, group] : in_model["channelGroups"].items() ) {

@@ -46,7 +46,7 @@ void addShowCommand( Program& inout_program ) {
     pOptions->strSchema = inout_program.strDefaultSchema;
     CLI::App* const pShow = inout_program.app.add_subcommand(
         "show", "Loads a file as the gateway does and shows what it holds: boards, lines, call control" );
-    pShow->add_option( "FILE", pOptions->strFile, "Configuration file" )->required();
+    pShow->add_option( "FILE", pOptions->strFile, "Configuration file; - is standard input" )->required();
     CLI::Option* const pJson =
         pShow->add_flag( "--json", pOptions->bJson, "Print everything as JSON; docs/show-json.md says how" );
     pShow->add_flag( "--memory", pOptions->bMemory, "Print the memory that each class of the model holds" )

@@ -16,7 +16,9 @@ VELQUIN_PSTN_CONFIG_EXPORT std::span<const Rule> getAdviceRules() noexcept;
 
 /// What a careful colleague would say of a model that loads, or of the part that could be read. Logs nothing.
 /// @param in_pRoot the root element from which the model was read
+/// @param in_faulty elements of which the model lacks an attribute: no advice stands on what the model has instead
 /// @return findings at WARNING, or at INFO for notes, with file, line, element, attribute, value and hint
-VELQUIN_PSTN_CONFIG_EXPORT std::vector<Finding> advise( const Config& in_config, const xmlNode* in_pRoot );
+VELQUIN_PSTN_CONFIG_EXPORT std::vector<Finding> advise( const Config& in_config, const xmlNode* in_pRoot,
+                                                        std::span<const xmlNode* const> in_faulty = {} );
 
 } // namespace Velquin::Pstn

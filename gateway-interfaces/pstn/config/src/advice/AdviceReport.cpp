@@ -1,5 +1,9 @@
 #include "advice/AdviceReport.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 #include "document/Element.h"
 #include "hardware/AnalogInterfaceConfig.h"
 
@@ -8,6 +12,9 @@ namespace Velquin::Pstn {
 namespace {
 
 using Key = ModelLocator::Key;
+
+constexpr auto INNER_ENTRIES =
+    std::to_array<std::string_view>( { "interface", "interfaceRef", "member", "BChannelRange" } );
 
 bool isAnalog( const InterfaceConfig& in_interface ) {
     return dynamic_cast<const AnalogInterfaceConfig*>( &in_interface ) != nullptr;
@@ -37,7 +44,11 @@ AdvicePlace placeOfPhysical( const char* in_szElement, const InterfacePhysicalCo
 
 void AdviceReport::add( const Advice& in_advice ) {
     const auto [pElement, strPath] = find( in_advice.place );
-    if ( !pElement || !m_setBroken.emplace( m_pRule, pElement, in_advice.place.szAttribute ).second )
+    if ( !pElement || isFaulty( pElement ) ||
+         std::any_of( in_advice.vecRelated.begin(), in_advice.vecRelated.end(),
+                      [this]( const AdviceRelated& in_related ) { return isFaulty( in_related.place ); } ) )
+        return;
+    if ( !m_setBroken.emplace( m_pRule, pElement, in_advice.place.szAttribute ).second )
         return;
     AttributeText value;
     const bool bValue = *in_advice.place.szAttribute && findAttribute( pElement, in_advice.place.szAttribute, value );
@@ -66,6 +77,20 @@ void AdviceReport::add( const Advice& in_advice ) {
                                             getElementNumber( pRelated ), related.place.szAttribute } );
     }
     m_vecFindings.push_back( std::move( finding ) );
+}
+
+/// Whether the element, or the entry in which it stands, is faulty. An entry within a faulty one may be whole.
+bool AdviceReport::isFaulty( const xmlNode* in_pElement ) const {
+    if ( m_setFaulty.empty() )
+        return false;
+    for ( ; in_pElement; in_pElement = getParentElement( in_pElement ) ) {
+        if ( m_setFaulty.contains( in_pElement ) )
+            return true;
+        if ( std::find( INNER_ENTRIES.begin(), INNER_ENTRIES.end(), getElementName( in_pElement ) ) !=
+             INNER_ENTRIES.end() )
+            return false;
+    }
+    return false;
 }
 
 ModelLocator::Place AdviceReport::find( const AdvicePlace& in_place ) {

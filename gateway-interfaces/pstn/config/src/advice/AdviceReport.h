@@ -45,13 +45,20 @@ struct Advice {
 /// Takes what the rules say, and finds the places for it.
 class AdviceReport {
 public:
-    explicit AdviceReport( const xmlNode* in_pRoot ) noexcept : m_locator( in_pRoot ) {}
+    /// @param in_faulty elements of which the model lacks an attribute
+    AdviceReport( const xmlNode* in_pRoot, std::span<const xmlNode* const> in_faulty )
+        : m_locator( in_pRoot ), m_setFaulty( in_faulty.begin(), in_faulty.end() ) {}
 
     /// The rule that speaks from now on.
     void setRule( const Rule& in_rule ) noexcept { m_pRule = &in_rule; }
     /// Takes an advice. An element, or an attribute, breaks a rule only once: where it names many lines, the first one
-    /// tells. What stands nowhere in the document, nobody can mend there: that is dropped.
+    /// tells. What stands nowhere in the document, nobody can mend there: that is dropped, as is what stands in a
+    /// faulty element or refers to one.
     void add( const Advice& in_advice );
+    /// Whether the model lacks an attribute of what stands there.
+    bool isFaulty( const AdvicePlace& in_place ) {
+        return isFaulty( m_setFaulty.empty() ? nullptr : find( in_place ).pElement );
+    }
     /// The document, for rules that must know whether a part of it is missing from the model.
     ModelLocator& getDocument() noexcept { return m_locator; }
 
@@ -59,8 +66,10 @@ public:
 
 private:
     ModelLocator::Place find( const AdvicePlace& in_place );
+    bool isFaulty( const xmlNode* in_pElement ) const;
 
     ModelLocator m_locator;
+    std::set<const xmlNode*> m_setFaulty;
     const Rule* m_pRule = nullptr;
     std::vector<Finding> m_vecFindings;
     std::set<std::tuple<const Rule*, const xmlNode*, std::string>> m_setBroken;

@@ -5,6 +5,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "advice/AdviceReport.h"
 #include "callcontrol/isdn/IsdnFasConfig.h"
 #include "callcontrol/isdn/IsdnNfasConfig.h"
 #include "hardware/InterfaceKind.h"
@@ -14,8 +15,9 @@ namespace Velquin::Pstn {
 namespace {
 
 template <class TKind, class TLine, class TPhysical>
-void gatherBoards( const Config& in_config, bool in_bAnalog, std::vector<AdviceSubject::Board>& inout_vecBoards,
-                   std::vector<TLine>& out_vecLines, std::vector<TPhysical>& out_vecPhysicals ) {
+void gatherBoards( const Config& in_config, AdviceReport& in_report, bool in_bAnalog,
+                   std::vector<AdviceSubject::Board>& inout_vecBoards, std::vector<TLine>& out_vecLines,
+                   std::vector<TPhysical>& out_vecPhysicals ) {
     std::unordered_set<const InterfacePhysicalConfig*> setSeen;
     typename TKind::Interfaces vecInterfaces;
     for ( const auto& [uBoardId, hBoard] : TKind::getBoards( in_config ) ) {
@@ -26,12 +28,14 @@ void gatherBoards( const Config& in_config, bool in_bAnalog, std::vector<AdviceS
         for ( const auto& hInterface : vecInterfaces ) {
             if ( hInterface.isNull() || hInterface->getBoardConfig().isNull() )
                 continue;
-            const auto* const pPhysical = hInterface->getPhysicalConfig().get();
+            const TPhysical physical{ hInterface->getPhysicalConfig().get(), hInterface.get() };
             TLine& line = out_vecLines.emplace_back();
             line.pInterface = hInterface.get();
-            line.pPhysical = pPhysical;
-            if ( pPhysical && setSeen.insert( pPhysical ).second )
-                out_vecPhysicals.push_back( { pPhysical, hInterface.get() } );
+            if ( !physical.pConfig || in_report.isFaulty( placeOf( physical ) ) )
+                continue;
+            line.pPhysical = physical.pConfig;
+            if ( setSeen.insert( physical.pConfig ).second )
+                out_vecPhysicals.push_back( physical );
         }
         inout_vecBoards.push_back( { hBoard.get(), in_bAnalog, uFirst, out_vecLines.size() } );
     }
@@ -97,10 +101,10 @@ private:
 
 } // namespace
 
-AdviceSubject::AdviceSubject( const Config& in_config )
+AdviceSubject::AdviceSubject( const Config& in_config, AdviceReport& in_report )
     : config( in_config ), hCallControl( in_config.getCallControlConfig() ) {
-    gatherBoards<DigitalKind>( config, false, vecBoards, vecSpans, vecDigitalPhysicals );
-    gatherBoards<AnalogKind>( config, true, vecBoards, vecPorts, vecAnalogPhysicals );
+    gatherBoards<DigitalKind>( config, in_report, false, vecBoards, vecSpans, vecDigitalPhysicals );
+    gatherBoards<AnalogKind>( config, in_report, true, vecBoards, vecPorts, vecAnalogPhysicals );
     if ( hCallControl.isNull() )
         return;
     if ( !hCallControl->getIsdnConfig().isNull() ) {

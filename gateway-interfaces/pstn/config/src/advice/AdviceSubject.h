@@ -8,10 +8,11 @@
 
 namespace Velquin::Pstn {
 
+class AdviceReport;
 class IsdnNfasGroupMemberConfig;
 
 /// What the rules look at: the model, with what belongs to one interface gathered there. Parts that the model lacks are
-/// null.
+/// null, as are faulty physical configurations.
 struct AdviceSubject {
     /// That a span is in a FAS or an NFAS group.
     struct IsdnUse {
@@ -54,7 +55,7 @@ struct AdviceSubject {
         const InterfaceConfig* pInterface;
     };
 
-    explicit AdviceSubject( const Config& in_config );
+    AdviceSubject( const Config& in_config, AdviceReport& in_report );
     AdviceSubject( const AdviceSubject& ) = delete;
     AdviceSubject& operator=( const AdviceSubject& ) = delete;
 

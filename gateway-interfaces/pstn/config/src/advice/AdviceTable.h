@@ -45,26 +45,20 @@ inline constexpr auto ADVICE_TABLE = std::to_array<AdviceRule>( {
     // Channels
     { { "channel-outside-line", Severity::WARNING, "a range names channels that its line doesn't have",
         "An E1 line has the channels 1 to 31, a T1 line 1 to 24. The router hands out the channels of a group one "
-        "after "
-        "the other; a call on a channel that no line has fails, and to the caller the gateway seems to be at fault. "
-        "Set "
-        "firstChannel and lastChannel to channels of the line. Where the range is right, the line may be wrong: look "
-        "at "
-        "the physical configuration that is applied to the span." },
+        "after the other; a call on a channel that no line has fails, and to the caller the gateway seems to be at "
+        "fault. Set firstChannel and lastChannel to channels of the line. Where the range is right, the line may be "
+        "wrong: look at the physical configuration that is applied to the span." },
       &adviseChannelOutsideLine },
     { { "d-channel-in-range", Severity::WARNING, "a range holds the timeslot of the D-channel",
         "The D-channel carries the signalling of the span, and no calls. A call that the router puts on its timeslot "
         "fails: the other side refuses the channel. End the range before the timeslot and begin another one behind it. "
         "An E1 line whose D-channel is in timeslot 16 has the ranges 1 to 15 and 17 to 31; a T1 line with the "
-        "D-channel "
-        "in timeslot 24 has the range 1 to 23." },
+        "D-channel in timeslot 24 has the range 1 to 23." },
       &adviseDChannelInRange },
     { { "d-channel-timeslot", Severity::WARNING, "the D-channel isn't in the timeslot where ISDN has it",
         "The D-channel of an E1 line is in timeslot 16, that of a T1 line in timeslot 24. In any other timeslot the "
-        "two "
-        "sides don't hear each other, no call comes or goes, and the line shows no alarm. Set channelIndex to 16 or "
-        "24. "
-        "Keep another timeslot only if the other side says that it has its D-channel there." },
+        "two sides don't hear each other, no call comes or goes, and the line shows no alarm. Set channelIndex to 16 "
+        "or 24. Keep another timeslot only if the other side says that it has its D-channel there." },
       &adviseDChannelTimeslot },
     { { "group-empty", Severity::NOTE, "no channel is in the channel group",
         "Nothing puts channels into this group: a call that the router sends there finds none. Name the group in a "
@@ -132,19 +126,15 @@ inline constexpr auto ADVICE_TABLE = std::to_array<AdviceRule>( {
       &advisePhoneNumberTwice },
     { { "no-hang-up-detection", Severity::WARNING, "lines never notice that the far end hung up",
         "An FXO line has no message for the end of a call: the gateway hears tones, or counts the rings that stay "
-        "away. "
-        "Without a detector a call ends only when the inside hangs up; a call that nobody ends blocks the line, and "
-        "may "
-        "cost money all night. Add a detector for the busy tone of the exchange, or set the ringCadenceDetector to "
-        "YES." },
+        "away. Without a detector a call ends only when the inside hangs up; a call that nobody ends blocks the line, "
+        "and may cost money all night. Add a detector for the busy tone of the exchange, or set the "
+        "ringCadenceDetector to YES." },
       &adviseNoHangUpDetection },
     // Boards
     { { "peer", Severity::WARNING, "the two ends of a virtual link don't name each other",
         "A virtual span is the end of a link inside the gateway. Its other end must be a virtual span, too, not "
-        "itself, "
-        "and must name this one in turn. Otherwise what is sent into the link comes out nowhere. Set "
-        "peerVirtualBoardID "
-        "and peerVirtualInterfaceID of both ends." },
+        "itself, and must name this one in turn. Otherwise what is sent into the link comes out nowhere. Set "
+        "peerVirtualBoardID and peerVirtualInterfaceID of both ends." },
       &advisePeer },
     { { "used-twice", Severity::WARNING, "two boards have one PCI slot, or two things one ID or name",
         "Only one card is in a slot: the gateway finds one of two boards that name it, and not the other one. Two "
@@ -154,9 +144,8 @@ inline constexpr auto ADVICE_TABLE = std::to_array<AdviceRule>( {
     // Limits
     { { "value-out-of-custom", Severity::WARNING, "a value that no line has",
         "The gateway takes the value, and does with it what it can. But it is beyond what lines, exchanges or people "
-        "do: "
-        "mostly a digit too many, seconds instead of milliseconds, or a 0 that switches something off without saying "
-        "so. The finding tells the values that make sense. If yours is meant, leave it." },
+        "do: mostly a digit too many, seconds instead of milliseconds, or a 0 that switches something off without "
+        "saying so. The finding tells the values that make sense. If yours is meant, leave it." },
       &adviseValueOutOfCustom },
 } );
 

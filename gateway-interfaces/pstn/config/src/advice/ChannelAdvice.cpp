@@ -144,7 +144,7 @@ void adviseGroupEmpty( const AdviceSubject& in_subject, AdviceReport& inout_repo
     if ( in_subject.hCallControl.isNull() )
         return;
     for ( const auto& [strId, hGroup] : in_subject.hCallControl->getChannelGroupsConfig() ) {
-        if ( hGroup->getBChannelRangeConfig().empty() && !inout_report.getDocument().isFilled( strId ) )
+        if ( hGroup->getBChannelRangeConfig().empty() && !inout_report.getDocument().mayBeFilled( strId ) )
             inout_report.add( { placeOf( *hGroup ).attribute( "ID" ), "",
                                 "no channel is in this group; name it in a BChannelRange or interfaceRef, or remove "
                                 "it" } );

@@ -27,7 +27,7 @@ AnalogCallControlCommonConfig* AnalogCallControlCommonConfigXmlSerializer::read(
     // clang-format on
 
     using Config = AnalogCallControlCommonConfig;
-    if ( !reader.require( "ID", LEADING_DECIMAL, *pCommonConfig, &Config::setId ) ||
+    if ( !reader.requireKey( "ID", LEADING_DECIMAL, *pCommonConfig, &Config::setId ) ||
          !reader.require( "displayName", ANY_TEXT, *pCommonConfig, &Config::setDisplayName ) )
         return nullptr;
     return pCommonConfig.release();

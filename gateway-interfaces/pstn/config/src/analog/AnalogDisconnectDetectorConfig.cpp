@@ -27,7 +27,10 @@ bool AnalogDisconnectDetectorConfig::parseSequence( const char* in_szSequence ) 
         StringVector vecParts;
         strTokenize( strItem, vecParts, '/' );
         if ( vecParts.empty() || vecParts.size() > 2 ) {
-            VELQUIN_REPORT( getLogger(), ( Fault{ Rules::INVALID_SEQUENCE, "sequence", in_szSequence } ),
+            VELQUIN_REPORT( getLogger(),
+                            ( Fault{ Rules::INVALID_SEQUENCE, "sequence", in_szSequence,
+                                     "each item between commas has at most one slash, as in "
+                                     "busy/3,silence" } ),
                             "Invalid sequence for disconnect supervison" );
             return false;
         }

@@ -18,10 +18,10 @@ namespace {
 bool readRingCadence( xmlNode* in_pElement, const Logger& in_logger, AnalogDisconnectSupervisionConfig& out_config ) {
     using Config = AnalogDisconnectSupervisionConfig;
     const ElementReader reader( in_pElement, in_logger, FXO_WORDING );
-    return reader.require( "active", Keywords::YES_NO, out_config, &Config::setRingCadenceDetectionState ) &&
+    return reader.requireKey( "active", Keywords::YES_NO, out_config, &Config::setRingCadenceDetectionState ) &&
            ( !out_config.isRingCadenceDetectionEnabled() ||
-             reader.require( "ringCadenceOffDelayMs", POSITIVE_INTEGER, out_config,
-                             &Config::setRingCadenceOffDelayMs ) );
+             reader.requireKey( "ringCadenceOffDelayMs", POSITIVE_INTEGER, out_config,
+                                &Config::setRingCadenceOffDelayMs ) );
 }
 
 bool readDetector( xmlNode* in_pElement, const Logger& in_logger, AnalogDisconnectSupervisionConfig& inout_config ) {

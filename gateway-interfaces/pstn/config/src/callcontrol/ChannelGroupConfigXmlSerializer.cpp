@@ -21,8 +21,8 @@ ChannelGroupConfig* ChannelGroupConfigXmlSerializer::read( xmlNode* const in_pEl
     const ElementReader reader( in_pElement, getLogger(), WORDING );
     ChannelGroupConfig& config = *pChannelGroupConfig;
     const bool bRead =
-        reader.require( "ID", ANY_TEXT, config, &ChannelGroupConfig::setId ) &&
-        reader.require( "direction", Keywords::CHANNEL_DIRECTION, config, &ChannelGroupConfig::setDirection ) &&
+        reader.requireKey( "ID", ANY_TEXT, config, &ChannelGroupConfig::setId ) &&
+        reader.requireKey( "direction", Keywords::CHANNEL_DIRECTION, config, &ChannelGroupConfig::setDirection ) &&
         ( config.getDirection() == PSTNChannel::IN ||
           reader.require( "outboundHuntingScheme", Keywords::HUNTING_SCHEME, config,
                           &ChannelGroupConfig::setOutboundHuntingScheme ) );

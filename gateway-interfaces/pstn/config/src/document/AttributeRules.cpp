@@ -47,6 +47,17 @@ std::string describeDataType( const std::string& in_strType ) {
     return "The value must be of type " + in_strType + '.';
 }
 
+std::string getContent( const xmlNode* in_pElement ) {
+    return fromXml( XmlStringPtr( xmlNodeGetContent( in_pElement ) ).get() );
+}
+
+/// What values of a `data` pattern are: its documentation says it to people.
+std::string describePattern( const xmlNode* in_pData, const std::string& in_strPattern ) {
+    for ( const xmlNode* const pDocumentation : ChildElements( in_pData, "documentation" ) )
+        return "be " + getContent( pDocumentation );
+    return "match " + in_strPattern;
+}
+
 /// What a `data` pattern wants instead of the value; empty when its type and its pattern take the value.
 std::string getHintOfData( const xmlNode* in_pData, const char* in_szValue ) {
     const std::string strType = getPatternAttribute( in_pData, "type" );
@@ -57,9 +68,9 @@ std::string getHintOfData( const xmlNode* in_pData, const char* in_szValue ) {
     for ( const xmlNode* const pParameter : ChildElements( in_pData, "param" ) ) {
         if ( getPatternAttribute( pParameter, "name" ) != "pattern" )
             continue;
-        const std::string strPattern = fromXml( XmlStringPtr( xmlNodeGetContent( pParameter ) ).get() );
+        const std::string strPattern = getContent( pParameter );
         if ( !matches( in_szValue, strPattern ) )
-            return "The value must match " + strPattern;
+            return "The value must " + describePattern( in_pData, strPattern );
     }
     return {};
 }

@@ -32,7 +32,7 @@ InterfaceConfig* AnalogInterfaceConfigXmlSerializer::read( xmlNode* const in_pEl
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
     AnalogInterfaceConfig& config = *pAnalogInterfaceConfig;
-    if ( !reader.require( "type", MEDIA_TYPE, config, &AnalogInterfaceConfig::setMediaType ) )
+    if ( !reader.requireKey( "type", MEDIA_TYPE, config, &AnalogInterfaceConfig::setMediaType ) )
         return nullptr;
     const bool bRead =
         config.getMediaType() == AnalogInterfaceConfig::MediaType::FXS

@@ -22,7 +22,7 @@ BoardConfig* BoardConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConf
     if ( !VELQUIN_ASSERT( !pBoardConfig.isNull() ) )
         return nullptr;
 
-    if ( !reader.require( "ID", WHOLE_DECIMAL, *pBoardConfig, &BoardConfig::setId ) )
+    if ( !reader.requireKey( "ID", WHOLE_DECIMAL, *pBoardConfig, &BoardConfig::setId ) )
         return nullptr;
     const bool bRead = reader.require( "displayName", DISPLAY_NAME, *pBoardConfig, &BoardConfig::setDisplayName ) &&
                        reader.require( "model", ANY_TEXT, *pBoardConfig, &BoardConfig::setModel ) &&

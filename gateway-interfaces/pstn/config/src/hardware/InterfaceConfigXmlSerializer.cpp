@@ -24,7 +24,7 @@ InterfaceConfig* InterfaceConfigXmlSerializer::read( xmlNode* const in_pElement,
     if ( !VELQUIN_ASSERT( !pInterfaceConfig.isNull() ) || !pInterfaceConfig->setBoardConfig( &in_boardConfig ) )
         return nullptr;
 
-    if ( !reader.require( "ID", LEADING_DECIMAL, *pInterfaceConfig, &InterfaceConfig::setId ) )
+    if ( !reader.requireKey( "ID", LEADING_DECIMAL, *pInterfaceConfig, &InterfaceConfig::setId ) )
         return nullptr;
     if ( !reader.require( "displayName", DISPLAY_NAME, *pInterfaceConfig, &InterfaceConfig::setDisplayName ) )
         return nullptr;

@@ -29,8 +29,8 @@ BoardConfig* TirvanaAnalogBoardConfigXmlSerializer::read( xmlNode* const in_pEle
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    if ( !reader.require( "tirpipe", WHOLE_DECIMAL, *pTirvanaAnalogBoardConfig,
-                          &TirvanaAnalogBoardConfig::setTirpipe ) ||
+    if ( !reader.requireKey( "tirpipe", WHOLE_DECIMAL, *pTirvanaAnalogBoardConfig,
+                             &TirvanaAnalogBoardConfig::setTirpipe ) ||
          !readInterfaces<AnalogKind>( in_pElement, in_xmlConfig, *pTirvanaAnalogBoardConfig, m_interfaceXmlSerializer,
                                       ASSERTIONS ) )
         return nullptr;

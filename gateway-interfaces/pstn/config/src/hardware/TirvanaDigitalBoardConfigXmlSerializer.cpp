@@ -25,13 +25,13 @@ bool readPrimaryClockReference( const ElementReader& in_reader, const TirvanaDig
         return true;
     unsigned int uInterfaceId = 0;
     if ( !in_reader.take( text, "primaryClockReference", WHOLE_DECIMAL, uInterfaceId ) )
-        return false;
+        return AttributeReader::passOver();
     const auto hInterface =
         dynamicHandleCast<TirvanaDigitalInterfaceConfig>( in_board.getDigitalInterfaceConfig( uInterfaceId ) );
     if ( hInterface.isNull() ) {
         in_reader.reportInvalid( "primaryClockReference", text.view(), "Specified interface ID value does not exist",
                                  Rules::UNKNOWN_INTERFACE );
-        return false;
+        return AttributeReader::passOver();
     }
     hInterface->setPrimaryClockReference( true );
     return true;

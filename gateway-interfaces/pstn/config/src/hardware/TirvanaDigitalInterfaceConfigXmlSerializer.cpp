@@ -33,8 +33,8 @@ InterfaceConfig* TirvanaDigitalInterfaceConfigXmlSerializer::read( xmlNode* cons
         return nullptr;
 
     const ElementReader reader( in_pElement, getLogger(), WORDING );
-    if ( !reader.require( "tirpipe", LEADING_DECIMAL, *pTirvanaDigitalInterfaceConfig,
-                          &TirvanaDigitalInterfaceConfig::setTirpipe ) )
+    if ( !reader.requireKey( "tirpipe", LEADING_DECIMAL, *pTirvanaDigitalInterfaceConfig,
+                             &TirvanaDigitalInterfaceConfig::setTirpipe ) )
         return nullptr;
     return pTirvanaDigitalInterfaceConfig.release();
 }

@@ -70,9 +70,9 @@ std::size_t ModelLocator::countRanges( unsigned int in_uBoardId, unsigned int in
     return uRanges;
 }
 
-bool ModelLocator::isFilled( std::string_view in_strChannelGroup ) {
+bool ModelLocator::mayBeFilled( std::string_view in_strChannelGroup ) {
     gather();
-    return m_setFilledGroups.contains( std::string( in_strChannelGroup ) );
+    return m_bUnknownGroup || m_setFilledGroups.contains( std::string( in_strChannelGroup ) );
 }
 
 void ModelLocator::gather() {
@@ -96,6 +96,10 @@ void ModelLocator::gather() {
         else
             indexEntries( uSection );
     }
+    m_bUnknownGroup =
+        std::any_of( m_setFilledGroups.begin(), m_setFilledGroups.end(), [this]( const std::string& in_strGroup ) {
+            return !m_mapElements.contains( Key( "channelGroup", in_strGroup ).getText() );
+        } );
 }
 
 void ModelLocator::gatherChildren( std::uint32_t in_uParent ) {

@@ -68,8 +68,8 @@ public:
     std::size_t countChildren( const Key& in_key, std::string_view in_strBelow );
     /// The number of B-channel ranges that the ISDN groups give to an interface.
     std::size_t countRanges( unsigned int in_uBoardId, unsigned int in_uInterfaceId );
-    /// Whether any element names that channel group.
-    bool isFilled( std::string_view in_strChannelGroup );
+    /// Whether any element names that channel group, or names one that isn't there, and may mean this one.
+    bool mayBeFilled( std::string_view in_strChannelGroup );
 
 private:
     struct Element {
@@ -97,6 +97,7 @@ private:
     std::unordered_map<std::string, std::uint32_t> m_mapElements;
     std::unordered_map<std::string, std::size_t> m_mapRanges; ///< their number, by board and interface
     std::unordered_set<std::string> m_setFilledGroups;        ///< the channel groups that something names
+    bool m_bUnknownGroup = false;                             ///< whether one of them isn't there
 };
 
 } // namespace Velquin::Pstn

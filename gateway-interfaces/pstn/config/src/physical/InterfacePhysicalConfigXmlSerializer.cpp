@@ -25,7 +25,7 @@ TSHandle<InterfacePhysicalConfig> InterfacePhysicalConfigXmlSerializer::read( xm
     if ( !VELQUIN_ASSERT( !hInterfacePhysicalConfig.isNull() ) )
         return {};
 
-    if ( !reader.require( "ID", LEADING_DECIMAL, *hInterfacePhysicalConfig, &InterfacePhysicalConfig::setId ) ||
+    if ( !reader.requireKey( "ID", LEADING_DECIMAL, *hInterfacePhysicalConfig, &InterfacePhysicalConfig::setId ) ||
          !reader.require( "displayName", ANY_TEXT, *hInterfacePhysicalConfig,
                           &InterfacePhysicalConfig::setDisplayName ) )
         return {};

@@ -9,7 +9,7 @@ namespace Velquin::Pstn {
 /// How far a list of entries was read.
 enum class EntriesRead {
     ALL,  ///< each entry was taken
-    SOME, ///< some were left out, and an EntryListener was told
+    SOME, ///< some were left out or read in part, and an EntryListener was told
     FAILED,
 };
 
@@ -25,9 +25,7 @@ EntriesRead walkEntries( const ChildElements& in_entries, const TRead& in_read )
         if ( pListener )
             pListener->beginEntry( pEntry );
         const bool bTaken = in_read( pEntry );
-        if ( pListener )
-            pListener->endEntry( pEntry, bTaken );
-        if ( bTaken )
+        if ( pListener ? pListener->endEntry( pEntry, bTaken ) : bTaken )
             continue;
         if ( !pListener )
             return EntriesRead::FAILED;

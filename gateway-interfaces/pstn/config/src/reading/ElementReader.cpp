@@ -5,6 +5,8 @@
 #include <velquin/Assertion.h>
 #include <velquin/XML.h>
 
+#include "reading/EntryListener.h"
+
 namespace Velquin::Pstn {
 
 namespace {
@@ -47,6 +49,11 @@ private:
 };
 
 } // namespace
+
+bool AttributeReader::passOver() {
+    EntryListener* const pListener = EntryListener::getCurrent();
+    return pListener && pListener->passOver();
+}
 
 bool AttributeReader::findText( const char* in_szAttribute, AttributeText& out_text ) const {
     return findAttribute( m_pElement, in_szAttribute, out_text );

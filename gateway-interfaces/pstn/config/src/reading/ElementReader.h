@@ -97,6 +97,13 @@ public:
     /// Reads a required attribute into the model.
     template <class TRule, class TConfig, class TSetter>
     bool require( const char* in_szAttribute, const TRule& in_rule, TConfig& out_config, TSetter in_set ) const {
+        return requireKey( in_szAttribute, in_rule, out_config, in_set ) || passOver();
+    }
+
+    /// The same for an attribute on which the rest of the element depends: its identifier, its kind. Without it, an
+    /// EntryListener has nothing to go on with.
+    template <class TRule, class TConfig, class TSetter>
+    bool requireKey( const char* in_szAttribute, const TRule& in_rule, TConfig& out_config, TSetter in_set ) const {
         AttributeText text;
         return requireText( in_szAttribute, text ) && setFrom( text, in_szAttribute, in_rule, out_config, in_set );
     }
@@ -105,7 +112,8 @@ public:
     template <class TRule, class TConfig, class TSetter>
     bool accept( const char* in_szAttribute, const TRule& in_rule, TConfig& out_config, TSetter in_set ) const {
         AttributeText text;
-        return !findText( in_szAttribute, text ) || setFrom( text, in_szAttribute, in_rule, out_config, in_set );
+        return !findText( in_szAttribute, text ) || setFrom( text, in_szAttribute, in_rule, out_config, in_set ) ||
+               passOver();
     }
 
     /// Reads a required attribute into a variable.
@@ -183,6 +191,9 @@ public:
                         const char* in_szRule = Rules::INVALID_VALUE ) const {
         reportInvalid( { in_szAttribute, nullptr, in_strValue, in_szRule, {} }, in_strHint );
     }
+
+    /// Whether a reader goes on behind an attribute that it reported.
+    static bool passOver();
 
     /// A value that is refused.
     struct RefusedValue {

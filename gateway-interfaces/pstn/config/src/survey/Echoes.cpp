@@ -8,8 +8,8 @@
 #include "RuleNames.h"
 #include "document/Element.h"
 #include "reading/ChildElements.h"
-#include "reading/Number.h"
 #include "survey/Elements.h"
+#include "survey/ReferenceKeys.h"
 
 namespace Velquin::Pstn {
 
@@ -21,11 +21,6 @@ bool isMain( const SurveyedFinding& in_item ) {
 
 bool isAboutDChannel( const SurveyedFinding& in_item ) {
     return in_item.is( Rules::NO_D_CHANNEL ) || in_item.is( Rules::UNUSED_D_CHANNEL );
-}
-
-bool isReferenceRule( const SurveyedFinding& in_item ) {
-    return in_item.is( Rules::UNKNOWN_BOARD ) || in_item.is( Rules::UNKNOWN_INTERFACE ) ||
-           in_item.is( Rules::UNKNOWN_CHANNEL_GROUP );
 }
 
 /// Whether advice on one element explains an error of libxml2 about another.
@@ -81,24 +76,6 @@ void markSecondReports( SurveyRecord& inout_record ) {
     }
 }
 
-/// The identifier as a key: a number without its leading zeros.
-std::string normalize( const std::string& in_strIdentifier ) {
-    const auto uNumber = parseNumber<unsigned int>( in_strIdentifier, NumberPolicy::WHOLE );
-    return uNumber ? std::to_string( *uNumber ) : "=" + in_strIdentifier;
-}
-
-/// A board, or one of its interfaces, as a key.
-std::string describeLine( const xmlNode* in_pElement, const std::string& in_strBoard,
-                          const std::string& in_strInterface ) {
-    return ( isAnalog( in_pElement ) ? "analog " : "digital " ) + normalize( in_strBoard ) +
-           ( in_strInterface.empty() ? std::string() : "/" + normalize( in_strInterface ) );
-}
-
-std::string describeReference( const xmlNode* in_pReference ) {
-    return describeLine( in_pReference, getValue( in_pReference, "boardID" ),
-                         getValue( in_pReference, "interfaceID" ) );
-}
-
 /// The physical configurations that are applied to boards and interfaces.
 class PhysicalConfigs {
 public:
@@ -126,11 +103,8 @@ private:
 /// What findings have in common that come from one mistake: references to the same thing, lines of one board, lines
 /// with one physical configuration. Empty for a finding of its own.
 std::string getCommonCause( const SurveyedFinding& in_item, const PhysicalConfigs& in_configs ) {
-    const Finding& finding = in_item.finding;
-    if ( in_item.is( Rules::UNKNOWN_INTERFACE ) )
-        return describeLine( in_item.pElement, getValue( in_item.pElement, "boardID" ), finding.strValue );
     if ( isReferenceRule( in_item ) )
-        return describeLine( in_item.pElement, finding.strValue, {} );
+        return describeKind( in_item.pElement ) + describeTarget( in_item );
     if ( in_item.is( Rules::NO_PHYSICAL_CONFIG ) || in_item.is( Rules::NO_CALL_CONTROL ) )
         return std::to_string( getElementNumber( getParentElement( in_item.pElement ) ) );
     const xmlNode* const pConfig = isAboutDChannel( in_item ) ? in_configs.find( in_item.pElement ) : nullptr;
@@ -160,20 +134,6 @@ void markCommonCauses( SurveyRecord& inout_record ) {
     }
 }
 
-/// The rule of references that name nothing, for an element that stands where a board, an interface or a channel group
-/// is declared; else null.
-const char* getReferenceRule( const xmlNode* in_pElement ) {
-    const auto vecChain = getChain( in_pElement );
-    if ( vecChain.size() != 2 && vecChain.size() != 3 )
-        return nullptr;
-    const std::string_view strSection = getElementName( vecChain[0] ); // may be misspelt
-    if ( strSection == "physicalInterfaceConfigs" || strSection == "providers" )
-        return nullptr;
-    if ( strSection == "callControl" )
-        return vecChain.size() == 3 ? Rules::UNKNOWN_CHANNEL_GROUP : nullptr;
-    return vecChain.size() == 2 ? Rules::UNKNOWN_BOARD : Rules::UNKNOWN_INTERFACE;
-}
-
 /// What was left out: declarations that references may mean, and references that may mean an interface.
 class Losses {
 public:
@@ -186,7 +146,9 @@ public:
             if ( strAttribute == "ID" )
                 setWithoutIdentifier.insert( item.pElement );
             addMissing( item );
-            if ( isReference( item.pElement ) && ( strAttribute == "boardID" || strAttribute == "interfaceID" ) )
+            const bool bTwice = item.is( Rules::PHYSICAL_CONFIG_TWICE ) || item.is( Rules::NFAS_MEMBER_TWICE );
+            if ( isReference( item.pElement ) &&
+                 ( bTwice || strAttribute == "boardID" || strAttribute == "interfaceID" ) )
                 m_mapReferences[getElementName( getChain( item.pElement )[0] )].insert( ANY );
         }
         for ( const xmlNode* const pLost : in_record.vecLost ) {
@@ -197,10 +159,10 @@ public:
     }
 
     /// Whether a reference may mean something that was left out.
-    bool explainReference( const Finding& in_finding ) const {
-        const auto it = m_mapDeclarations.find( in_finding.strRule );
+    bool explainReference( const SurveyedFinding& in_item ) const {
+        const auto it = m_mapDeclarations.find( in_item.finding.strRule );
         return it != m_mapDeclarations.end() &&
-               ( it->second.contains( ANY ) || it->second.contains( normalize( in_finding.strValue ) ) );
+               ( it->second.contains( ANY ) || it->second.contains( describeTarget( in_item ) ) );
     }
 
     /// Whether something that was left out in a section may have been meant for an interface.
@@ -231,8 +193,7 @@ private:
 
     void addDeclaration( const xmlNode* in_pElement, bool in_bWithoutIdentifier ) {
         if ( const char* const szRule = getReferenceRule( in_pElement ) )
-            m_mapDeclarations[szRule].insert( in_bWithoutIdentifier ? ANY
-                                                                    : normalize( getValue( in_pElement, "ID" ) ) );
+            m_mapDeclarations[szRule].insert( in_bWithoutIdentifier ? ANY : describeDeclaration( in_pElement ) );
     }
 
     /// The references in something that was left out. A range belongs to the reference in which it stands.
@@ -274,7 +235,7 @@ void markConsequences( SurveyRecord& inout_record ) {
         if ( !isMain( item ) || !item.pElement )
             continue;
         if ( isReferenceRule( item ) )
-            item.finding.bEcho = losses.explainReference( item.finding );
+            item.finding.bEcho = losses.explainReference( item );
         else if ( item.is( Rules::NO_PHYSICAL_CONFIG ) ) // a reference says it again
             item.finding.bEcho =
                 isReference( item.pElement ) || losses.explainInterface( item.pElement, "physicalInterfaceConfigs" );

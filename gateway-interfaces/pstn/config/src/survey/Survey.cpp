@@ -1,6 +1,8 @@
 #include "survey/Survey.h"
 
 #include <algorithm>
+#include <set>
+#include <string>
 #include <tuple>
 #include <utility>
 
@@ -49,7 +51,8 @@ private:
     void settle( std::size_t in_uBegin );
     void beginDocument( const xmlNode* in_pRoot ) override;
     void beginEntry( const xmlNode* in_pEntry ) override;
-    void endEntry( const xmlNode* in_pEntry, bool in_bTaken ) override;
+    bool endEntry( const xmlNode* in_pEntry, bool in_bTaken ) override;
+    bool passOver() override;
     void endDocument() override;
 
     void findElements();
@@ -57,7 +60,11 @@ private:
     const ElementPaths m_paths;
     const XmlConfig& m_config;
     SurveyRecord& m_record;
-    std::vector<std::size_t> m_vecEntries; ///< number of findings at the begin of each open entry
+    struct OpenEntry {
+        std::size_t uFindings; ///< their number when the entry was begun
+        bool bFaulty = false;  ///< whether an attribute was passed over
+    };
+    std::vector<OpenEntry> m_vecEntries;
     bool m_bEncoding = false;
     std::string m_strEncoding;
 };
@@ -81,14 +88,25 @@ void Reading::beginDocument( const xmlNode* in_pRoot ) {
 }
 
 void Reading::beginEntry( const xmlNode* ) {
-    m_vecEntries.push_back( m_record.vecFindings.size() );
+    m_vecEntries.push_back( { m_record.vecFindings.size() } );
 }
 
-void Reading::endEntry( const xmlNode* in_pEntry, bool in_bTaken ) {
-    settle( m_vecEntries.back() );
+bool Reading::endEntry( const xmlNode* in_pEntry, bool in_bTaken ) {
+    const OpenEntry entry = m_vecEntries.back();
     m_vecEntries.pop_back();
+    settle( entry.uFindings );
     if ( !in_bTaken )
         m_record.vecLost.push_back( in_pEntry );
+    else if ( entry.bFaulty )
+        m_record.vecFaulty.push_back( in_pEntry );
+    return in_bTaken && !entry.bFaulty;
+}
+
+bool Reading::passOver() {
+    if ( m_vecEntries.empty() )
+        return false;
+    m_vecEntries.back().bFaulty = true;
+    return true;
 }
 
 void Reading::endDocument() {
@@ -98,8 +116,16 @@ void Reading::endDocument() {
         markEchoes( m_record );
         addDetails( m_record );
     }
-    for ( Finding& finding : advise( m_config, m_record.pRoot ) )
-        m_record.vecFindings.push_back( { std::move( finding ) } );
+    // An attribute that is refused needs no advice on its value.
+    std::set<std::pair<unsigned long long, std::string>> setRefused;
+    for ( const SurveyedFinding& item : m_record.vecFindings ) {
+        if ( !item.finding.strAttribute.empty() )
+            setRefused.emplace( item.finding.ullElement, item.finding.strAttribute );
+    }
+    for ( Finding& finding : advise( m_config, m_record.pRoot, m_record.vecFaulty ) ) {
+        if ( !setRefused.contains( { finding.ullElement, finding.strAttribute } ) )
+            m_record.vecFindings.push_back( { std::move( finding ) } );
+    }
 }
 
 void Reading::settle( std::size_t in_uBegin ) {

@@ -22,6 +22,7 @@ struct SurveyRecord {
     const xmlNode* pRoot = nullptr;
     std::vector<SurveyedFinding> vecFindings; ///< in the order in which they came
     std::vector<const xmlNode*> vecLost;      ///< entries that were left out, and elements that nobody reads
+    std::vector<const xmlNode*> vecFaulty;    ///< entries that lack an attribute in the model
 };
 
 } // namespace Velquin::Pstn

@@ -71,7 +71,7 @@ ExitCode Check::run() {
     Progress progress( m_options.vecFiles.size(), !m_options.bQuiet );
     for ( const std::string& strFile : m_options.vecFiles ) {
         progress.begin( strFile );
-        const CheckedFile file = checkFile( strFile, m_options.request );
+        const CheckedFile file = checkFile( InputFile( strFile ), m_options.request );
         progress.clear();
         add( file );
         if ( !std::cout.flush() )
@@ -119,10 +119,10 @@ void Check::add( const CheckedFile& in_file ) {
 void validate( CheckOptions& inout_options ) {
     if ( inout_options.vecFiles.empty() && inout_options.strParameters.empty() )
         throw CLI::RequiredError( "FILE or --parameters" );
-    if ( std::count( inout_options.vecFiles.begin(), inout_options.vecFiles.end(), "-" ) > 1 )
+    if ( std::count( inout_options.vecFiles.begin(), inout_options.vecFiles.end(), InputFile::STANDARD_INPUT ) > 1 )
         throw CLI::ValidationError( "FILE", "standard input (-) can be read only once" );
     for ( const std::string& strRule : inout_options.vecDisabled ) {
-        const Velquin::Pstn::Rule* const pRule = findAnyRule( strRule );
+        const Velquin::Pstn::Rule* const pRule = Velquin::Pstn::findRule( strRule );
         if ( !pRule )
             throw CLI::ValidationError( "--disable", describeUnknownRule( strRule ) );
         if ( pRule->eSeverity == Velquin::Pstn::Severity::FAULT )
@@ -137,7 +137,7 @@ ExitCode check( CheckOptions& inout_options ) {
         return EXIT_VALID;
     }
     if ( !inout_options.strExplain.empty() ) {
-        const Velquin::Pstn::Rule* const pRule = findAnyRule( inout_options.strExplain );
+        const Velquin::Pstn::Rule* const pRule = Velquin::Pstn::findRule( inout_options.strExplain );
         if ( !pRule )
             throw CLI::ValidationError( "--explain", describeUnknownRule( inout_options.strExplain ) );
         explainRule( std::cout, *pRule, getTerminalWidth() );

@@ -3,13 +3,10 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
-#include <optional>
 #include <utility>
 
 #include <velquin/pstn/RuleNames.h>
 #include <velquin/pstn/survey/Survey.h>
-
-#include "StandardInput.h"
 
 using Velquin::Finding;
 using Velquin::Logger;
@@ -17,18 +14,6 @@ using Velquin::Pstn::Survey;
 namespace Rules = Velquin::Pstn::Rules;
 
 namespace {
-
-/// Gives standard input its name back.
-void renameInput( Finding& inout_finding, const std::string& in_strPath ) {
-    for ( std::string* const pText : { &inout_finding.strFile, &inout_finding.strMessage, &inout_finding.strText } ) {
-        for ( std::size_t u = pText->find( in_strPath ); u != std::string::npos; u = pText->find( in_strPath, u ) )
-            pText->replace( u, in_strPath.size(), StandardInput::NAME );
-    }
-    for ( Finding::Related& related : inout_finding.vecRelated ) {
-        if ( related.strFile == in_strPath )
-            related.strFile = StandardInput::NAME;
-    }
-}
 
 bool preventsCheck( const Finding& in_finding ) {
     return in_finding.strRule == Rules::UNREADABLE_FILE || in_finding.strRule == Rules::UNUSABLE_SCHEMA;
@@ -75,21 +60,17 @@ unsigned int CheckTotals::getFiles() const {
     return std::accumulate( std::begin( auFiles ), std::end( auFiles ), 0U );
 }
 
-CheckedFile checkFile( const std::string& in_strFile, const CheckRequest& in_request ) {
-    std::optional<StandardInput> input;
-    if ( in_strFile == "-" )
-        input.emplace();
-    const std::string& strPath = input ? input->getPath() : in_strFile;
-
+CheckedFile checkFile( const InputFile& in_input, const CheckRequest& in_request ) {
     // The model of the last file ends with the process: to release it object by object would take a tenth of the CPU
     // time.
     static Survey* s_pSurvey = nullptr;
     delete std::exchange( s_pSurvey, nullptr );
     s_pSurvey = new Survey();
-    const bool bLoads = s_pSurvey->run( strPath.c_str(), in_request.strSchema.c_str(), in_request.bLogContent );
+    const bool bLoads =
+        s_pSurvey->run( in_input.getPath().c_str(), in_request.strSchema.c_str(), in_request.bLogContent );
 
     CheckedFile file;
-    file.strFile = input ? StandardInput::NAME : in_strFile;
+    file.strFile = in_input.getName();
     file.getLine = [pSurvey = s_pSurvey]( unsigned long long in_ullLine ) { return pSurvey->getLine( in_ullLine ); };
     bool bChecked = true;
     for ( const Finding& finding : s_pSurvey->getFindings() ) {
@@ -97,8 +78,7 @@ CheckedFile checkFile( const std::string& in_strFile, const CheckRequest& in_req
         if ( !isWanted( finding, in_request ) )
             continue;
         file.add( finding );
-        if ( input )
-            renameInput( file.vecFindings.back(), strPath );
+        in_input.rename( file.vecFindings.back() );
     }
     file.eVerdict = bLoads      ? file.counts.uErrors > 0 ? Verdict::PARTIAL : Verdict::VALID
                     : !bChecked ? Verdict::UNCHECKED

@@ -8,6 +8,8 @@
 
 #include <velquin/Finding.h>
 
+#include "../InputFile.h"
+
 /// "error", "warning" or "note".
 const char* getSeverityName( const Velquin::Finding& in_finding );
 
@@ -70,6 +72,5 @@ struct CheckRequest {
     std::set<std::string> setDisabled{}; ///< rules whose warnings and notes nobody wants
 };
 
-/// Checks a file, or standard input if its name is "-". The verdict is that of XmlConfig::load.
-/// @throws std::runtime_error when standard input can't be read
-CheckedFile checkFile( const std::string& in_strFile, const CheckRequest& in_request );
+/// Checks a file. The verdict is that of XmlConfig::load.
+CheckedFile checkFile( const InputFile& in_input, const CheckRequest& in_request );

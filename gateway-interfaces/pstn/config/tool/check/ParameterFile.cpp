@@ -9,8 +9,6 @@
 #include <velquin/pstn/RuleNames.h>
 #include <velquin/pstn/Suggestion.h>
 
-#include "RuleHelp.h"
-
 using Velquin::Finding;
 using Velquin::Logger;
 
@@ -71,10 +69,10 @@ CheckedFile checkParameters( const std::string& in_strFile, const std::vector<st
             continue;
         // A required parameter is missing because its name is misspelt: that is one mistake.
         const bool bRequired = std::erase( vecMissing, strNearest ) > 0;
-        if ( !bRequired && in_request.setDisabled.contains( UNKNOWN_PARAMETER ) )
+        if ( !bRequired && in_request.setDisabled.contains( Velquin::Pstn::Rules::UNKNOWN_PARAMETER ) )
             continue;
         Finding finding;
-        finding.strRule = UNKNOWN_PARAMETER;
+        finding.strRule = Velquin::Pstn::Rules::UNKNOWN_PARAMETER;
         finding.nLevel = bRequired ? Logger::ERROR_LEVEL : Logger::WARNING_LEVEL;
         finding.strFile = in_strFile;
         finding.ullLine = u + 1;

@@ -2,18 +2,8 @@
 
 #include <ostream>
 #include <string>
-#include <vector>
 
 #include <velquin/pstn/survey/Rules.h>
-
-/// The rule for names in the gateway's parameter file, which only this program checks.
-inline constexpr const char* UNKNOWN_PARAMETER = "unknown-parameter";
-
-/// The rules of the library, and then that of this program.
-const std::vector<Velquin::Pstn::Rule>& getAllRules();
-
-/// The rule of that name; null for an unknown name.
-const Velquin::Pstn::Rule* findAnyRule( const std::string& in_strName );
 
 /// `unknown rule "x"`, and which one may be meant.
 std::string describeUnknownRule( const std::string& in_strName );

@@ -74,7 +74,7 @@ private:
         Json result = Json::object();
         if ( !in_finding.strRule.empty() )
             result["ruleId"] = in_finding.strRule;
-        if ( const Velquin::Pstn::Rule* const pRule = findAnyRule( in_finding.strRule ) )
+        if ( const Velquin::Pstn::Rule* const pRule = Velquin::Pstn::findRule( in_finding.strRule ) )
             result["ruleIndex"] = addRule( *pRule );
         result["level"] = getSeverityName( in_finding );
         result["message"] = { { "text", Velquin::describeFinding( in_finding ) } };

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "../Command.h"
+#include "../InputFile.h"
 #include "../LoadedConfig.h"
 #include "../Terminal.h"
 #include "MapRenderings.h"
@@ -32,7 +33,7 @@ ExitCode map( const MapOptions& in_options ) {
     if ( !pConfig )
         return eExitCode;
     const ChannelMap channelMap( *pConfig );
-    const std::string strHeading = std::filesystem::path( in_options.strFile ).filename().string();
+    const std::string strHeading = std::filesystem::path( InputFile::nameOf( in_options.strFile ) ).filename().string();
     std::ofstream file;
     if ( !in_options.strOutput.empty() )
         file.open( in_options.strOutput, std::ios::binary | std::ios::trunc );
@@ -40,10 +41,9 @@ ExitCode map( const MapOptions& in_options ) {
     stream << ( in_options.strOutput.empty() ? renderText( channelMap, strHeading, wantsColour( in_options.strColour ) )
                                              : getRenderer( in_options.strOutput )( channelMap, strHeading ) )
            << std::flush;
-    if ( stream )
+    if ( in_options.strOutput.empty() || stream ) // the program itself looks at standard output
         return EXIT_VALID;
-    std::cerr << "pstnconfig: can't write "
-              << ( in_options.strOutput.empty() ? "standard output" : in_options.strOutput ) << std::endl;
+    std::cerr << "pstnconfig: can't write " << in_options.strOutput << std::endl;
     return EXIT_NOT_CHECKED;
 }
 
@@ -54,7 +54,7 @@ void addMapCommand( Program& inout_program ) {
     pOptions->strSchema = inout_program.strDefaultSchema;
     CLI::App* const pMap =
         inout_program.app.add_subcommand( "map", "Shows which timeslot of which line belongs to which channel group" );
-    pMap->add_option( "FILE", pOptions->strFile, "Configuration file" )->required();
+    pMap->add_option( "FILE", pOptions->strFile, "Configuration file; - is standard input" )->required();
     pMap->add_option( "-o,--output", pOptions->strOutput,
                       "Write a picture (FILE.svg) or a page with search (FILE.html) instead of text" )
         ->type_name( "FILE" )

@@ -53,7 +53,7 @@ IsdnCommonConfig* IsdnCommonConfigXmlSerializer::read( TSHandle<CallControlConfi
     using Config = IsdnCommonConfig;
     Config& config = *pIsdnCommonConfig;
     const bool bRead =
-        reader.require( "ID", WHOLE_DECIMAL, config, &Config::setId ) &&
+        reader.requireKey( "ID", WHOLE_DECIMAL, config, &Config::setId ) &&
         reader.require( "termination", Keywords::TERMINATION, config, &Config::setTermination ) &&
         reader.require( "switchVariant", Keywords::SWITCH_VARIANT, config, &Config::setSwitchVariant ) &&
         reader.require( "BChannelNegotiation", Keywords::B_CHANNEL_NEGOTIATION, config,

@@ -45,10 +45,10 @@ IsdnNfasGroupMemberConfigXmlSerializer::read( TSHandle<CallControlConfig>& in_hC
     if ( !VELQUIN_ASSERT( in_pNfasConfig ) || !VELQUIN_ASSERT( !in_hCallControlConfig.isNull() ) )
         return {};
     TSHandle<IsdnNfasGroupMemberConfig> hGroupMember( new IsdnNfasGroupMemberConfig() );
-    if ( !reader.require( "nfasInterfaceID", NFAS_INTERFACE_ID, *hGroupMember,
-                          &IsdnNfasGroupMemberConfig::setNfasInterfaceID ) ||
-         !reader.require( "DChannelMode", Keywords::NFAS_D_CHANNEL_MODE, *hGroupMember,
-                          &IsdnNfasGroupMemberConfig::setDChannelMode ) )
+    if ( !reader.requireKey( "nfasInterfaceID", NFAS_INTERFACE_ID, *hGroupMember,
+                             &IsdnNfasGroupMemberConfig::setNfasInterfaceID ) ||
+         !reader.requireKey( "DChannelMode", Keywords::NFAS_D_CHANNEL_MODE, *hGroupMember,
+                             &IsdnNfasGroupMemberConfig::setDChannelMode ) )
         return {};
 
     const auto hInterface = readInterface( reader, in_xmlConfig, getLogger() );

@@ -1,4 +1,4 @@
-#include "StandardInput.h"
+#include "InputFile.h"
 
 #include <fstream>
 #include <iostream>
@@ -6,11 +6,17 @@
 #include <stdexcept>
 #include <system_error>
 
-#include "../Terminal.h"
+#include "Terminal.h"
 
 namespace fs = std::filesystem;
 
-StandardInput::StandardInput() {
+InputFile::InputFile( const std::string& in_strArgument )
+    : m_strPath( in_strArgument ), m_strName( nameOf( in_strArgument ) ) {
+    if ( in_strArgument == STANDARD_INPUT )
+        keepInput();
+}
+
+void InputFile::keepInput() {
     std::random_device random;
     do
         m_folder = fs::temp_directory_path() / ( "pstnconfig-" + std::to_string( random() ) );
@@ -35,7 +41,22 @@ StandardInput::StandardInput() {
     }
 }
 
-StandardInput::~StandardInput() {
+InputFile::~InputFile() {
+    if ( m_folder.empty() )
+        return;
     std::error_code ignored;
     fs::remove_all( m_folder, ignored );
+}
+
+void InputFile::rename( Velquin::Finding& inout_finding ) const {
+    if ( m_strPath == m_strName )
+        return;
+    for ( std::string* const pText : { &inout_finding.strFile, &inout_finding.strMessage, &inout_finding.strText } ) {
+        for ( std::size_t u = pText->find( m_strPath ); u != std::string::npos; u = pText->find( m_strPath, u ) )
+            pText->replace( u, m_strPath.size(), m_strName );
+    }
+    for ( Velquin::Finding::Related& related : inout_finding.vecRelated ) {
+        if ( related.strFile == m_strPath )
+            related.strFile = m_strName;
+    }
 }
