@@ -36,3 +36,11 @@ function(velquin_shared_library target)
     target_link_options(${target} PRIVATE -Wl,-z,defs -Wl,-Bsymbolic-functions)
   endif()
 endfunction()
+
+# What a program needs to run is in the component `libraries`, what it needs to be built in `development`.
+function(velquin_install_library target)
+  install(TARGETS ${target} EXPORT velquin
+          RUNTIME COMPONENT libraries
+          LIBRARY COMPONENT libraries NAMELINK_COMPONENT development
+          ARCHIVE COMPONENT development)
+endfunction()

@@ -42,7 +42,9 @@ void addDiffCommand( Program& inout_program ) {
         "diff", "Says what changes for the gateway from one file to another, whatever their order and layout" );
     pDiff->add_option( "OLD", pOptions->strOld, "Configuration file; - is standard input" )->required();
     pDiff->add_option( "NEW", pOptions->strNew, "Configuration file" )->required();
-    pDiff->add_option( "--format", pOptions->strFormat, "text, or json; docs/show-json.md says what is in it" )
+    pDiff
+        ->add_option( "--format", pOptions->strFormat,
+                      "text, or json; share/doc/pstnconfig/docs/show-json.md says what is in it" )
         ->type_name( "FORMAT" )
         ->transform( CLI::IsMember( { "text", "json" } ) );
     addSchemaOption( *pDiff, pOptions->strSchema );

@@ -47,8 +47,8 @@ void addShowCommand( Program& inout_program ) {
     CLI::App* const pShow = inout_program.app.add_subcommand(
         "show", "Loads a file as the gateway does and shows what it holds: boards, lines, call control" );
     pShow->add_option( "FILE", pOptions->strFile, "Configuration file; - is standard input" )->required();
-    CLI::Option* const pJson =
-        pShow->add_flag( "--json", pOptions->bJson, "Print everything as JSON; docs/show-json.md says how" );
+    CLI::Option* const pJson = pShow->add_flag(
+        "--json", pOptions->bJson, "Print everything as JSON; share/doc/pstnconfig/docs/show-json.md says how" );
     pShow->add_flag( "--memory", pOptions->bMemory, "Print the memory that each class of the model holds" )
         ->excludes( pJson );
     addSchemaOption( *pShow, pOptions->strSchema );

@@ -2,6 +2,8 @@
 #include <exception>
 #include <iostream>
 
+#include <velquin/pstn/document/LibXml2Version.h>
+
 #include "Command.h"
 #include "SchemaPath.h"
 #include "UsageError.h"
@@ -12,11 +14,18 @@ std::string describeUsageError( const std::string& in_strReason ) {
     return "pstnconfig: " + in_strReason + "\nRun with --help for more information.\n";
 }
 
+/// The text of --version. Which libxml2 reads the files matters as much as the program's own version.
+std::string describeVersions() {
+    const Velquin::Pstn::LibXml2Version libXml2 = Velquin::Pstn::getLibXml2Version();
+    return "pstnconfig " PSTNCONFIG_VERSION "\nlibxml2 " + libXml2.strRunning +
+           ( libXml2.strBuiltWith == libXml2.strRunning ? "" : " (built with " + libXml2.strBuiltWith + ')' );
+}
+
 int run( int in_nArguments, char** in_aszArguments ) {
     Program program;
     program.strDefaultSchema = getDefaultSchemaPath( in_aszArguments[0] );
     program.app.description( "Checks PSTN configuration files of the gateway, and shows what is in them." );
-    program.app.set_version_flag( "--version", PSTNCONFIG_VERSION );
+    program.app.set_version_flag( "--version", describeVersions() );
     program.app.require_subcommand( 1 );
     program.app.footer( "Exit code: 0 all files valid or the same, 1 a file invalid or different, 2 wrong usage, or a "
                         "file can't be read." );
