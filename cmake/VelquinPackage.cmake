@@ -33,8 +33,15 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/velquin-pstn-config.pc DESTINATION ${p
 # A component of its own: Debian has the licence in its own place.
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/licenses/velquin-pstn-config COMPONENT licences)
 
+if(VELQUIN_WINDOWS_PREFIX)
+  include(cmake/WindowsZip.cmake)
+endif()
+
 if(PROJECT_IS_TOP_LEVEL)
   set(CPACK_GENERATOR TGZ)
+  if(WIN32)
+    set(CPACK_GENERATOR ZIP)
+  endif()
   set(CPACK_PACKAGE_VENDOR "The Velquin Pstn authors")
   set(CPACK_PACKAGE_FILE_NAME velquin-pstn-config-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR})
   set(CPACK_RESOURCE_FILE_LICENSE ${CMAKE_CURRENT_SOURCE_DIR}/LICENSE)

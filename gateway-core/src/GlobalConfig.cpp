@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 #include <mutex>
+#include <string_view>
 #include <system_error>
 
 #include <log4cplus/fstreams.h>
@@ -71,11 +72,13 @@ void GlobalConfig::remove( const char* in_szName ) {
 bool GlobalConfig::loadFile( const char* in_szPath ) try {
     if ( !VELQUIN_ASSERT( in_szPath ) )
         return false;
+    const std::string_view strPath( in_szPath );
+    const std::filesystem::path path( std::u8string( strPath.begin(), strPath.end() ) ); // in UTF-8 on Windows, too
     // Properties takes a file that can't be read for an empty one.
     std::error_code error;
-    if ( !std::filesystem::is_regular_file( in_szPath, error ) )
+    if ( !std::filesystem::is_regular_file( path, error ) )
         return refuseFile( in_szPath, error ? error.message() : "it is not a file" );
-    log4cplus::tifstream file( in_szPath, std::ios::binary );
+    log4cplus::tifstream file( path, std::ios::binary );
     if ( !file )
         return refuseFile( in_szPath, "it can't be opened" );
     const log4cplus::helpers::Properties properties( file );

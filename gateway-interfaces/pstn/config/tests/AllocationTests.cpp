@@ -205,7 +205,7 @@ TEST( AllocationFailures, OfLibxml2EndAWriteWell ) {
 #define MEMORY_IS_THE_SANITIZERS // whose operator new can't be replaced
 #endif
 #endif
-#ifndef MEMORY_IS_THE_SANITIZERS
+#if !defined( MEMORY_IS_THE_SANITIZERS ) && !defined( _WIN32 ) // see cmake/not-on-windows.txt
 
 void* operator new( std::size_t in_uBytes, const std::nothrow_t& ) noexcept {
     return Velquin::Pstn::Test::isFailing( Velquin::Pstn::Test::Allocator::NEW )

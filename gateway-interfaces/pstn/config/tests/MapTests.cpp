@@ -38,7 +38,7 @@ TEST( Map, ShowsWhatEachTimeslotIsFor ) {
     const TemporaryFile file( getBusyDocument() );
     const ToolResult result = runTool( "map " + file.getPath() );
     EXPECT_EQ( result.nExitCode, 0 );
-    const std::string strName = file.getPath().substr( file.getPath().rfind( '/' ) + 1 );
+    const std::string strName = std::filesystem::path( file.getPath() ).filename().string();
     EXPECT_EQ( result.strOutput, strName + readFile( DATA_FOLDER + "/map.txt" ) );
     EXPECT_NE( runTool( "map --color always " + COMPLETE ).strOutput.find( "\x1b[30;48;5;74mA\x1b[0m" ),
                std::string::npos );
@@ -82,11 +82,6 @@ TEST( Map, SaysWhyThereIsNone ) {
     };
     expectUsage( " -o map.png", "pstnconfig: --output: map.png: the name must end in .svg or .html" );
     expectUsage( " -o /no/such/folder/map.svg", "pstnconfig: can't write /no/such/folder/map.svg" );
-    if ( FILE* const pFull = std::fopen( "/dev/full", "w" ) ) {
-        std::fclose( pFull );
-        EXPECT_EQ( std::system( ( PSTN_TEST_TOOL + ( " map " + COMPLETE ) + " >/dev/full 2>/dev/null" ).c_str() ) / 256,
-                   2 );
-    }
 }
 
 } // namespace Velquin::Pstn::Test

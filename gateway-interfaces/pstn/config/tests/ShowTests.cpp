@@ -81,9 +81,6 @@ TEST( Show, FitsATerminal ) {
 
 TEST( Show, FailsWithFindingsOrAMessage ) {
     const TemporaryFile wrong( TestDocument().edit( { "/fasConfig", "-ID" } ).getText() );
-    const std::string strFull =
-        std::string( PSTN_TEST_TOOL ) + " show " + COMPLETE + " 2>&1 >/dev/full | grep -q write";
-    EXPECT_EQ( std::system( strFull.c_str() ), 0 );
     EXPECT_EQ( runTool( "show /no/such/file" ).nExitCode, 2 );
     for ( const auto& [strCommand, nExitCode] :
           std::map<std::string, int>{ { "show ", 1 }, { "diff " + COMPLETE + " ", 2 } } ) {

@@ -1,6 +1,7 @@
 #include "ToolRun.h"
 
 #include <algorithm>
+#include <regex>
 
 // The program that operators run: how it exits, and what it says. More of what it says stands in transcripts.
 
@@ -10,7 +11,6 @@ namespace {
 
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::MatchesRegex;
 using testing::Not;
 using testing::StartsWith;
 
@@ -101,7 +101,7 @@ TEST( Tool, CutsLongLinesAroundTheMark ) {
     const TemporaryFile file( strText );
     const std::vector<std::string> vecLines = split( runTool( "check --source " + file.getPath() ).strOutput, "\n" );
     ASSERT_GE( vecLines.size(), 3U );
-    EXPECT_THAT( vecLines[1], MatchesRegex( "   42 [|] … +framing=\"crc4\" +…" ) );
+    EXPECT_TRUE( std::regex_match( vecLines[1], std::regex( "   42 [|] … +framing=\"crc4\" +…" ) ) ) << vecLines[1];
     EXPECT_EQ( vecLines[1].size(), 100 + 4 ); // each "…" has three bytes
     EXPECT_EQ( vecLines[2].find( "^~~~" ), vecLines[1].find( "crc4" ) - 2 );
 }
@@ -139,22 +139,24 @@ TEST( Tool, TakesTheGatewaysParameters ) {
                                       "marovane.pstn.config.log=1\n #x=1\n marovan.pstn.config.file=1",
                                       " " + EXAMPLE );
     EXPECT_EQ( unknown.nExitCode, 0 );
-    EXPECT_THAT( unknown.strOutput, MatchesRegex( "[^\n]*:4:1: warning: [^\n]*config.log[^\n]*\n"
-                                                  "[^\n]*:6:2: warning: [^\n]*did you mean[^\n]*\n"
-                                                  "[^\n]*: valid [(]2 warnings[)]\n[^\n]*: valid\n2 files: 2 valid "
-                                                  "[(]2 warnings[)]\n" ) );
+    EXPECT_TRUE( std::regex_match( unknown.strOutput,
+                                   std::regex( "[^\n]*:4:1: warning: [^\n]*config.log[^\n]*\n"
+                                               "[^\n]*:6:2: warning: [^\n]*did you mean[^\n]*\n"
+                                               "[^\n]*: valid [(]2 warnings[)]\n[^\n]*: valid\n2 files: 2 valid "
+                                               "[(]2 warnings[)]\n" ) ) )
+        << unknown.strOutput;
     const ToolResult unreadable = runTool( "check --parameters /no/such/file " + EXAMPLE );
     EXPECT_EQ( unreadable.nExitCode, 2 );
     EXPECT_EQ( unreadable.strErrors, "pstnconfig: can't read parameters file /no/such/file\n" );
 }
 
 TEST( Tool, SaysThatTheOutputCannotBeWritten ) {
-    for ( const std::string strArguments : { "check ", "check --format json ", "check --list-rules ", "--help " } ) {
+    for ( const std::string strArguments :
+          { "check ", "check --format json ", "check --list-rules ", "--help ", "show ", "map " } ) {
         const TemporaryFile errors( "" );
-        const std::string strCommand =
-            std::string( PSTN_TEST_TOOL ) + " " + strArguments + EXAMPLE + " >/dev/full 2>" + errors.getPath();
-        EXPECT_EQ( std::system( strCommand.c_str() ), 2 * 256 ) << strArguments;
-        EXPECT_EQ( readFile( errors.getPath() ), "pstnconfig: can't write the output\n" ) << strArguments;
+        const std::string strCommand = TOOL + " " + strArguments + EXAMPLE + " >/dev/full 2>" + errors.getPath();
+        EXPECT_EQ( runCommand( strCommand ), 2 * 256 ) << strArguments;
+        EXPECT_THAT( readFile( errors.getPath() ), StartsWith( "pstnconfig: can't write " ) ) << strArguments;
     }
 }
 

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "Terminal.h"
+#include "Utf8Path.h"
 
 namespace fs = std::filesystem;
 
@@ -23,8 +24,9 @@ void InputFile::keepInput() {
     while ( !fs::create_directory( m_folder ) );
     try {
         fs::permissions( m_folder, fs::perms::owner_all );
-        m_strPath = ( m_folder / "stdin.xml" ).string();
-        std::ofstream file( m_strPath, std::ios::binary );
+        const fs::path path = m_folder / "stdin.xml";
+        m_strPath = toUtf8( path );
+        std::ofstream file( path, std::ios::binary );
         setBinaryInput();
         char acPart[65536];
         while ( std::cin.read( acPart, sizeof( acPart ) ) || std::cin.gcount() > 0 )

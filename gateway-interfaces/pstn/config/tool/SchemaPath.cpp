@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "Utf8Path.h"
+
 #if defined( _WIN32 )
 #include <windows.h>
 #endif
@@ -16,7 +18,7 @@ fs::path getProgramPath( const char* in_szProgram ) {
 #if defined( _WIN32 )
     wchar_t szPath[32768];
     const DWORD uLength = GetModuleFileNameW( nullptr, szPath, 32768 );
-    return uLength > 0 ? fs::path( szPath ) : fs::path( in_szProgram );
+    return uLength > 0 ? fs::path( szPath ) : toPath( in_szProgram );
 #else
     std::error_code error;
     const fs::path path = fs::read_symlink( "/proc/self/exe", error );
@@ -28,5 +30,5 @@ fs::path getProgramPath( const char* in_szProgram ) {
 
 std::string getDefaultSchemaPath( const char* in_szProgram ) {
     const fs::path folder = getProgramPath( in_szProgram ).parent_path().parent_path();
-    return ( folder / "share" / "velquin-pstn-config" / "pstnConfig.rng" ).lexically_normal().string();
+    return toUtf8( ( folder / "share" / "velquin-pstn-config" / "pstnConfig.rng" ).lexically_normal() );
 }

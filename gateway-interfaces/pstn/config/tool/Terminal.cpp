@@ -69,6 +69,30 @@ unsigned int getTerminalWidth() {
     return USUAL_WIDTH;
 }
 
+Utf8Console::Utf8Console() {
+#if defined( _WIN32 )
+    m_uCodePage = GetConsoleOutputCP();
+    SetConsoleOutputCP( CP_UTF8 );
+    for ( const DWORD uOutput : OUTPUTS ) {
+        DWORD uMode = 0;
+        const HANDLE hOutput = GetStdHandle( uOutput );
+        if ( GetConsoleMode( hOutput, &uMode ) &&
+             SetConsoleMode( hOutput, uMode | ENABLE_VIRTUAL_TERMINAL_PROCESSING ) )
+            m_vecModes.emplace_back( hOutput, uMode );
+    }
+#endif
+}
+
+Utf8Console::~Utf8Console() {
+#if defined( _WIN32 )
+    std::fflush( stdout ); // what is written so far is UTF-8 with colours
+    for ( const auto& [hOutput, uMode] : m_vecModes )
+        SetConsoleMode( hOutput, uMode );
+    if ( m_uCodePage != 0 )
+        SetConsoleOutputCP( m_uCodePage );
+#endif
+}
+
 void setBinaryInput() {
 #if defined( _WIN32 )
     _setmode( _fileno( stdin ), _O_BINARY );

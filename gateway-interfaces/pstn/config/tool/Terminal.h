@@ -1,6 +1,8 @@
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
 /// What --color takes.
 inline constexpr const char* COLOUR_CHOICES[] = { "auto", "always", "never" };
@@ -14,6 +16,19 @@ bool isErrorTerminal();
 
 /// Characters on a line of the terminal that shows standard output or standard error; 100 when neither is one.
 unsigned int getTerminalWidth();
+
+/// While it lives, the console shows UTF-8 and colours. Does nothing where that needs no asking, or without console.
+class Utf8Console {
+public:
+    Utf8Console();
+    Utf8Console( const Utf8Console& ) = delete;
+    Utf8Console& operator=( const Utf8Console& ) = delete;
+    ~Utf8Console();
+
+private:
+    [[maybe_unused]] unsigned int m_uCodePage = 0;           ///< what it showed before
+    std::vector<std::pair<void*, unsigned long>> m_vecModes; ///< of its outputs, before
+};
 
 /// Lets standard input hand over its bytes as they are.
 void setBinaryInput();

@@ -5,7 +5,9 @@
 #include <velquin/pstn/document/LibXml2Version.h>
 
 #include "Command.h"
+#include "CommandLine.h"
 #include "SchemaPath.h"
+#include "Terminal.h"
 #include "UsageError.h"
 
 namespace {
@@ -21,9 +23,10 @@ std::string describeVersions() {
            ( libXml2.strBuiltWith == libXml2.strRunning ? "" : " (built with " + libXml2.strBuiltWith + ')' );
 }
 
-int run( int in_nArguments, char** in_aszArguments ) {
+int run( const std::vector<std::string>& in_vecCommandLine ) {
     Program program;
-    program.strDefaultSchema = getDefaultSchemaPath( in_aszArguments[0] );
+    program.strDefaultSchema = getDefaultSchemaPath( in_vecCommandLine.front().c_str() );
+    program.app.allow_windows_style_options( false ); // a path may begin with a slash
     program.app.description( "Checks PSTN configuration files of the gateway, and shows what is in them." );
     program.app.set_version_flag( "--version", describeVersions() );
     program.app.require_subcommand( 1 );
@@ -34,7 +37,11 @@ int run( int in_nArguments, char** in_aszArguments ) {
     addDiffCommand( program );
     addMapCommand( program );
 
-    if ( const std::string strUnknown = describeUnknownVerb( program.app, in_nArguments, in_aszArguments );
+    std::vector<const char*> vecArguments;
+    for ( const std::string& strWord : in_vecCommandLine )
+        vecArguments.push_back( strWord.c_str() );
+    const int nArguments = static_cast<int>( vecArguments.size() );
+    if ( const std::string strUnknown = describeUnknownVerb( program.app, nArguments, vecArguments.data() );
          !strUnknown.empty() ) {
         std::cerr << describeUsageError( strUnknown );
         return EXIT_NOT_CHECKED;
@@ -44,7 +51,7 @@ int run( int in_nArguments, char** in_aszArguments ) {
         return describeUsageError( strUnknown.empty() ? in_error.what() : strUnknown );
     } );
     try {
-        program.app.parse( in_nArguments, in_aszArguments );
+        program.app.parse( nArguments, vecArguments.data() );
     } catch ( const CLI::ParseError& error ) {
         program.eExitCode = program.app.exit( error ) == 0 ? EXIT_VALID : EXIT_NOT_CHECKED;
     }
@@ -69,7 +76,8 @@ int main( int argc, char** argv ) {
     static char s_aBuffer[BUFSIZ];
     std::setvbuf( stdout, s_aBuffer, _IOFBF, sizeof( s_aBuffer ) );
     try {
-        return run( argc, argv );
+        const Utf8Console console;
+        return run( getCommandLine( argc, argv ) );
     } catch ( const std::exception& error ) {
         std::cerr << "pstnconfig: " << error.what() << std::endl;
         return EXIT_NOT_CHECKED;

@@ -8,6 +8,7 @@
 #include <libxml/SAX2.h>
 
 #include "RuleNames.h"
+#include "document/CodePages.h"
 #include "document/DocumentBuilder.h"
 #include "document/Element.h"
 #include "document/InputFile.h"
@@ -260,6 +261,7 @@ XmlDocumentPtr readXmlDocument( const char* in_szPath, const Logger& in_logger )
         reportFile( state, Rules::UNREADABLE_FILE, 0, "Can't read, " + strWhy );
         return nullptr;
     }
+    registerCodePages();
     const XmlParserCtxtPtr pContext( xmlNewParserCtxt() );
     if ( !pContext )
         throw std::bad_alloc();

@@ -29,7 +29,7 @@ void appendNumberedLine( std::string& inout_strText, unsigned long long in_ullLi
 
 bool logContent( const char* in_szConfigFile, const Logger& in_logger ) {
     std::ifstream stream;
-    if ( !openInputFile( in_szConfigFile, stream, std::ios::in ).empty() ) {
+    if ( !openInputFile( in_szConfigFile, stream ).empty() ) {
         Finding finding;
         finding.eKind = Finding::Kind::UNREADABLE_FILE;
         finding.strRule = Rules::UNREADABLE_FILE;

@@ -2,7 +2,7 @@
 """Checks that all functions link which the installed headers declare.
 
 usage: check_functions.py COMPILER PREFIX FOLDER
-       COMPILER is g++, PREFIX where the library is installed, FOLDER where files may be written
+       COMPILER is g++, also one for Windows, PREFIX where the library is installed, FOLDER where files may be written
 
 One object includes all headers and keeps their inline functions. A second one names every other function that they
 declare, and the linker has to find each in the object or in the libraries. Functions of classes, nested and private
@@ -23,11 +23,11 @@ def run(*command, **arguments):
     return subprocess.run([str(word) for word in command], check=True, **arguments)
 
 
-def member_functions(file):
-    """Linkage names of what classes declare, as readelf prints it: a line for each entry and for each attribute."""
+def member_functions(objdump, file):
+    """Linkage names of what classes declare, as objdump prints it: a line for each entry and for each attribute."""
     names = set()
     entry, attributes = "", {}
-    text = run("readelf", "--debug-dump=info", "--wide", file, stdout=subprocess.PIPE, text=True).stdout
+    text = run(objdump, "--dwarf=info", "--wide", file, stdout=subprocess.PIPE, text=True).stdout
     for line in text.splitlines() + [" <0><0>: Abbrev Number: 0"]:
         if match := re.match(r" <\d+><[0-9a-f]+>: Abbrev Number: \d+(?: \(DW_TAG_(\w+)\))?", line):
             if entry == "subprogram" and not attributes.keys() & {"deleted", "defaulted", "artificial"}:
@@ -66,7 +66,8 @@ def main():
     (folder / "all.cpp").write_text("".join(f'#include "{header}"\n' for header in headers))
     run(compiler, "-std=c++20", "-g", "-gdwarf-5", "-fno-eliminate-unused-debug-types", "-femit-class-debug-always",
         "-fkeep-inline-functions", "-fdump-ada-spec", "-I", prefix / "include", "-c", "all.cpp", cwd=folder)
-    members, free = member_functions(folder / "all.o"), free_functions(folder)
+    objdump = run(compiler, "-print-prog-name=objdump", stdout=subprocess.PIPE, text=True).stdout.strip()
+    members, free = member_functions(objdump, folder / "all.o"), free_functions(folder)
     pure = pure_functions(headers)
     names = sorted(name for name in members | free if OURS.match(name))
     plain = run("c++filt", input="\n".join(names), stdout=subprocess.PIPE, text=True).stdout.splitlines()
@@ -77,10 +78,11 @@ def main():
     (folder / "names.cpp").write_text(
         'extern "C" {\n' + "".join(f"void {name}();\n" for name in names) + "}\n"
         "void ( *g_aFunctions[] )() = { " + ", ".join(names) + " };\nint main() {}\n")
-    libraries = next(prefix.glob("lib*/**/libvelquin-core.so")).parent
+    libraries = next(file for ending in ("so", "dll.a") for file in prefix.glob(f"lib*/**/libvelquin-core.{ending}")).parent
     run(compiler, "-w", "names.cpp", "all.o", "-L", libraries, f"-Wl,-rpath,{libraries}", "-lvelquin-pstn-config",
         "-lvelquin-core", "-o", "functions", cwd=folder)
-    run(folder / "functions")
+    if (folder / "functions").exists():  # not functions.exe, which needs its DLLs
+        run(folder / "functions")
     print(f"{len(names)} functions of {len(headers)} headers link")
 
 

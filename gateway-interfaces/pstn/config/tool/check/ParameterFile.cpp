@@ -9,6 +9,8 @@
 #include <velquin/pstn/RuleNames.h>
 #include <velquin/pstn/Suggestion.h>
 
+#include "../Utf8Path.h"
+
 using Velquin::Finding;
 using Velquin::Logger;
 
@@ -50,7 +52,7 @@ bool isSet( const std::string& in_strName ) {
 CheckedFile checkParameters( const std::string& in_strFile, const std::vector<std::string>& in_vecRequired,
                              const CheckRequest& in_request ) {
     std::vector<std::string> vecLines;
-    std::ifstream stream( in_strFile );
+    std::ifstream stream( toPath( in_strFile ) );
     for ( std::string strLine; std::getline( stream, strLine ); )
         vecLines.push_back( strLine );
     std::vector<std::string> vecMissing = in_vecRequired;

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <map>
 
+#include "../Utf8Path.h"
 #include "../description/ModelDescription.h"
 #include "Report.h"
 #include "RuleHelp.h"
@@ -14,8 +15,8 @@ namespace {
 
 /// A path as a URI: characters that a URI hasn't stand as %20.
 std::string toUri( const std::string& in_strPath ) {
-    const std::filesystem::path path( in_strPath );
-    const std::string strPath = path.generic_string();
+    const std::filesystem::path path = toPath( in_strPath );
+    const std::string strPath = toUtf8( path.generic_u8string() );
     std::string strUri = !path.is_absolute() ? "" : strPath.starts_with( '/' ) ? "file://" : "file:///";
     for ( const char c : strPath ) {
         const auto byte = static_cast<unsigned char>( c );

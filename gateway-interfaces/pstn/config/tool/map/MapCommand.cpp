@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -8,6 +7,7 @@
 #include "../InputFile.h"
 #include "../LoadedConfig.h"
 #include "../Terminal.h"
+#include "../Utf8Path.h"
 #include "MapRenderings.h"
 
 namespace {
@@ -23,7 +23,7 @@ using Renderer = std::string ( * )( const ChannelMap&, const std::string& );
 
 /// The renderer for a file of that name; null if there is none.
 Renderer getRenderer( const std::string& in_strOutput ) {
-    const std::string strEnding = std::filesystem::path( in_strOutput ).extension().string();
+    const std::string strEnding = toUtf8( toPath( in_strOutput ).extension() );
     return strEnding == ".svg" ? renderSvg : strEnding == ".html" ? renderHtml : nullptr;
 }
 
@@ -33,10 +33,10 @@ ExitCode map( const MapOptions& in_options ) {
     if ( !pConfig )
         return eExitCode;
     const ChannelMap channelMap( *pConfig );
-    const std::string strHeading = std::filesystem::path( InputFile::nameOf( in_options.strFile ) ).filename().string();
+    const std::string strHeading = toUtf8( toPath( InputFile::nameOf( in_options.strFile ) ).filename() );
     std::ofstream file;
     if ( !in_options.strOutput.empty() )
-        file.open( in_options.strOutput, std::ios::binary | std::ios::trunc );
+        file.open( toPath( in_options.strOutput ), std::ios::binary | std::ios::trunc );
     std::ostream& stream = in_options.strOutput.empty() ? std::cout : file;
     stream << ( in_options.strOutput.empty() ? renderText( channelMap, strHeading, wantsColour( in_options.strColour ) )
                                              : getRenderer( in_options.strOutput )( channelMap, strHeading ) )

@@ -1,0 +1,7 @@
+# What the zip holds beside the installation: everything that the programs need to run, what a program needs to set up the
+# log, and the licences of all of it.
+install(DIRECTORY ${VELQUIN_WINDOWS_PREFIX}/bin/ DESTINATION bin COMPONENT libraries FILES_MATCHING PATTERN *.dll)
+install(DIRECTORY ${VELQUIN_WINDOWS_PREFIX}/include/log4cplus DESTINATION include COMPONENT development)
+install(FILES ${VELQUIN_WINDOWS_PREFIX}/lib/liblog4cplus.dll.a DESTINATION lib COMPONENT development)
+install(FILES ${VELQUIN_WINDOWS_PREFIX}/lib/pkgconfig/log4cplus.pc DESTINATION lib/pkgconfig COMPONENT development)
+install(DIRECTORY ${VELQUIN_WINDOWS_PREFIX}/licences/ DESTINATION share/licenses COMPONENT licences)
