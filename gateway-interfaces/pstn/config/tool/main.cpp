@@ -38,6 +38,7 @@ int run( const std::vector<std::string>& in_vecCommandLine ) {
     addMapCommand( program );
 
     std::vector<const char*> vecArguments;
+    vecArguments.reserve( in_vecCommandLine.size() );
     for ( const std::string& strWord : in_vecCommandLine )
         vecArguments.push_back( strWord.c_str() );
     const int nArguments = static_cast<int>( vecArguments.size() );
