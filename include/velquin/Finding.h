@@ -51,7 +51,7 @@ struct Finding {
     std::string strAttribute;          ///< attribute or child element concerned; see Kind
     std::string strValue;              ///< its value as written
     std::string strHint;               ///< what would be right; often empty
-    std::string strMessage;            ///< the text without file and line; empty where the text has neither
+    std::string strMessage;            ///< what is wrong, without file and line; empty where the text has neither
     std::string strText;               ///< the whole log line
     unsigned long long ullElement = 0; ///< number of the element in its file, in the order of start tags, from 1
     SourceSpan span{};      ///< of the attribute or of the element's name; all 0 unless a survey looked for it

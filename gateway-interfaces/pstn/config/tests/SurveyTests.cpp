@@ -171,6 +171,32 @@ TEST( Survey, TellsLinesAndColumnsInFilesOfAnyEncoding ) {
     EXPECT_EQ( find( strUtf16 ), vecExpected );
 }
 
+// The parser stops behind some of these mistakes, at times lines later; other columns are libxml2's.
+TEST( Survey, SaysWhatMakesAFileIllFormedAndWhere ) {
+    for ( const auto& [strText, strPlace, strWords] : std::vector<std::tuple<std::string, std::string, std::string>>{
+              { "<a>\n<b c='A & B'/></a>", "2", "write &amp;" },
+              { "<a>\n<b c='&d;'/></a>", "2", "there is no entity &d;" },
+              { "<a>\n<b c=\"1\"\n\n<d e='2'/></a>", "2:8", "end the tag with >" },
+              { "<a>\n<b c='1/>\n<d e='2'/></a>", "2:6", "no closing quote" },
+              { "<a>\n<b c='1\"/>\n<d/></a>", "2:6", "no closing quote" },
+              { "<a>\n<b c=1/></a>", "2", "must begin with a quote" },
+              { "<a>\n<b c='1'd='2'/></a>", "2", "a blank" },
+              { "<a>\n<b c='1' c='2'/></a>", "2", "attribute c stands twice" },
+              { "<a>\n<b:c/></a>", "2", "the prefix b" },
+              { "<a>\n<!-- b\n<c/>\n<!-- d -->\n</a>", "2:1", "the comment has no end" },
+              { "<a>\n<b>\n</a>", "3", "write </b>" },
+              { "<a>\n</a>\n<b/>", "3", "the file's only element" },
+              { "", "1", "the file is empty" } } ) {
+        SCOPED_TRACE( strText );
+        const SurveyResult result = survey( strText );
+        expectOne( result, strPlace.substr( 0, strPlace.find( ':' ) ), "ill-formed", strWords );
+        const Finding& finding = result.vecMistakes[0];
+        EXPECT_THAT( std::to_string( finding.span.ullLine ) + ":" + std::to_string( finding.span.ullColumn ),
+                     testing::StartsWith( strPlace ) );
+        EXPECT_EQ( finding.vecRelated.size(), strWords == "write </b>" ? 1U : 0U );
+    }
+}
+
 TEST( Survey, StopsCountingWhereTheParserGivesUp ) {
     const SurveyResult result = survey( "<pstnConfig>\n<boards a='1' b=>\n</pstnConfig" );
     expectOne( result, "2", "ill-formed", "" );

@@ -11,6 +11,7 @@
 #include "RuleNames.h"
 #include "document/Element.h"
 #include "document/LibXml2.h"
+#include "document/SyntaxFaults.h"
 
 namespace Velquin::Pstn {
 
@@ -131,13 +132,16 @@ void appendElement( std::vector<xmlNode*>& inout_vecElements, xmlNode* in_pEleme
         inout_vecElements.push_back( in_pElement );
 }
 
+/// The log line: message, file and line.
+std::string getTextInFile( const Finding& in_finding ) {
+    const std::string strLine = in_finding.ullLine == 0 ? "" : " at line " + std::to_string( in_finding.ullLine );
+    return in_finding.strMessage + " in file " + in_finding.strFile + strLine + '.';
+}
+
 } // namespace
 
 void reportInFile( const Logger& in_logger, Finding in_finding ) {
-    in_finding.strText = in_finding.strMessage + " in file " + in_finding.strFile;
-    if ( in_finding.ullLine != 0 )
-        in_finding.strText += " at line " + std::to_string( in_finding.ullLine );
-    in_finding.strText += '.';
+    in_finding.strText = getTextInFile( in_finding );
     reportFinding( in_logger, std::move( in_finding ), __FILE__, __LINE__ );
 }
 
@@ -160,14 +164,18 @@ void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError&
         if ( const char* const szFile = getElementFile( pNode ); *szFile != '\0' )
             finding.strFile = szFile;
     }
-    if ( in_error.domain == XML_FROM_PARSER && in_error.int2 > 0 ) {
+    if ( ( in_error.domain == XML_FROM_PARSER || in_error.domain == XML_FROM_NAMESPACE ) && in_error.int2 > 0 ) {
         const auto ullColumn = static_cast<unsigned long long>( in_error.int2 );
         finding.span = { finding.ullLine, ullColumn, ullColumn };
     }
-    const bool bLast = ++inout_uErrors > MAX_ERRORS;
-    finding.nLevel = bLast ? Logger::ERROR_LEVEL : in_nLevel;
-    finding.strMessage = bLast ? "Too many errors, this one and the rest are not listed" : getMessage( in_error );
-    reportInFile( in_logger, std::move( finding ) );
+    finding.nLevel = in_nLevel;
+    finding.strMessage = ++inout_uErrors <= MAX_ERRORS      ? getMessage( in_error )
+                         : in_nLevel == Logger::ERROR_LEVEL ? "Too many errors, this one and the rest are not listed"
+                                                            : "Too many warnings, this one and the rest are not listed";
+    finding.strText = getTextInFile( finding );
+    if ( finding.strRule == Rules::ILL_FORMED )
+        explainSyntaxFault( in_error, finding );
+    reportFinding( in_logger, std::move( finding ), __FILE__, __LINE__ );
 }
 
 LibXml2ErrorRoute::LibXml2ErrorRoute( const Logger& in_logger, std::string in_strFile )

@@ -20,7 +20,7 @@ void reportInFile( const Logger& in_logger, Finding in_finding );
 /// Reports an error of libxml2. The log line has the message, the file and the line. Only the first hundred errors are
 /// reported.
 /// @param in_szFile the file that is meant when the error names none
-/// @param inout_uErrors number of errors before this one, 0 at first
+/// @param inout_uErrors number of errors of that level before this one, 0 at first
 void reportLibXml2Error( const Logger& in_logger, int in_nLevel, const xmlError& in_error, const char* in_szFile,
                          unsigned int& inout_uErrors );
 

@@ -77,9 +77,7 @@ void SourceText::locate( std::vector<Place> in_vecPlaces ) const {
     unsigned long long ullElement = 0;
     for ( std::size_t u = m_strText.find( '<' ); u < m_strText.size() && pPlace != pEnd;
           u = m_strText.find( '<', u ) ) {
-        const bool bMarkup =
-            u + 1 < m_strText.size() && std::string_view( "!?/" ).find( m_strText[u + 1] ) != std::string_view::npos;
-        if ( bMarkup ) {
+        if ( isMarkup( u ) ) {
             u = skipMarkup( u );
             continue;
         }
@@ -89,6 +87,42 @@ void SourceText::locate( std::vector<Place> in_vecPlaces ) const {
             ++pPlace;
         u = locateTag( u, pFirst, pPlace );
     }
+}
+
+SourceSpan SourceText::findUnfinished( Unfinished in_eWhat, unsigned long long in_ullLastLine ) const {
+    const std::size_t uEnd = in_ullLastLine < m_vecLines.size() ? m_vecLines[in_ullLastLine] : m_strText.size();
+    for ( std::size_t uBegin = m_strText.find( '<' ); uBegin < uEnd; uBegin = m_strText.find( '<', uBegin ) ) {
+        if ( in_eWhat == Unfinished::COMMENT && m_strText.compare( uBegin, 4, "<!--" ) == 0 ) {
+            const std::size_t uHyphens = m_strText.find( "--", uBegin + 4 );
+            if ( uHyphens == std::string::npos || m_strText.compare( uHyphens, 3, "-->" ) != 0 )
+                return getSpan( uBegin, uBegin + 4 );
+        }
+        if ( isMarkup( uBegin ) ) {
+            uBegin = skipMarkup( uBegin );
+            continue;
+        }
+        std::size_t u = m_strText.find_first_of( "<>\"'", uBegin + 1 );
+        for ( ; u < m_strText.size() && ( m_strText[u] == '"' || m_strText[u] == '\'' );
+              u = m_strText.find_first_of( "<>\"'", u + 1 ) ) {
+            const char szEnds[] = { m_strText[u], '<', '\0' };
+            const std::size_t uClose = std::min( m_strText.find_first_of( szEnds, u + 1 ), m_strText.size() );
+            if ( uClose == m_strText.size() || m_strText[uClose] == '<' )
+                return in_eWhat == Unfinished::VALUE ? getSpan( u, uClose ) : SourceSpan{};
+            u = uClose;
+        }
+        u = std::min( u, m_strText.size() );
+        if ( in_eWhat == Unfinished::START_TAG && ( u == m_strText.size() || m_strText[u] == '<' ) ) {
+            const std::size_t uLast = m_strText.find_last_not_of( BLANKS, u - 1 );
+            return getSpan( uLast, uLast + 1 );
+        }
+        uBegin = u;
+    }
+    return {};
+}
+
+bool SourceText::isMarkup( std::size_t in_uBegin ) const {
+    const std::string_view strRest = std::string_view( m_strText ).substr( in_uBegin + 1 );
+    return !strRest.empty() && std::string_view( "!?/" ).find( strRest[0] ) != std::string_view::npos;
 }
 
 /// @return where the search for the next tag goes on

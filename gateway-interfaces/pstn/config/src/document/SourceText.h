@@ -7,6 +7,7 @@
 #include <velquin/Finding.h>
 
 #include "document/LibXml2.h"
+#include "document/SyntaxFaults.h"
 
 namespace Velquin::Pstn {
 
@@ -29,10 +30,15 @@ public:
     /// attribute gets the span of its element.
     void locate( std::vector<Place> in_vecPlaces ) const;
 
+    /// Where something unfinished begins, at the latest on that line. Of a start tag it is the last character, behind
+    /// which its end is missing. All 0 when nothing is unfinished.
+    SourceSpan findUnfinished( Unfinished in_eWhat, unsigned long long in_ullLastLine ) const;
+
     /// A line without its end; empty when there is no such line.
     std::string_view getLine( unsigned long long in_ullLine ) const noexcept;
 
 private:
+    bool isMarkup( std::size_t in_uBegin ) const;
     SourceSpan getSpan( std::size_t in_uBegin, std::size_t in_uEnd ) const;
     std::size_t locateTag( std::size_t in_uBegin, const Place* in_pFirst, const Place* in_pEnd ) const;
     std::size_t skipBlanks( std::size_t in_uFrom ) const;

@@ -37,6 +37,7 @@ struct ParseState {
     int nNamespaces = 0;              ///< their sum
     std::uint32_t uElements = 0;      ///< start tags so far
     unsigned int uErrors = 0;
+    unsigned int uWarnings = 0;
     bool bRefused = false; // the reason is reported
     bool bEnded = false;   // we ended the parse: libxml2's further errors are no faults of the file
 
@@ -101,8 +102,9 @@ void onError( void* in_pContext, XmlErrorPtr in_pError ) {
         const bool bError = in_pError->level >= XML_ERR_ERROR || in_pError->code == XML_WAR_UNDECLARED_ENTITY;
         // When a prefix has no namespace, or memory ends, libxml2 hands out what it has and calls it well-formed.
         inout_state.bRefused = inout_state.bRefused || bError;
-        const int nLevel = bError ? Logger::ERROR_LEVEL : Logger::WARNING_LEVEL;
-        reportLibXml2Error( inout_state.logger, nLevel, *in_pError, inout_state.szPath, inout_state.uErrors );
+        // Warnings have a count of their own: however many there are, the error behind them is listed.
+        reportLibXml2Error( inout_state.logger, bError ? Logger::ERROR_LEVEL : Logger::WARNING_LEVEL, *in_pError,
+                            inout_state.szPath, bError ? inout_state.uErrors : inout_state.uWarnings );
     } );
 }
 

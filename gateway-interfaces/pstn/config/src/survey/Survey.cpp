@@ -169,6 +169,7 @@ public:
 
 private:
     void locate( const std::string& in_strFile );
+    void locateUnfinished( const std::string& in_strFile );
     void sort( const std::string& in_strFile );
 };
 
@@ -193,6 +194,8 @@ bool Survey::Impl::run( const char* in_szConfigFile, const char* in_szSchemaFile
     m_text.read( in_szConfigFile, reading.getEncoding() );
     if ( record.pRoot )
         locate( in_szConfigFile );
+    else
+        locateUnfinished( in_szConfigFile );
     sort( in_szConfigFile );
     return bLoads;
 }
@@ -210,6 +213,18 @@ void Survey::Impl::locate( const std::string& in_strFile ) {
             vecPlaces.push_back( { related.ullElement, related.strAttribute, &related.span, nullptr } );
     }
     m_text.locate( std::move( vecPlaces ) );
+}
+
+/// Of an ill-formed file: the parser stops at what follows, but the mistake is where a tag, a value or a comment has no
+/// end.
+void Survey::Impl::locateUnfinished( const std::string& in_strFile ) {
+    for ( Finding& finding : m_vecFindings ) {
+        const Unfinished eWhat = finding.bEcho ? Unfinished::NOTHING : getUnfinished( finding.strText );
+        if ( eWhat == Unfinished::NOTHING || finding.strFile != in_strFile )
+            continue;
+        if ( const SourceSpan span = m_text.findUnfinished( eWhat, finding.ullLine ); span.ullLine != 0 )
+            finding.span = span;
+    }
 }
 
 void Survey::Impl::sort( const std::string& in_strFile ) {
