@@ -17,6 +17,7 @@ namespace Velquin::Pstn {
 namespace {
 
 constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
+constexpr std::size_t MAX_LISTED_VALUES = 12; // of a longer list, only the nearest helps
 
 template <class TMap>
 std::vector<std::string> getNames( const TMap& in_map ) {
@@ -65,8 +66,8 @@ std::string getHintOfData( const xmlNode* in_pData, const char* in_szValue ) {
         xmlSchemaGetPredefinedType( toXml( strType.c_str() ), toXml( "http://www.w3.org/2001/XMLSchema" ) );
     if ( xmlSchemaValidatePredefinedType( pType, toXml( in_szValue ), nullptr ) > 0 )
         return describeDataType( strType );
-    for ( const xmlNode* const pParameter : ChildElements( in_pData, "param" ) ) {
-        if ( getPatternAttribute( pParameter, "name" ) != "pattern" )
+    for ( const xmlNode* const pParameter : ChildPatterns( in_pData ) ) {
+        if ( !isPattern( pParameter, "param" ) || getPatternAttribute( pParameter, "name" ) != "pattern" )
             continue;
         const std::string strPattern = getContent( pParameter );
         if ( !matches( in_szValue, strPattern ) )
@@ -94,9 +95,10 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
         AttributeText text;
         if ( !findAttribute( m_pElement, strName.c_str(), text ) ) {
             if ( rule.bRequired )
-                vecFaults.push_back( { strName, Rules::MISSING_ATTRIBUTE, {}, getAdvice( rule ) } );
+                vecFaults.push_back( { strName, Rules::MISSING_ATTRIBUTE, {}, getAdvice( rule, "" ) } );
         } else if ( std::string strHint = getHint( rule, text.c_str() ); !strHint.empty() ) {
-            vecFaults.push_back( { strName, Rules::INVALID_VALUE, std::move( strHint ), getAdvice( rule ) } );
+            vecFaults.push_back(
+                { strName, Rules::INVALID_VALUE, std::move( strHint ), getAdvice( rule, text.view() ) } );
         }
     }
     // A file full of attributes gets no line for each of them.
@@ -129,12 +131,14 @@ std::string AttributeRules::getHint( const Rule& in_rule, const char* in_szValue
     return strHint.empty() ? describeValues( vecValues ) : strHint;
 }
 
-/// What the rule takes, in the words for people; empty where any text is right or no words are known.
-std::string AttributeRules::getAdvice( const Rule& in_rule ) {
+/// What the rule takes instead of the value, in the words for people; empty where any text is right or no words are
+/// known.
+std::string AttributeRules::getAdvice( const Rule& in_rule, std::string_view in_strValue ) {
     if ( in_rule.bAnyValue )
         return {};
     if ( in_rule.vecData.empty() )
-        return describeValues( in_rule.vecValues );
+        return in_rule.vecValues.size() <= MAX_LISTED_VALUES ? describeValues( in_rule.vecValues )
+                                                             : describeNames( in_strValue, in_rule.vecValues );
     const std::string strType = getPatternAttribute( in_rule.vecData.front(), "type" );
     return strType == "unsignedInt"    ? describeNumbers<unsigned int>()
            : strType == "unsignedLong" ? describeNumbers<unsigned long long>()
@@ -143,7 +147,7 @@ std::string AttributeRules::getAdvice( const Rule& in_rule ) {
 
 /// Collects the attributes that stand directly in the content of a pattern.
 void AttributeRules::collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules ) {
-    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
+    for ( const xmlNode* const pChild : ChildPatterns( in_pPattern ) )
         collectFrom( pChild, in_bRequired, out_rules );
 }
 
@@ -189,7 +193,7 @@ bool AttributeRules::haveAll( const std::vector<RulesByName>& in_vecRules, const
 /// count for that. An attribute is required if all alternatives that the element means require it.
 void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired, RulesByName& out_rules ) {
     std::vector<RulesByName> vecAlternatives;
-    for ( const xmlNode* const pAlternative : ChildElements( in_pChoice ) )
+    for ( const xmlNode* const pAlternative : ChildPatterns( in_pChoice ) )
         collectFrom( pAlternative, true, vecAlternatives.emplace_back() );
     std::vector<RulesByName> vecMeant;
     std::ptrdiff_t nMost = 0;
@@ -220,7 +224,7 @@ void AttributeRules::collectValues( const xmlNode* in_pPattern, Rule& out_rule )
     const SchemaPatterns::Step step( m_patterns );
     if ( m_patterns.isLost() )
         return;
-    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
+    for ( const xmlNode* const pChild : ChildPatterns( in_pPattern ) ) {
         if ( isPattern( pChild, "value" ) ) {
             const XmlStringPtr pValue( xmlNodeGetContent( pChild ) );
             merge( out_rule.vecValues, { fromXml( pValue.get() ) } );

@@ -42,7 +42,7 @@ private:
     static bool haveAll( const std::vector<RulesByName>& in_vecRules, const std::string& in_strAttribute,
                          bool ( Rule::*in_has )() const noexcept );
     static std::string getHint( const Rule& in_rule, const char* in_szValue );
-    static std::string getAdvice( const Rule& in_rule );
+    static std::string getAdvice( const Rule& in_rule, std::string_view in_strValue );
     bool agrees( const std::string& in_strAttribute, const Rule& in_rule ) const;
     void collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules );
     void collectFrom( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules );

@@ -2,10 +2,7 @@
 
 #include <algorithm>
 
-#include <velquin/XML.h>
-
 #include "document/Element.h"
-#include "reading/ChildElements.h"
 
 namespace Velquin::Pstn {
 
@@ -15,7 +12,28 @@ namespace {
 constexpr unsigned int MAX_STEPS = 20'000;
 constexpr unsigned int MAX_DEPTH = 500;
 
+constexpr std::string_view RELAX_NG = "http://relaxng.org/ns/structure/1.0";
+
+/// Whether a pattern holds what this file doesn't follow: names that are no attributes, grammars in grammars, and
+/// definitions that are alternatives. With half of the schema, a right file would look wrong.
+bool isBeyond( const xmlNode* in_pPattern ) {
+    for ( const xmlNode* const pChild : ChildPatterns( in_pPattern ) ) {
+        const bool bNamed = isPattern( pChild, "element" ) || isPattern( pChild, "attribute" );
+        if ( ( bNamed && getPatternAttribute( pChild, "name" ).empty() ) || isPattern( pChild, "div" ) ||
+             isPattern( pChild, "grammar" ) || getPatternAttribute( pChild, "combine" ) == "choice" ||
+             isBeyond( pChild ) )
+            return true;
+    }
+    return false;
+}
+
 } // namespace
+
+xmlNode* ChildPatterns::Iterator::skipAnnotations( xmlNode* in_pElement ) {
+    while ( in_pElement && !isOfNamespace( in_pElement, RELAX_NG ) )
+        in_pElement = XML::findNextElement( in_pElement );
+    return in_pElement;
+}
 
 std::string getPatternAttribute( const xmlNode* in_pPattern, const char* in_szName ) {
     AttributeText text;
@@ -23,12 +41,14 @@ std::string getPatternAttribute( const xmlNode* in_pPattern, const char* in_szNa
     return text.c_str();
 }
 
-bool isPattern( const xmlNode* in_pNode, std::string_view in_strName ) {
-    return in_strName == getElementName( in_pNode );
+bool isPattern( const xmlNode* in_pPattern, std::string_view in_strName ) {
+    return in_strName == getElementName( in_pPattern );
 }
 
 SchemaPatterns::SchemaPatterns( const xmlDoc* in_pSchema ) {
-    for ( const xmlNode* const pChild : ChildElements( xmlDocGetRootElement( in_pSchema ) ) ) {
+    const xmlNode* const pGrammar = xmlDocGetRootElement( in_pSchema );
+    m_bLost = isBeyond( pGrammar );
+    for ( const xmlNode* const pChild : ChildPatterns( pGrammar ) ) {
         if ( isPattern( pChild, "define" ) )
             m_mapDefinitions[getPatternAttribute( pChild, "name" )].push_back( pChild );
         else if ( isPattern( pChild, "start" ) )
@@ -55,7 +75,7 @@ std::vector<std::string> SchemaPatterns::findMissingChildren( const xmlNode* in_
 /// The names of the children that the content of a pattern requires and the element lacks.
 std::vector<std::string> SchemaPatterns::findMissingAmong( const xmlNode* in_pPattern, const xmlNode* in_pElement ) {
     std::vector<std::string> vecMissing;
-    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) )
+    for ( const xmlNode* const pChild : ChildPatterns( in_pPattern ) )
         merge( vecMissing, findMissing( pChild, in_pElement ) );
     return vecMissing;
 }
@@ -67,14 +87,14 @@ std::vector<std::string> SchemaPatterns::findMissing( const xmlNode* in_pPattern
         return {};
     if ( isPattern( in_pPattern, "element" ) ) {
         const std::string strName = getPatternAttribute( in_pPattern, "name" );
-        if ( strName.empty() || XML::findFirstElement( in_pElement, strName.c_str() ) )
+        if ( XML::findFirstElement( in_pElement, strName.c_str() ) )
             return {};
         return { strName };
     }
     if ( isPattern( in_pPattern, "choice" ) ) {
         // The alternatives that lack least count. Several orders of the same elements count as one.
         std::vector<std::vector<std::string>> vecLeast;
-        for ( const xmlNode* const pAlternative : ChildElements( in_pPattern ) ) {
+        for ( const xmlNode* const pAlternative : ChildPatterns( in_pPattern ) ) {
             std::vector<std::string> vecMissing = findMissing( pAlternative, in_pElement );
             if ( vecMissing.empty() )
                 return {};
@@ -133,7 +153,7 @@ void SchemaPatterns::collectElements( const xmlNode* in_pPattern, std::string_vi
     const Step step( *this );
     if ( m_bLost || !inout_setSeen.insert( in_pPattern ).second )
         return;
-    for ( const xmlNode* const pChild : ChildElements( in_pPattern ) ) {
+    for ( const xmlNode* const pChild : ChildPatterns( in_pPattern ) ) {
         if ( isPattern( pChild, "element" ) ) {
             if ( in_strName.empty() || getPatternAttribute( pChild, "name" ) == in_strName )
                 out_vecPatterns.push_back( pChild );

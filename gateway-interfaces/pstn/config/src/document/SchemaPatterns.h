@@ -10,7 +10,37 @@
 
 #include <libxml/tree.h>
 
+#include <velquin/XML.h>
+
 namespace Velquin::Pstn {
+
+/// The patterns that stand directly in a pattern, for a range-based for. Elements of other namespaces are annotations.
+class ChildPatterns {
+public:
+    class Iterator {
+    public:
+        explicit Iterator( xmlNode* in_pElement ) : m_pPattern( skipAnnotations( in_pElement ) ) {}
+        xmlNode* operator*() const noexcept { return m_pPattern; }
+        Iterator& operator++() {
+            m_pPattern = skipAnnotations( XML::findNextElement( m_pPattern ) );
+            return *this;
+        }
+        bool operator==( const Iterator& in_other ) const noexcept { return m_pPattern == in_other.m_pPattern; }
+
+    private:
+        static xmlNode* skipAnnotations( xmlNode* in_pElement );
+
+        xmlNode* m_pPattern;
+    };
+
+    explicit ChildPatterns( const xmlNode* in_pPattern ) noexcept : m_pPattern( in_pPattern ) {}
+
+    Iterator begin() const { return Iterator( XML::findFirstElement( m_pPattern ) ); }
+    Iterator end() const { return Iterator( nullptr ); }
+
+private:
+    const xmlNode* m_pPattern;
+};
 
 /// Finds the patterns of a RELAX NG schema, in the XML syntax, that describe the elements of a document.
 class SchemaPatterns {
@@ -35,8 +65,8 @@ public:
 
     /// Starts to count steps for another element.
     void beginElement() noexcept { m_uSteps = 0; }
-    /// Whether the schema is too tangled to follow: it refers to itself, or too often to one definition. What was found
-    /// is then only a part.
+    /// Whether the schema can't be followed: it refers to itself, or too often to one definition, or it has patterns
+    /// that this class doesn't know. What was found is then only a part.
     bool isLost() const noexcept { return m_bLost; }
 
     /// The `element` patterns of an element. The search starts at the root.
@@ -68,7 +98,7 @@ private:
 
 /// The attribute of a pattern; empty when it has none of that name.
 std::string getPatternAttribute( const xmlNode* in_pPattern, const char* in_szName );
-bool isPattern( const xmlNode* in_pNode, std::string_view in_strName );
+bool isPattern( const xmlNode* in_pPattern, std::string_view in_strName );
 
 /// Appends the items that aren't there yet.
 template <class T>

@@ -9,7 +9,6 @@
 #include "document/LibXml2Errors.h"
 #include "document/SchemaAdvisor.h"
 #include "document/XmlDocumentReader.h"
-#include "reading/ChildElements.h"
 #include "reading/ElementReader.h"
 #include "reading/EntryListener.h"
 
@@ -17,18 +16,15 @@ namespace Velquin::Pstn {
 
 namespace {
 
-constexpr std::string_view RELAX_NG = "http://relaxng.org/ns/structure/1.0";
-
 /// Whether a schema includes other files: a load doesn't read them.
 bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
-    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
-        const std::string_view strName = getElementName( pChild );
-        if ( isOfNamespace( pChild, RELAX_NG ) && ( strName == "include" || strName == "externalRef" ) ) {
+    for ( xmlNode* const pChild : ChildPatterns( in_pElement ) ) {
+        if ( isPattern( pChild, "include" ) || isPattern( pChild, "externalRef" ) ) {
             const ReaderWording wording{ "", "" };
             const ElementReader reader( pChild, in_logger, wording );
             Finding finding;
             finding.strRule = Rules::UNUSABLE_SCHEMA;
-            reader.reportDeclared( "The schema must stand in one file: element " + std::string( strName ), ".",
+            reader.reportDeclared( "The schema must stand in one file: element " + std::string( reader.getName() ), ".",
                                    std::move( finding ) );
             return true;
         }
