@@ -117,7 +117,7 @@ bool readOutboundSide( const ElementReader& in_reader, OutboundConfig& out_confi
     using Supervision = OutboundConfig::ConnectSupervision;
     AttributeText condition;
     if ( !in_reader.requireText( "condition", condition ) )
-        return false;
+        return AttributeReader::passOver();
     const Supervision* const pSupervision = Keywords::FXO_CONNECT_SUPERVISION.find( condition.view() );
     // If both condition and timeout are wrong, the log reports the timeout.
     if ( ( !pSupervision || *pSupervision != Supervision::AFTER_DIALING_DESTINATION_NUMBER ) &&

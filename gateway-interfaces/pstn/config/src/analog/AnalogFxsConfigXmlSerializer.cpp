@@ -52,12 +52,12 @@ bool readInbound( const ElementReader& in_reader, InboundConfig& out_config ) {
     xmlNode* const pRelay = XML::findFirstElement( in_reader.getElement(), "relayEarlyMedia" );
     if ( !pRelay ) {
         // The log reports the missing element under the name of its attribute.
-        in_reader.reportMissing( "value" );
-        return false;
+        in_reader.reportMissingChild( "relayEarlyMedia", "value" );
+        return AttributeReader::passOver();
     }
     AttributeText relay;
     if ( !ElementReader( pRelay, in_reader.getLogger(), FXS_WORDING ).requireText( "value", relay ) )
-        return false;
+        return AttributeReader::passOver();
     const bool* const pbRelay = Keywords::ENABLED_DISABLED.find( relay.view() );
     out_config.enableRelayEarlyMedia( !pbRelay || *pbRelay );
     return true;
@@ -74,7 +74,7 @@ bool readHotline( const ElementReader& in_reader, HotlineConfig& out_config ) {
 bool readNotification( const ElementReader& in_reader, NotificationConfig& out_config ) {
     AttributeText mode;
     if ( !in_reader.requireText( "mode", mode ) )
-        return false;
+        return AttributeReader::passOver();
     const NotificationConfig::Mode* const pMode = Keywords::FXS_NOTIFICATION_MODE.find( mode.view() );
     out_config.setMode( pMode ? *pMode : NotificationConfig::Mode::NONE );
     return out_config.getMode() != NotificationConfig::Mode::CURRENT_DISCONNECT ||

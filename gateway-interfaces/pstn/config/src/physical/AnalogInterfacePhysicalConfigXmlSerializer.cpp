@@ -39,10 +39,10 @@ bool AnalogInterfacePhysicalConfigXmlSerializer::readAnalog( xmlNode* in_pAnalog
     const ElementReader reader( in_pAnalog, getLogger(), PHYSICAL_SETTING_WORDING );
     AttributeText variant;
     if ( !reader.requireText( "variant", variant ) )
-        return false;
+        return AttributeReader::passOver();
     const Country::Type eVariant = CountryMap::getInstance().getType( variant.c_str() );
     if ( !VELQUIN_ASSERT( eVariant != Country::INVALID ) )
-        return false;
+        return AttributeReader::passOver();
     out_config.setVariantType( eVariant );
     return true;
 }

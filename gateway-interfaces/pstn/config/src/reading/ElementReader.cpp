@@ -84,19 +84,20 @@ void AttributeReader::reportMissing( const char* in_szAttribute, std::string in_
     finding.strRule = Rules::MISSING_ATTRIBUTE;
     finding.strAttribute = in_szAttribute;
     finding.strHint = std::move( in_strAdvice );
-    reportMissing( std::move( finding ) );
+    reportMissing( std::move( finding ), in_szAttribute );
 }
 
-void AttributeReader::reportMissingChild( std::string_view in_strName ) const {
+void AttributeReader::reportMissingChild( std::string_view in_strName, const char* in_szReportedName ) const {
     Finding finding;
     finding.eKind = Finding::Kind::MISSING_ELEMENT;
     finding.strRule = Rules::MISSING_ELEMENT;
     finding.strAttribute = in_strName;
-    reportMissing( std::move( finding ) );
+    const std::string strName = in_szReportedName ? in_szReportedName : finding.strAttribute;
+    reportMissing( std::move( finding ), strName.c_str() );
 }
 
-void AttributeReader::reportMissing( Finding in_finding ) const {
-    const std::string strMiddle = in_finding.strAttribute + std::string( m_pWording->strMissingNoun );
+void AttributeReader::reportMissing( Finding in_finding, const char* in_szReportedName ) const {
+    const std::string strMiddle = in_szReportedName + std::string( m_pWording->strMissingNoun );
     report( std::move( in_finding ), m_pWording->strMissingLead, strMiddle, m_pWording->strMissingTail );
 }
 

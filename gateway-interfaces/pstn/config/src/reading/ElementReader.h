@@ -116,13 +116,14 @@ public:
                passOver();
     }
 
-    /// Reads a required attribute into a variable.
+    /// Reads a required attribute into a variable. A reader that can do without it asks passOver().
     template <class TRule, class T>
     bool require( const char* in_szAttribute, const TRule& in_rule, T& out_value ) const {
         AttributeText text;
         return requireText( in_szAttribute, text ) && take( text, in_szAttribute, in_rule, out_value );
     }
 
+    /// Hands out the text of a required attribute. A reader that can do without it asks passOver().
     bool requireText( const char* in_szAttribute, AttributeText& out_text ) const;
 
     /// Whether the attribute is there. Reports nothing.
@@ -185,7 +186,8 @@ public:
     /// @param in_strAdvice what would be right, for people
     void reportMissing( const char* in_szAttribute, std::string in_strAdvice = {} ) const;
     /// Reports that a required child element is missing; `in_strName` may name alternatives.
-    void reportMissingChild( std::string_view in_strName ) const;
+    /// @param in_szReportedName what the log line calls it; null for its name
+    void reportMissingChild( std::string_view in_strName, const char* in_szReportedName = nullptr ) const;
     /// Reports that the value is refused.
     void reportInvalid( const char* in_szAttribute, std::string_view in_strValue, std::string_view in_strHint = {},
                         const char* in_szRule = Rules::INVALID_VALUE ) const {
@@ -210,7 +212,7 @@ public:
     void reportDeclared( std::string_view in_strSubject, std::string_view in_strTail, Finding in_finding = {} ) const;
 
 private:
-    void reportMissing( Finding in_finding ) const;
+    void reportMissing( Finding in_finding, const char* in_szReportedName ) const;
     void report( Finding in_finding, std::string_view in_strLead, std::string_view in_strMiddle,
                  std::string_view in_strTail ) const;
     void assertKeyword( const char* in_szAttribute, std::string_view in_strValue,

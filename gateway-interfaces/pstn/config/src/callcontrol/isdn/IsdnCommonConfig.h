@@ -71,7 +71,7 @@ public:
     void setFacilityDelayMs( unsigned int in_uDelayMs ) noexcept { m_uFacilityDelayMs = in_uDelayMs; }
 
 private:
-    // Values for absent optional attributes
+    // Until the reader sets them
     unsigned int m_uId = 0;
     TerminationType m_eTermination = TerminationType::TERMINAL;
     SwitchVariantType m_eSwitchVariant = SwitchVariantType::ETSI;

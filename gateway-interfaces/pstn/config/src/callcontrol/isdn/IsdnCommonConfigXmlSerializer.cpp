@@ -36,7 +36,7 @@ bool readCallerName( const ElementReader& in_reader, IsdnCommonConfig& out_confi
         return true;
     if ( !in_reader.has( "waitFacilityDelayMs" ) ) {
         in_reader.reportInvalid( "waitFacilityDelayMs", "" );
-        return false;
+        return AttributeReader::passOver();
     }
     return in_reader.require( "waitFacilityDelayMs", DELAY, out_config, &IsdnCommonConfig::setFacilityDelayMs );
 }

@@ -34,8 +34,8 @@ private:
     void indexMembers();
 
     Members m_members;
-    // An index of the first members' identifiers, and the number of changes that it includes. Without it, the cost of
-    // adding members would grow with the square of their number.
+    // The identifiers of the members indexed so far. They hold until the identifier of any member changes. Without this
+    // index, the cost of adding members would grow with the square of their number.
     HashMapVector<unsigned long long, LimitedObjPtr<const IsdnNfasGroupMemberConfig>> m_membersByNfasInterfaceID;
     std::size_t m_uIndexedMembers = 0;
     unsigned long long m_ullIndexedIdChanges = 0;

@@ -64,7 +64,7 @@ AudioConfig* AudioConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConf
         return nullptr;
 
     auto ePcmLaw = Media::Format::UNKNOWN;
-    if ( !reader.require( "defaultPcmLaw", bySchema( Keywords::PCM_LAW ), ePcmLaw ) )
+    if ( !reader.require( "defaultPcmLaw", bySchema( Keywords::PCM_LAW ), ePcmLaw ) && !AttributeReader::passOver() )
         return nullptr;
     Media::Format mediaFormat;
     mediaFormat.initFrom( ePcmLaw );
