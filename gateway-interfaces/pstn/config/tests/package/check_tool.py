@@ -21,6 +21,9 @@ examples = sorted((prefix / "share/doc/pstnconfig/examples").glob("*.xml"))
 if [file.name for file in examples] != sorted(file.name for file in (sources / "examples").glob("*.xml")):
     faults.append(f"examples: {examples}")
 run("check", *examples)
+for file in examples:
+    schema = re.search(r'<\?xml-model href="(.*?)"', file.read_text(encoding="utf-8"))[1]
+    faults += [] if (file.parent / schema).exists() else [f"{file.name} names the schema {schema}"]
 
 help_text = "".join(run(*verb, "--help") for verb in ([], ["check"], ["show"], ["diff"], ["map"]))
 named = re.findall(r"share/[\w/.-]*\w", " ".join(help_text.split()))
