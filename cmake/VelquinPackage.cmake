@@ -17,8 +17,8 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/velquin-pstn-config-config.cmake
 install(EXPORT velquin NAMESPACE velquin:: FILE velquin-pstn-config-targets.cmake
         DESTINATION ${package_folder} COMPONENT development)
 
-# pkg-config finds the prefix from the place of its file, so that the tree may be moved. Not so in /usr: a path by way of
-# that place, for instance the schema's, would end where the development files aren't installed.
+# pkg-config finds the prefix from the place of its file, so that the tree may be moved. In /usr the prefix is fixed: a
+# path through .../pkgconfig/.. , for instance the schema's, doesn't exist on machines without the development package.
 set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 set(pkgconfig_prefix /usr)
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL pkgconfig_prefix)
