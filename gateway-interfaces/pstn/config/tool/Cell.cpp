@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
+
+#include <fmt/format.h>
 
 namespace {
 
@@ -14,16 +17,20 @@ struct CodePoints {
 constexpr CodePoints ACTING[] = { { 0x00, 0x1F },     { 0x7F, 0x9F },     { 0x061C, 0x061C }, { 0x200E, 0x200F },
                                   { 0x2028, 0x202E }, { 0x2066, 0x2069 }, { 0xFFF9, 0xFFFB } };
 
-/// Marks that stand on the character before them, and what shows nothing.
+/// What looks like a blank and is none, or like nothing.
+constexpr CodePoints HIDDEN[] = { { 0x00A0, 0x00A0 }, { 0x00AD, 0x00AD }, { 0x2000, 0x200B },
+                                  { 0x202F, 0x202F }, { 0x205F, 0x2064 }, { 0xFEFF, 0xFEFF } };
+
+/// Marks that stand on the character before them, and what joins or shapes characters.
 constexpr CodePoints NARROW[] = {
-    { 0x0300, 0x036F }, { 0x0483, 0x0489 }, { 0x0591, 0x05BD },   { 0x0610, 0x061A },  { 0x064B, 0x065F },
-    { 0x06D6, 0x06DC }, { 0x06DF, 0x06E4 }, { 0x0730, 0x074A },   { 0x07A6, 0x07B0 },  { 0x07EB, 0x07F3 },
-    { 0x0816, 0x0819 }, { 0x0898, 0x089F }, { 0x08CA, 0x0902 },   { 0x093C, 0x093C },  { 0x0941, 0x0948 },
-    { 0x094D, 0x094D }, { 0x0951, 0x0957 }, { 0x0E31, 0x0E31 },   { 0x0E34, 0x0E3A },  { 0x0E47, 0x0E4E },
-    { 0x0EB1, 0x0EB1 }, { 0x0EB4, 0x0EBC }, { 0x0F71, 0x0F7E },   { 0x0F80, 0x0F84 },  { 0x135D, 0x135F },
-    { 0x17B7, 0x17BD }, { 0x17C9, 0x17D3 }, { 0x1AB0, 0x1ACE },   { 0x1DC0, 0x1DFF },  { 0x200B, 0x200D },
-    { 0x2060, 0x2064 }, { 0x20D0, 0x20F0 }, { 0x302A, 0x302D },   { 0x3099, 0x309A },  { 0xFE00, 0xFE0F },
-    { 0xFE20, 0xFE2F }, { 0xFEFF, 0xFEFF }, { 0x1F3FB, 0x1F3FF }, { 0xE0100, 0xE01EF } };
+    { 0x0300, 0x036F },   { 0x0483, 0x0489 },  { 0x0591, 0x05BD }, { 0x0610, 0x061A }, { 0x064B, 0x065F },
+    { 0x06D6, 0x06DC },   { 0x06DF, 0x06E4 },  { 0x0730, 0x074A }, { 0x07A6, 0x07B0 }, { 0x07EB, 0x07F3 },
+    { 0x0816, 0x0819 },   { 0x0898, 0x089F },  { 0x08CA, 0x0902 }, { 0x093C, 0x093C }, { 0x0941, 0x0948 },
+    { 0x094D, 0x094D },   { 0x0951, 0x0957 },  { 0x0E31, 0x0E31 }, { 0x0E34, 0x0E3A }, { 0x0E47, 0x0E4E },
+    { 0x0EB1, 0x0EB1 },   { 0x0EB4, 0x0EBC },  { 0x0F71, 0x0F7E }, { 0x0F80, 0x0F84 }, { 0x135D, 0x135F },
+    { 0x17B7, 0x17BD },   { 0x17C9, 0x17D3 },  { 0x1AB0, 0x1ACE }, { 0x1DC0, 0x1DFF }, { 0x200C, 0x200D },
+    { 0x20D0, 0x20F0 },   { 0x302A, 0x302D },  { 0x3099, 0x309A }, { 0xFE00, 0xFE0F }, { 0xFE20, 0xFE2F },
+    { 0x1F3FB, 0x1F3FF }, { 0xE0100, 0xE01EF } };
 
 /// Ideographs, syllables and pictures of two columns.
 constexpr CodePoints WIDE[] = {
@@ -42,7 +49,7 @@ constexpr bool isAscending( const CodePoints ( &in_table )[uSize] ) {
     return std::is_sorted( std::begin( in_table ), std::end( in_table ),
                            []( const CodePoints& in_x, const CodePoints& in_y ) { return in_x.cLast < in_y.cFirst; } );
 }
-static_assert( isAscending( ACTING ) && isAscending( NARROW ) && isAscending( WIDE ) );
+static_assert( isAscending( ACTING ) && isAscending( HIDDEN ) && isAscending( NARROW ) && isAscending( WIDE ) );
 
 template <std::size_t uSize>
 bool contains( const CodePoints ( &in_table )[uSize], char32_t in_c ) {
@@ -73,7 +80,12 @@ Cell getFirstCell( std::string_view in_strText ) {
         c = ( c << 6U ) | ( static_cast<unsigned char>( cFollowing ) & 0x3FU );
     if ( contains( ACTING, c ) )
         return { uLength, "?", 1 };
-    return { uLength, strCharacter, contains( NARROW, c ) ? 0U : contains( WIDE, c ) ? 2U : 1U };
+    if ( contains( HIDDEN, c ) ) {
+        std::string strName = fmt::format( "<U+{:04X}>", static_cast<unsigned int>( c ) );
+        const auto uWidth = static_cast<unsigned int>( strName.size() );
+        return { uLength, std::move( strName ), uWidth };
+    }
+    return { uLength, std::string( strCharacter ), contains( NARROW, c ) ? 0U : contains( WIDE, c ) ? 2U : 1U };
 }
 
 Cell getLastCell( std::string_view in_strText ) {

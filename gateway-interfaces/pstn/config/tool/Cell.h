@@ -1,13 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 /// A character of a UTF-8 text as a terminal shows it.
 struct Cell {
-    std::size_t uBytes;        ///< in the text; 1 for a byte that is no UTF-8
-    std::string_view strShown; ///< four blanks for a tab; a question mark for what a terminal would obey
-    unsigned int uWidth;       ///< columns: 0 for a mark above another character, 2 for an ideograph, 4 for a tab
+    std::size_t uBytes;   ///< in the text; 1 for a byte that is no UTF-8
+    std::string strShown; ///< four blanks for a tab, a question mark for what a terminal would obey, <U+00A0> for what
+                          ///< nobody would see or tell from a blank
+    unsigned int uWidth;  ///< columns: 0 for a mark above another character, 2 for an ideograph, 4 for a tab
 };
 
 /// The first character of a text that isn't empty.

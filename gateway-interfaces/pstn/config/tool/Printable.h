@@ -4,7 +4,8 @@
 #include <string_view>
 
 /// The UTF-8 text with a question mark for each character that a terminal or browser obeys instead of showing it:
-/// controls, line separators, and marks that turn the direction of writing. A tab becomes blanks.
+/// controls, line separators, and marks that turn the direction of writing. A tab becomes blanks. What nobody would
+/// see, or tell from a blank, is named: <U+00A0>.
 std::string printable( std::string_view in_strText );
 
 /// A printable text as content or attribute value of XML and HTML.
