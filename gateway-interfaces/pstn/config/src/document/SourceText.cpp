@@ -23,6 +23,8 @@ std::string toUtf8( std::string in_strText, const char* in_szEncoding ) {
     if ( bLittleEndian || in_strText.starts_with( "\xFE\xFF" ) ) {
         in_strText.erase( 0, 2 );
         in_szEncoding = bLittleEndian ? "UTF-16LE" : "UTF-16BE";
+    } else if ( in_strText.starts_with( std::string_view( "\0<\0?", 4 ) ) ) {
+        in_szEncoding = "UTF-16BE"; // what it declares doesn't say in which order the bytes stand
     }
     if ( !in_szEncoding || xmlParseCharEncoding( in_szEncoding ) == XML_CHAR_ENCODING_UTF8 )
         return in_strText;
