@@ -35,7 +35,7 @@ public:
     bool findInterfaceId() { return m_reader.findText( "interfaceID", m_interfaceId ); }
 
     /// Finds the named interface on the board. Call it only after findInterfaceId() was true.
-    /// @param in_bNameBoard whether the hint about an unknown interface ends with the board's identifier
+    /// @param in_bNameBoard whether the log line about an unknown interface ends with the board's identifier
     bool readInterface( bool in_bNameBoard = true ) {
         unsigned int uInterfaceId = 0;
         if ( !m_reader.take( m_interfaceId, "interfaceID", m_rule, uInterfaceId ) )
@@ -45,7 +45,10 @@ public:
             std::string strHint = "Make sure to provide a valid interface ID whithin the context of boardID=";
             if ( in_bNameBoard )
                 strHint += std::to_string( m_hBoard->getId() );
-            m_reader.reportInvalid( "interfaceID", m_interfaceId.view(), strHint, Rules::UNKNOWN_INTERFACE );
+            m_reader.reportInvalid(
+                { "interfaceID", nullptr, m_interfaceId.view(), Rules::UNKNOWN_INTERFACE,
+                  "there is no interface on board " + std::to_string( m_hBoard->getId() ) + " with this ID" },
+                strHint );
             return false;
         }
         m_vecInterfaces.push_back( std::move( hInterface ) );
