@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <new>
+#include <string_view>
 #include <utility>
 
 namespace Velquin {
@@ -36,13 +37,23 @@ std::string quote( const std::string& in_strText ) {
     return "\"" + in_strText + "\"";
 }
 
+/// The name, or alternatives, in quotes: `"a" or "b"`.
+std::string quoteNames( std::string in_strNames ) {
+    constexpr std::string_view OR = " or ";
+    constexpr std::string_view QUOTED_OR = "\" or \"";
+    for ( std::size_t u = in_strNames.find( OR ); u != std::string::npos;
+          u = in_strNames.find( OR, u + QUOTED_OR.size() ) )
+        in_strNames.replace( u, OR.size(), QUOTED_OR );
+    return quote( in_strNames );
+}
+
 /// What is wrong, without what would be right.
 std::string describeFault( const Finding& in_finding ) {
     switch ( in_finding.eKind ) {
     case Finding::Kind::MISSING_ATTRIBUTE:
         return "missing attribute " + quote( in_finding.strAttribute );
     case Finding::Kind::MISSING_ELEMENT:
-        return "missing element " + quote( in_finding.strAttribute );
+        return "missing element " + quoteNames( in_finding.strAttribute );
     case Finding::Kind::INVALID_VALUE:
         return in_finding.strAttribute + "=" + quote( in_finding.strValue );
     case Finding::Kind::UNKNOWN_ATTRIBUTE:
