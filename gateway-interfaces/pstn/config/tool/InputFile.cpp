@@ -1,5 +1,6 @@
 #include "InputFile.h"
 
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <random>
@@ -31,7 +32,7 @@ void InputFile::keepInput() {
         char acPart[65536];
         while ( std::cin.read( acPart, sizeof( acPart ) ) || std::cin.gcount() > 0 )
             file.write( acPart, std::cin.gcount() );
-        if ( std::cin.bad() )
+        if ( std::cin.bad() || std::ferror( stdin ) != 0 ) // std::cin takes a failure for the end
             throw std::runtime_error( "can't read standard input" );
         file.close();
         if ( !file )

@@ -1,7 +1,6 @@
 #include "LoadedConfig.h"
 
 #include <iostream>
-#include <utility>
 
 #include "ToolLog.h"
 #include "check/TextReport.h"
@@ -10,28 +9,20 @@ std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strF
                                                       ExitCode& out_eExitCode ) {
     setUpLog( "OFF" );
     const InputFile input( in_strFile );
-    CheckedFile loaded;
-    loaded.strFile = input.getName();
     auto pConfig = std::make_unique<Velquin::Pstn::XmlConfig>();
+    bool bFindings = false;
     bool bLoads = false;
     {
-        const Velquin::FindingWatch watch( [&]( Velquin::Finding in_finding ) {
-            input.rename( in_finding );
-            loaded.add( std::move( in_finding ) );
-        } );
+        const Velquin::FindingWatch watch( [&bFindings]( const Velquin::Finding& ) { bFindings = true; } );
         bLoads = pConfig->load( input.getPath().c_str(), in_strSchema.c_str(), false );
     }
-    if ( loaded.vecFindings.empty() )
+    if ( bLoads && !bFindings )
         return pConfig;
-    TextReport report( std::cerr );
-    if ( bLoads ) {
-        loaded.eVerdict = loaded.counts.uErrors > 0 ? Verdict::PARTIAL : Verdict::VALID;
-        report.add( loaded );
-        return pConfig;
-    }
-    // A load ends at the first fault. A check tells them all.
+    // A load ends at the first fault, and says little of it. A check tells all.
     const CheckedFile checked = checkFile( input, { in_strSchema } );
-    report.add( checked );
+    TextReport( std::cerr ).add( checked );
+    if ( bLoads )
+        return pConfig;
     out_eExitCode = checked.eVerdict == Verdict::UNCHECKED ? EXIT_NOT_CHECKED : EXIT_INVALID;
     return nullptr;
 }

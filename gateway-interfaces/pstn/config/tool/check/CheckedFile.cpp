@@ -1,12 +1,17 @@
 #include "CheckedFile.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
+#include <memory>
 #include <numeric>
+#include <system_error>
 #include <utility>
 
 #include <velquin/pstn/RuleNames.h>
 #include <velquin/pstn/survey/Survey.h>
+
+#include "../Utf8Path.h"
 
 using Velquin::Finding;
 using Velquin::Logger;
@@ -15,8 +20,16 @@ namespace Rules = Velquin::Pstn::Rules;
 
 namespace {
 
-bool preventsCheck( const Finding& in_finding ) {
-    return in_finding.strRule == Rules::UNREADABLE_FILE || in_finding.strRule == Rules::UNUSABLE_SCHEMA;
+/// Whether nothing is known of the file after this finding: one of the two can't be read, or the schema is none.
+bool preventsCheck( const Finding& in_finding, const CheckRequest& in_request ) {
+    return in_finding.strRule == Rules::UNREADABLE_FILE || in_finding.strRule == Rules::UNUSABLE_SCHEMA ||
+           ( in_finding.strFile == in_request.strSchema && in_finding.nLevel >= Logger::ERROR_LEVEL );
+}
+
+/// Whether a pipe or a device stands there, which the library doesn't open.
+bool isStream( const std::string& in_strPath ) {
+    std::error_code ignored;
+    return std::filesystem::is_other( toPath( in_strPath ), ignored );
 }
 
 bool isWanted( const Finding& in_finding, const CheckRequest& in_request ) {
@@ -61,24 +74,24 @@ unsigned int CheckTotals::getFiles() const {
 }
 
 CheckedFile checkFile( const InputFile& in_input, const CheckRequest& in_request ) {
-    // The model of the last file ends with the process: to release it object by object would take a tenth of the CPU
-    // time.
-    static Survey* s_pSurvey = nullptr;
-    delete std::exchange( s_pSurvey, nullptr );
-    s_pSurvey = new Survey();
+    const auto pSurvey = std::make_shared<Survey>();
     const bool bLoads =
-        s_pSurvey->run( in_input.getPath().c_str(), in_request.strSchema.c_str(), in_request.bLogContent );
+        pSurvey->run( in_input.getPath().c_str(), in_request.strSchema.c_str(), in_request.bLogContent );
 
     CheckedFile file;
     file.strFile = in_input.getName();
-    file.getLine = [pSurvey = s_pSurvey]( unsigned long long in_ullLine ) { return pSurvey->getLine( in_ullLine ); };
+    file.getLine = [pSurvey]( unsigned long long in_ullLine ) { return pSurvey->getLine( in_ullLine ); };
     bool bChecked = true;
-    for ( const Finding& finding : s_pSurvey->getFindings() ) {
-        bChecked = bChecked && !preventsCheck( finding );
+    for ( const Finding& finding : pSurvey->getFindings() ) {
+        bChecked = bChecked && !preventsCheck( finding, in_request );
         if ( !isWanted( finding, in_request ) )
             continue;
         file.add( finding );
-        in_input.rename( file.vecFindings.back() );
+        Finding& added = file.vecFindings.back();
+        if ( added.strRule == Rules::UNREADABLE_FILE && added.strFile == in_input.getPath() &&
+             isStream( added.strFile ) )
+            added.strHint = "hand it over as standard input, named -";
+        in_input.rename( added );
     }
     file.eVerdict = bLoads      ? file.counts.uErrors > 0 ? Verdict::PARTIAL : Verdict::VALID
                     : !bChecked ? Verdict::UNCHECKED

@@ -42,7 +42,7 @@ inline constexpr std::size_t VERDICTS = 4;
 
 /// What a check found in a file.
 struct CheckedFile {
-    /// The line of that number, empty if there is none. Views live until the next file is checked.
+    /// The line of that number, empty if there is none. Views live as long as the object.
     using LineSource = std::function<std::string_view( unsigned long long )>;
 
     std::string strFile; ///< as the reports name it
