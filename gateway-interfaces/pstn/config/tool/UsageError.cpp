@@ -7,11 +7,12 @@
 
 namespace {
 
+/// @param in_bList whether to list the names when none is near
 std::string describeUnknown( const char* in_szWhat, const std::string& in_strName,
-                             const std::vector<std::string>& in_vecNames ) {
-    const std::string strNearest = Velquin::Pstn::findNearest( in_strName, in_vecNames );
+                             const std::vector<std::string>& in_vecNames, bool in_bList ) {
+    const bool bHint = in_bList || !Velquin::Pstn::findNearest( in_strName, in_vecNames ).empty();
     return std::string( "unknown " ) + in_szWhat + " \"" + in_strName + "\"" +
-           ( strNearest.empty() ? "" : "; did you mean \"" + strNearest + "\"?" );
+           ( bHint ? "; " + Velquin::Pstn::describeNames( in_strName, in_vecNames ) : "" );
 }
 
 } // namespace
@@ -23,7 +24,7 @@ std::string describeUnknownVerb( const CLI::App& in_app, int in_nArguments, cons
         vecVerbs.push_back( pVerb->get_name() );
     if ( strVerb.starts_with( '-' ) || std::count( vecVerbs.begin(), vecVerbs.end(), strVerb ) > 0 )
         return {};
-    return describeUnknown( "subcommand", strVerb, vecVerbs );
+    return describeUnknown( "subcommand", strVerb, vecVerbs, true );
 }
 
 std::string describeUnknownOption( const CLI::App& in_app ) {
@@ -35,7 +36,7 @@ std::string describeUnknownOption( const CLI::App& in_app ) {
         }
         for ( const std::string& strArgument : pVerb->remaining() ) {
             if ( strArgument.starts_with( '-' ) )
-                return describeUnknown( "option", strArgument.substr( 0, strArgument.find( '=' ) ), vecOptions );
+                return describeUnknown( "option", strArgument.substr( 0, strArgument.find( '=' ) ), vecOptions, false );
         }
     }
     return {};
