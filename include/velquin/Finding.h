@@ -28,7 +28,7 @@ struct Finding {
         INVALID_VALUE,     ///< strAttribute has the wrong value strValue
         UNREADABLE_FILE,   ///< strFile can't be read at all
         UNKNOWN_ATTRIBUTE, ///< the element has no attribute of the name strAttribute
-        UNKNOWN_ELEMENT,   ///< the element's parent has no child of its name
+        UNKNOWN_ELEMENT,   ///< the element, whose name is strAttribute, doesn't belong where it stands
     };
 
     /// Another place that belongs to the finding, for instance the first of two equal identifiers.

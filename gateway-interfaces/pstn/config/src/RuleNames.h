@@ -16,6 +16,7 @@ inline constexpr const char* UNKNOWN_ATTRIBUTE = "unknown-attribute";
 inline constexpr const char* INVALID_VALUE = "invalid-value";
 inline constexpr const char* MISSING_ELEMENT = "missing-element";
 inline constexpr const char* UNKNOWN_ELEMENT = "unknown-element";
+inline constexpr const char* UNEXPECTED_TEXT = "unexpected-text"; ///< only a survey reports it
 inline constexpr const char* INVALID_SEQUENCE = "invalid-sequence";
 
 // References

@@ -114,7 +114,9 @@ void adviseDChannelInRange( const AdviceSubject& in_subject, AdviceReport& inout
         const unsigned int uDChannel = *uFound;
         const auto it = std::find_if( span.ranges.begin(), span.ranges.end(),
                                       [=]( const auto& in_range ) { return hasChannel( in_range, uDChannel ); } );
-        if ( it == span.ranges.end() )
+        // Where a range ends outside the line, that is the mistake.
+        if ( it == span.ranges.end() || it->pRange->getFirstChannel() == 0 ||
+             it->pRange->getLastChannel() > lineOf( *span.pPhysical ).uLastChannel )
             continue;
         std::vector<AdviceRelated> vecRelated = findRanges( span, uDChannel );
         vecRelated.erase( vecRelated.begin() );

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include <velquin/Logger.h>
 
+#include "document/AttributeRules.h"
+#include "document/SchemaContent.h"
 #include "document/SchemaPatterns.h"
 
 namespace Velquin::Pstn {
@@ -15,8 +19,7 @@ namespace Velquin::Pstn {
 class SchemaAdvisor {
 public:
     /// @param in_pSchema a schema in the XML syntax; it outlives this object
-    SchemaAdvisor( const xmlDoc* in_pSchema, const Logger& in_logger )
-        : m_patterns( in_pSchema ), m_logger( in_logger ) {}
+    SchemaAdvisor( const xmlDoc* in_pSchema, const Logger& in_logger );
 
     /// Reports every attribute of the element that is missing, unknown, or has a value that the schema doesn't take.
     /// Reports nothing for a schema that is too tangled to follow.
@@ -25,8 +28,9 @@ public:
     /// Reports every child element that the schema requires and the element lacks.
     void adviseOnChildren( xmlNode* in_pElement );
 
-    /// Reports whatever is wrong with the attributes of the element and of all elements in it, which children are
-    /// missing, and which have names that the schema doesn't know there. Stops after a thousand elements with faults.
+    /// Reports whatever is wrong with the attributes of the root and of all elements in it; which children are missing,
+    /// unknown, too many, or out of their order; texts between them, and namespaces. An attribute or a child that is
+    /// there under a wrong name isn't missing, too. Stops after a thousand elements with faults.
     void adviseOnDocument( xmlNode* in_pRoot );
 
     /// The first elements of that name in the document whose attributes the schema refuses.
@@ -34,14 +38,21 @@ public:
     std::vector<xmlNode*> findMisfits( xmlNode* in_pRoot, std::string_view in_strName, std::size_t in_uMost );
 
 private:
+    void report( xmlNode* in_pElement, const std::vector<AttributeRules::Fault>& in_vecFaults );
     void adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns );
-    void reportUnknownChild( xmlNode* in_pChild, std::string in_strHint );
-    bool adviseOnAttributes( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns );
+    bool adviseOnNamespaces( xmlNode* in_pElement, const SchemaContent& in_content );
+    bool adviseOnText( xmlNode* in_pElement, const std::vector<std::string>& in_vecNames,
+                       std::vector<std::string>& inout_vecMissing );
+    bool adviseOnOrder( const xmlNode* in_pElement, const std::vector<SchemaContent::Misplaced>& in_vecMisplaced );
+    void reportUnexpected( xmlNode* in_pElement, std::string in_strHint, const xmlNode* in_pOther = nullptr,
+                           const char* in_szLabel = "" );
     void collectMisfits( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecParents,
                          std::string_view in_strName, std::size_t in_uMost, std::vector<xmlNode*>& out_vecMisfits );
 
     SchemaPatterns m_patterns;
+    std::map<SchemaPatterns::Patterns, SchemaContent> m_mapContents; ///< by the patterns of the element
     const Logger& m_logger;
+    bool m_bNamespaces; ///< whether the schema's elements have one
     unsigned int m_uFaultyElements = 0;
 };
 

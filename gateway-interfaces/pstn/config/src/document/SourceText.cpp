@@ -76,18 +76,31 @@ void SourceText::locate( std::vector<Place> in_vecPlaces ) const {
                       []( const Place& in_x, const Place& in_y ) { return in_x.ullElement < in_y.ullElement; } );
     const Place* pPlace = in_vecPlaces.data();
     const Place* const pEnd = pPlace + in_vecPlaces.size();
+    const bool bTexts =
+        std::any_of( in_vecPlaces.begin(), in_vecPlaces.end(), []( auto& in_p ) { return in_p.bText; } );
     unsigned long long ullElement = 0;
-    for ( std::size_t u = m_strText.find( '<' ); u < m_strText.size() && pPlace != pEnd;
+    std::vector<unsigned long long> vecOpen;
+    for ( std::size_t u = m_strText.find( '<' ); u < m_strText.size() && ( pPlace != pEnd || bTexts );
           u = m_strText.find( '<', u ) ) {
         if ( isMarkup( u ) ) {
+            const bool bEndTag = m_strText[u + 1] == '/';
             u = skipMarkup( u );
-            continue;
+            if ( bEndTag && !vecOpen.empty() )
+                vecOpen.pop_back();
+        } else {
+            ++ullElement;
+            const Place* const pFirst = pPlace;
+            while ( pPlace != pEnd && pPlace->ullElement <= ullElement )
+                ++pPlace;
+            u = locateTag( u, pFirst, pPlace );
+            vecOpen.push_back( ullElement );
+            if ( m_strText[u - 1] == '/' ) {
+                vecOpen.pop_back();
+                u = std::min( u + 1, m_strText.size() );
+            }
         }
-        ++ullElement;
-        const Place* const pFirst = pPlace;
-        while ( pPlace != pEnd && pPlace->ullElement <= ullElement )
-            ++pPlace;
-        u = locateTag( u, pFirst, pPlace );
+        if ( bTexts && !vecOpen.empty() )
+            locateText( u, vecOpen.back(), in_vecPlaces );
     }
 }
 
@@ -125,6 +138,24 @@ SourceSpan SourceText::findUnfinished( Unfinished in_eWhat, unsigned long long i
 bool SourceText::isMarkup( std::size_t in_uBegin ) const {
     const std::string_view strRest = std::string_view( m_strText ).substr( in_uBegin + 1 );
     return !strRest.empty() && std::string_view( "!?/" ).find( strRest[0] ) != std::string_view::npos;
+}
+
+/// Sets the next text place of an element to the line of text that begins there, if one does.
+void SourceText::locateText( std::size_t in_uBegin, unsigned long long in_ullElement,
+                             std::vector<Place>& inout_vecPlaces ) const {
+    const std::size_t uBegin = skipBlanks( in_uBegin );
+    if ( uBegin == m_strText.size() || m_strText[uBegin] == '<' )
+        return;
+    auto it = std::lower_bound(
+        inout_vecPlaces.begin(), inout_vecPlaces.end(), in_ullElement,
+        []( const Place& in_place, unsigned long long in_ull ) { return in_place.ullElement < in_ull; } );
+    while ( it != inout_vecPlaces.end() && it->ullElement == in_ullElement && !it->bText )
+        ++it;
+    if ( it == inout_vecPlaces.end() || it->ullElement != in_ullElement )
+        return;
+    it->bText = false;
+    const std::size_t uEnd = std::min( m_strText.find_first_of( "<\r\n", uBegin ), m_strText.size() );
+    *it->pSpan = getSpan( uBegin, m_strText.find_last_not_of( BLANKS, uEnd - 1 ) + 1 );
 }
 
 /// @return where the search for the next tag goes on

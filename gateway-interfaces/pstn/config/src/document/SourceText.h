@@ -20,6 +20,7 @@ public:
         std::string_view strAttribute; ///< empty for the element
         SourceSpan* pSpan;      ///< set to the attribute, name to closing quote, or to `<` and the element's name
         SourceSpan* pValueSpan; ///< set to the value without its quotes; null when nobody wants it
+        bool bText = false;     ///< whether the place is that of a text in the element, of the first, the second ...
     };
 
     /// Reads the file. When that fails, the text stays empty.
@@ -27,7 +28,7 @@ public:
     void read( const char* in_szPath, const char* in_szEncoding );
 
     /// Finds the places in one pass. The file must be well-formed. A place that isn't found keeps its spans; an absent
-    /// attribute gets the span of its element.
+    /// attribute or text gets the span of its element.
     void locate( std::vector<Place> in_vecPlaces ) const;
 
     /// Where something unfinished begins, at the latest on that line. Of a start tag it is the last character, behind
@@ -41,6 +42,8 @@ private:
     bool isMarkup( std::size_t in_uBegin ) const;
     SourceSpan getSpan( std::size_t in_uBegin, std::size_t in_uEnd ) const;
     std::size_t locateTag( std::size_t in_uBegin, const Place* in_pFirst, const Place* in_pEnd ) const;
+    void locateText( std::size_t in_uBegin, unsigned long long in_ullElement,
+                     std::vector<Place>& inout_vecPlaces ) const;
     std::size_t skipBlanks( std::size_t in_uFrom ) const;
     std::size_t skipMarkup( std::size_t in_uBegin ) const;
     std::size_t skipDocumentType( std::size_t in_uBegin ) const;

@@ -1,6 +1,7 @@
 #include "survey/Echoes.h"
 
 #include <algorithm>
+#include <climits>
 #include <map>
 #include <set>
 #include <tuple>
@@ -8,20 +9,14 @@
 #include "RuleNames.h"
 #include "document/Element.h"
 #include "reading/ChildElements.h"
+#include "survey/CommonCauses.h"
 #include "survey/Elements.h"
+#include "survey/Losses.h"
 #include "survey/ReferenceKeys.h"
 
 namespace Velquin::Pstn {
 
 namespace {
-
-bool isMain( const SurveyedFinding& in_item ) {
-    return !in_item.finding.bEcho && !in_item.finding.strRule.empty();
-}
-
-bool isAboutDChannel( const SurveyedFinding& in_item ) {
-    return in_item.is( Rules::NO_D_CHANNEL ) || in_item.is( Rules::UNUSED_D_CHANNEL );
-}
 
 /// Whether advice on one element explains an error of libxml2 about another.
 bool explains( const xmlNode* in_pAdvised, const xmlNode* in_pBlamed ) {
@@ -36,7 +31,7 @@ bool explains( const xmlNode* in_pAdvised, const xmlNode* in_pBlamed ) {
 void markExplainedErrors( SurveyRecord& inout_record ) {
     std::vector<const xmlNode*> vecAdvised;
     for ( const SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( isMain( item ) && !item.is( Rules::AGAINST_SCHEMA ) && !item.is( Rules::INTERNAL ) && item.pElement )
+        if ( item.isMain() && !item.is( Rules::AGAINST_SCHEMA ) && !item.is( Rules::INTERNAL ) && item.pElement )
             vecAdvised.push_back( item.pElement );
     }
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
@@ -49,23 +44,31 @@ void markExplainedErrors( SurveyRecord& inout_record ) {
     }
 }
 
+/// The name that the finding's hint suggests; empty when it suggests none.
+std::string getMeant( const Finding& in_finding ) {
+    const std::size_t uName = in_finding.strHint.find( '"' ); // did you mean "name"?
+    return uName == std::string::npos
+               ? std::string()
+               : in_finding.strHint.substr( uName + 1, in_finding.strHint.rfind( '"' ) - uName - 1 );
+}
+
 /// A reader finds again what the schema's advice has found, and misses what is only misspelt.
 void markSecondReports( SurveyRecord& inout_record ) {
     std::set<std::tuple<const xmlNode*, std::string>> setSeen;
     for ( const SurveyedFinding& item : inout_record.vecFindings ) {
         const Finding& finding = item.finding;
-        const std::size_t uName = finding.strHint.find( '"' ); // did you mean "name"?
-        if ( !isMain( item ) || !item.pElement || uName == std::string::npos )
+        if ( !item.isMain() || !item.pElement )
             continue;
-        const std::string strMeant = finding.strHint.substr( uName + 1, finding.strHint.rfind( '"' ) - uName - 1 );
         if ( finding.eKind == Finding::Kind::UNKNOWN_ATTRIBUTE )
-            setSeen.emplace( item.pElement, strMeant );
+            setSeen.emplace( item.pElement, getMeant( finding ) );
         else if ( finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
-            setSeen.emplace( getParentElement( item.pElement ), strMeant );
+            setSeen.emplace( getParentElement( item.pElement ), getMeant( finding ) );
+        else if ( item.is( Rules::UNEXPECTED_TEXT ) ) // a tag that lost its <
+            setSeen.emplace( item.pElement, finding.strValue.substr( 0, finding.strValue.find_first_of( " \t=" ) ) );
     }
     std::set<const xmlNode*> setWithoutChild;
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( !isMain( item ) || !item.pElement || item.finding.strAttribute.empty() )
+        if ( !item.isMain() || !item.pElement || item.finding.strAttribute.empty() )
             continue;
         const bool bSeen = !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
         // A reader may miss the attribute of a child that is missing.
@@ -76,51 +79,71 @@ void markSecondReports( SurveyRecord& inout_record ) {
     }
 }
 
-/// The physical configurations that are applied to boards and interfaces.
-class PhysicalConfigs {
-public:
-    explicit PhysicalConfigs( const xmlNode* in_pRoot ) {
-        for ( const xmlNode* const pSection : ChildElements( in_pRoot, "physicalInterfaceConfigs" ) ) {
-            for ( const xmlNode* const pElement : getTree( pSection ) ) {
-                if ( isReference( pElement ) )
-                    m_mapConfigs.emplace( describeReference( pElement ), getChain( pElement )[1] );
-            }
+/// Whether a missing element, or one of its alternatives, has the name.
+bool isAmong( const std::string& in_strName, const std::string& in_strAlternatives ) {
+    return in_strAlternatives.find( in_strName ) != std::string::npos &&
+           ( " or " + in_strAlternatives + " or " ).find( " or " + in_strName + " or " ) != std::string::npos;
+}
+
+/// A child that is missing may stand elsewhere: the nearest of its name that doesn't belong where it stands.
+void markMovedElements( SurveyRecord& inout_record ) {
+    std::vector<SurveyedFinding*> vecUnexpected;
+    for ( SurveyedFinding& item : inout_record.vecFindings ) {
+        if ( item.isMain() && item.pElement && item.is( Rules::UNKNOWN_ELEMENT ) )
+            vecUnexpected.push_back( &item );
+    }
+    for ( SurveyedFinding& item : inout_record.vecFindings ) {
+        if ( vecUnexpected.empty() || !item.isMain() || !item.pElement || !item.is( Rules::MISSING_ELEMENT ) )
+            continue;
+        const auto getDistance = [&item]( const SurveyedFinding* in_pUnexpected ) {
+            const Finding& finding = in_pUnexpected->finding;
+            if ( !isAmong( finding.strAttribute, item.finding.strAttribute ) )
+                return ULLONG_MAX;
+            return std::max( finding.ullElement, item.finding.ullElement ) -
+                   std::min( finding.ullElement, item.finding.ullElement );
+        };
+        const auto it = std::min_element( vecUnexpected.begin(), vecUnexpected.end(),
+                                          [&getDistance]( const auto* in_pX, const auto* in_pY ) {
+                                              return getDistance( in_pX ) < getDistance( in_pY );
+                                          } );
+        if ( getDistance( *it ) == ULLONG_MAX )
+            continue;
+        Finding& finding = ( *it )->finding;
+        finding.strHint = "move it into " + std::string( getElementName( item.pElement ) );
+        finding.vecRelated = {
+            { "it is missing here", item.finding.strFile, item.finding.ullLine, item.finding.ullElement, "" } };
+        item.finding.bEcho = true;
+        vecUnexpected.erase( it );
+    }
+}
+
+/// A member that has the span of another one is measured by the D-channel of that span.
+void markSpansTwice( SurveyRecord& inout_record ) {
+    std::map<const xmlNode*, std::multiset<std::string>> mapSpans; // by their lists
+    for ( SurveyedFinding& item : inout_record.vecFindings ) {
+        if ( !isAboutDChannel( item ) || !item.pElement || !isNamed( item.pElement, "member" ) )
+            continue;
+        const xmlNode* const pMembers = getParentElement( item.pElement );
+        std::multiset<std::string>& setSpans = mapSpans[pMembers];
+        if ( setSpans.empty() ) {
+            for ( const xmlNode* const pMember : ChildElements( pMembers ) )
+                setSpans.insert( describeReference( pMember ) );
         }
+        if ( setSpans.count( describeReference( item.pElement ) ) > 1 )
+            item.finding.strRule = Rules::NFAS_MEMBER_TWICE;
     }
-
-    /// The configuration of a line; null when it has none.
-    const xmlNode* find( const xmlNode* in_pReference ) const {
-        auto it = m_mapConfigs.find( describeReference( in_pReference ) );
-        if ( it == m_mapConfigs.end() )
-            it = m_mapConfigs.find( describeLine( in_pReference, getValue( in_pReference, "boardID" ), {} ) );
-        return it == m_mapConfigs.end() ? nullptr : it->second;
-    }
-
-private:
-    std::map<std::string, const xmlNode*> m_mapConfigs;
-};
-
-/// What findings have in common that come from one mistake: references to the same thing, lines of one board, lines
-/// with one physical configuration. Empty for a finding of its own.
-std::string getCommonCause( const SurveyedFinding& in_item, const PhysicalConfigs& in_configs ) {
-    if ( isReferenceRule( in_item ) )
-        return describeKind( in_item.pElement ) + describeTarget( in_item );
-    if ( in_item.is( Rules::NO_PHYSICAL_CONFIG ) || in_item.is( Rules::NO_CALL_CONTROL ) )
-        return std::to_string( getElementNumber( getParentElement( in_item.pElement ) ) );
-    const xmlNode* const pConfig = isAboutDChannel( in_item ) ? in_configs.find( in_item.pElement ) : nullptr;
-    return pConfig ? std::to_string( getElementNumber( pConfig ) ) : std::string();
 }
 
 /// Findings that come from one mistake: the first one names the places of the others.
 void markCommonCauses( SurveyRecord& inout_record ) {
     constexpr std::size_t MAX_RELATED = 20;
-    const PhysicalConfigs configs( inout_record.pRoot );
+    const CommonCauses causes( inout_record );
     std::map<std::tuple<std::string, std::string>, Finding*> mapFirst;
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
         Finding& finding = item.finding;
-        if ( !isMain( item ) || !item.pElement )
+        if ( !item.isMain() || !item.pElement )
             continue;
-        const std::string strCause = getCommonCause( item, configs );
+        const std::string strCause = causes.find( item );
         if ( strCause.empty() )
             continue;
         const auto [it, bFirst] = mapFirst.try_emplace( { finding.strRule, strCause }, &finding );
@@ -134,115 +157,46 @@ void markCommonCauses( SurveyRecord& inout_record ) {
     }
 }
 
-/// What was left out: declarations that references may mean, and references that may mean an interface.
-class Losses {
-public:
-    explicit Losses( const SurveyRecord& in_record ) {
-        std::set<const xmlNode*> setWithoutIdentifier;
-        for ( const SurveyedFinding& item : in_record.vecFindings ) {
-            if ( item.finding.strRule.empty() || !item.pElement )
-                continue;
-            const std::string& strAttribute = item.finding.strAttribute;
-            if ( strAttribute == "ID" )
-                setWithoutIdentifier.insert( item.pElement );
-            addMissing( item );
-            const bool bTwice = item.is( Rules::PHYSICAL_CONFIG_TWICE ) || item.is( Rules::NFAS_MEMBER_TWICE );
-            if ( isReference( item.pElement ) &&
-                 ( bTwice || strAttribute == "boardID" || strAttribute == "interfaceID" ) )
-                m_mapReferences[getElementName( getChain( item.pElement )[0] )].insert( ANY );
-        }
-        for ( const xmlNode* const pLost : in_record.vecLost ) {
-            for ( const xmlNode* const pElement : getTree( pLost ) )
-                addDeclaration( pElement, setWithoutIdentifier.contains( pElement ) );
-            addReferences( pLost );
-        }
-    }
-
-    /// Whether a reference may mean something that was left out.
-    bool explainReference( const SurveyedFinding& in_item ) const {
-        const auto it = m_mapDeclarations.find( in_item.finding.strRule );
-        return it != m_mapDeclarations.end() &&
-               ( it->second.contains( ANY ) || it->second.contains( describeTarget( in_item ) ) );
-    }
-
-    /// Whether something that was left out in a section may have been meant for an interface.
-    bool explainInterface( const xmlNode* in_pInterface, const std::string& in_strSection ) const {
-        const auto it = m_mapReferences.find( in_strSection );
-        const xmlNode* const pBoard = getParentElement( in_pInterface );
-        if ( it == m_mapReferences.end() || !pBoard )
-            return false;
-        const std::string strBoard = getValue( pBoard, "ID" );
-        return it->second.contains( ANY ) || it->second.contains( describeLine( in_pInterface, strBoard, {} ) ) ||
-               it->second.contains( describeLine( in_pInterface, strBoard, getValue( in_pInterface, "ID" ) ) );
-    }
-
-private:
-    static constexpr const char* ANY = "*";
-
-    /// A section that is missing, misspelt, or lacks what its reader needs may have meant any line.
-    void addMissing( const SurveyedFinding& in_item ) {
-        const auto vecChain = getChain( in_item.pElement );
-        if ( in_item.is( Rules::MISSING_ELEMENT ) && vecChain.size() < 2 )
-            m_mapReferences[vecChain.empty() ? in_item.finding.strAttribute : getElementName( vecChain[0] )].insert(
-                ANY );
-        if ( in_item.is( Rules::UNKNOWN_ELEMENT ) && vecChain.size() == 1 ) {
-            m_mapReferences["physicalInterfaceConfigs"].insert( ANY );
-            m_mapReferences["callControl"].insert( ANY );
-        }
-    }
-
-    void addDeclaration( const xmlNode* in_pElement, bool in_bWithoutIdentifier ) {
-        if ( const char* const szRule = getReferenceRule( in_pElement ) )
-            m_mapDeclarations[szRule].insert( in_bWithoutIdentifier ? ANY : describeDeclaration( in_pElement ) );
-    }
-
-    /// The references in something that was left out. A range belongs to the reference in which it stands.
-    void addReferences( const xmlNode* in_pLost ) {
-        const auto vecChain = getChain( in_pLost );
-        if ( const auto it = std::find_if( vecChain.begin(), vecChain.end(), &isReference ); it != vecChain.end() ) {
-            addReference( *it );
-            return;
-        }
-        bool bAny = true;
-        for ( const xmlNode* const pElement : getTree( in_pLost ) ) {
-            if ( !isReference( pElement ) )
-                continue;
-            addReference( pElement );
-            bAny = false;
-        }
-        if ( bAny && !vecChain.empty() )
-            m_mapReferences[getElementName( vecChain[0] )].insert( ANY );
-    }
-
-    void addReference( const xmlNode* in_pReference ) {
-        m_mapReferences[getElementName( getChain( in_pReference )[0] )].insert( describeReference( in_pReference ) );
-    }
-
-    std::map<std::string, std::set<std::string>> m_mapDeclarations; ///< identifiers, by the rule of their references
-    std::map<std::string, std::set<std::string>> m_mapReferences;   ///< "digital 1/2", by section
-};
-
-/// References to what was left out, and interfaces that such a reference was meant for
+/// References to what was left out, interfaces that such a reference was meant for, and what stands in a copy
 void markConsequences( SurveyRecord& inout_record ) {
     const Losses losses( inout_record );
     const PhysicalConfigs configs( inout_record.pRoot );
     std::set<const xmlNode*> setFaultyConfigs;
+    std::set<const xmlNode*> setCopies;
+    std::set<const xmlNode*> setSurplus;
     for ( const SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( isMain( item ) && item.pElement && getChain( item.pElement ).size() > 1 )
-            setFaultyConfigs.insert( getChain( item.pElement )[1] );
+        if ( !item.isMain() || !item.pElement )
+            continue;
+        if ( const auto vecChain = getChain( item.pElement ); vecChain.size() > 1 )
+            setFaultyConfigs.insert( vecChain[1] );
+        if ( item.is( Rules::IDENTIFIER_TWICE ) || item.is( Rules::NFAS_MEMBER_TWICE ) )
+            setCopies.insert( item.pElement );
+        else if ( item.is( Rules::UNKNOWN_ELEMENT ) && !item.finding.vecRelated.empty() &&
+                  item.finding.vecRelated[0].strLabel == "first here" )
+            setSurplus.insert( item.pElement );
     }
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( !isMain( item ) || !item.pElement )
+        if ( !item.isMain() || !item.pElement )
             continue;
-        if ( isReferenceRule( item ) )
+        if ( isReferenceRule( item ) ) {
             item.finding.bEcho = losses.explainReference( item );
-        else if ( item.is( Rules::NO_PHYSICAL_CONFIG ) ) // a reference says it again
+        } else if ( item.is( Rules::NO_PHYSICAL_CONFIG ) ) { // a reference says it again
             item.finding.bEcho =
                 isReference( item.pElement ) || losses.explainInterface( item.pElement, "physicalInterfaceConfigs" );
-        else if ( isAboutDChannel( item ) )
-            item.finding.bEcho = setFaultyConfigs.contains( configs.find( item.pElement ) );
-        else if ( item.is( Rules::NO_CALL_CONTROL ) )
+        } else if ( isAboutDChannel( item ) ) {
+            const auto vecConfigs = configs.find( item.pElement );
+            item.finding.bEcho = std::any_of( vecConfigs.begin(), vecConfigs.end(), [&]( const xmlNode* in_pConfig ) {
+                return setFaultyConfigs.contains( in_pConfig );
+            } );
+        } else if ( item.is( Rules::NO_CALL_CONTROL ) ) {
             item.finding.bEcho = losses.explainInterface( item.pElement, "callControl" );
+        } else if ( item.finding.strRule.ends_with( "-twice" ) ) {
+            const auto vecChain = getChain( item.pElement );
+            item.finding.bEcho = std::any_of( vecChain.begin(), vecChain.end(), [&]( const xmlNode* in_pOuter ) {
+                return setSurplus.contains( in_pOuter ) ||
+                       ( in_pOuter != item.pElement && setCopies.contains( in_pOuter ) );
+            } );
+        }
     }
 }
 
@@ -250,7 +204,9 @@ void markConsequences( SurveyRecord& inout_record ) {
 
 void markEchoes( SurveyRecord& inout_record ) {
     markExplainedErrors( inout_record );
+    markSpansTwice( inout_record );
     markSecondReports( inout_record );
+    markMovedElements( inout_record );
     markConsequences( inout_record );
     markCommonCauses( inout_record );
 }

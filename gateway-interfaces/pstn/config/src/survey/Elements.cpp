@@ -62,6 +62,40 @@ bool isReference( const xmlNode* in_pElement ) {
     return pParent && ( isNamed( pParent, "applyTo" ) || isNamed( pParent, "members" ) );
 }
 
+const xmlNode* getReference( const xmlNode* in_pElement ) {
+    return isReference( in_pElement ) ? in_pElement : getParentElement( in_pElement );
+}
+
+bool meanOneLine( const xmlNode* in_pX, const xmlNode* in_pY ) {
+    const auto uX = getNumber( in_pX, "interfaceID" );
+    const auto uY = getNumber( in_pY, "interfaceID" );
+    return getNumber( in_pX, "boardID" ) == getNumber( in_pY, "boardID" ) && ( !uX || !uY || uX == uY ) &&
+           isAnalog( in_pX ) == isAnalog( in_pY );
+}
+
+bool shareChannel( const xmlNode* in_pX, const xmlNode* in_pY ) {
+    return getValue( in_pX, "channelGroupID" ) == getValue( in_pY, "channelGroupID" ) &&
+           getNumber( in_pX, "firstChannel" ) <= getNumber( in_pY, "lastChannel" ) &&
+           getNumber( in_pY, "firstChannel" ) <= getNumber( in_pX, "lastChannel" ) &&
+           meanOneLine( getReference( in_pX ), getReference( in_pY ) );
+}
+
+bool sharesChannelWith( const xmlNode* in_pRange, const xmlNode* in_pReference ) {
+    constexpr unsigned int MAX_RANGES = 64; // no line has as many channels
+    unsigned int uRanges = 0;
+    for ( const xmlNode* const pOther : ChildElements( in_pReference ) ) {
+        if ( pOther != in_pRange && shareChannel( in_pRange, pOther ) )
+            return true;
+        if ( ++uRanges == MAX_RANGES )
+            break;
+    }
+    return false;
+}
+
+bool sharesChannelWithin( const xmlNode* in_pRange ) {
+    return !isReference( in_pRange ) && sharesChannelWith( in_pRange, getParentElement( in_pRange ) );
+}
+
 bool isAnalog( const xmlNode* in_pElement ) {
     const auto vecChain = getChain( in_pElement );
     return std::any_of( vecChain.begin(), vecChain.end(), []( const xmlNode* in_pOne ) {

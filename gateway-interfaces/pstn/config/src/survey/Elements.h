@@ -34,6 +34,21 @@ std::vector<const xmlNode*> getTree( const xmlNode* in_pElement );
 /// Whether the element names a board, or should: a reference of `applyTo`, a member of a group.
 bool isReference( const xmlNode* in_pElement );
 
+/// The reference that puts channels into a group: the element, or for a range the one in which it stands.
+const xmlNode* getReference( const xmlNode* in_pElement );
+
+/// Whether two references mean one interface, or one of them a board and the other one of its interfaces.
+bool meanOneLine( const xmlNode* in_pX, const xmlNode* in_pY );
+
+/// Whether two ranges or, for analog lines, two references put one channel into one group.
+bool shareChannel( const xmlNode* in_pX, const xmlNode* in_pY );
+
+/// Whether a range shares a channel with another one of a reference.
+bool sharesChannelWith( const xmlNode* in_pRange, const xmlNode* in_pReference );
+
+/// The same for the range's own reference. An analog line's reference has no ranges.
+bool sharesChannelWithin( const xmlNode* in_pRange );
+
 /// Whether the element is about analog lines: stands in an element with a name of that kind, which may be misspelt.
 bool isAnalog( const xmlNode* in_pElement );
 

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "RuleNames.h"
 #include "Suggestion.h"
 #include "document/Element.h"
 #include "reading/ChildElements.h"
+#include "reading/Number.h"
 #include "survey/Elements.h"
 
 namespace Velquin::Pstn {
@@ -44,16 +46,20 @@ Elements getChildren( const xmlNode* in_pParent ) {
 }
 
 /// "there is no such board; there are 1, 2 and 3"
+/// @param in_bNumbers whether identifiers are numbers: of those, one is not more like another
 std::string describeMissing( const std::string& in_strWhat, const std::string& in_strValue,
-                             const Elements& in_vecExisting ) {
+                             const Elements& in_vecExisting, bool in_bNumbers = true ) {
     constexpr std::size_t MAX_LISTED = 10;
     std::vector<std::string> vecIds;
-    for ( const xmlNode* const pElement : in_vecExisting )
-        vecIds.push_back( getValue( pElement, "ID" ) );
+    for ( const xmlNode* const pElement : in_vecExisting ) {
+        std::string strId = getValue( pElement, "ID" );
+        if ( !in_bNumbers || parseNumber<unsigned int>( strId, NumberPolicy::WHOLE ) )
+            vecIds.push_back( std::move( strId ) );
+    }
     std::string strText = "there is no " + in_strWhat + " with this ID";
     if ( vecIds.empty() )
-        return strText;
-    if ( const std::string strNearest = findNearest( in_strValue, vecIds ); !strNearest.empty() )
+        return strText + "; there are none";
+    if ( const std::string strNearest = in_bNumbers ? "" : findNearest( in_strValue, vecIds ); !strNearest.empty() )
         return strText + "; did you mean \"" + strNearest + "\"?";
     strText += vecIds.size() == 1 ? "; there is " : "; there are ";
     for ( std::size_t u = 0; u < std::min( vecIds.size(), MAX_LISTED ); ++u )
@@ -61,9 +67,11 @@ std::string describeMissing( const std::string& in_strWhat, const std::string& i
     return vecIds.size() > MAX_LISTED ? strText + " ..." : strText;
 }
 
+/// Relates a place, in front of those of findings with the same cause.
 void relate( Finding& inout_finding, const char* in_szLabel, const xmlNode* in_pElement, const char* in_szAttribute ) {
-    inout_finding.vecRelated.push_back( { in_szLabel, getElementFile( in_pElement ), getElementLine( in_pElement ),
-                                          getElementNumber( in_pElement ), in_szAttribute } );
+    inout_finding.vecRelated.insert( inout_finding.vecRelated.begin(),
+                                     { in_szLabel, getElementFile( in_pElement ), getElementLine( in_pElement ),
+                                       getElementNumber( in_pElement ), in_szAttribute } );
 }
 
 /// Relates the first element in front of the finding's that fits.
@@ -112,7 +120,7 @@ void detailUnknownChannelGroup( SurveyedFinding& inout_item, const xmlNode* in_p
         for ( const xmlNode* const pGroups : ChildElements( pCallControl, "channelGroups" ) )
             vecGroups = getChildren( pGroups );
     }
-    inout_item.finding.strHint = describeMissing( "channel group", inout_item.finding.strValue, vecGroups );
+    inout_item.finding.strHint = describeMissing( "channel group", inout_item.finding.strValue, vecGroups, false );
 }
 
 void detailIdentifierTwice( SurveyedFinding& inout_item, const xmlNode* ) {
@@ -148,14 +156,6 @@ void detailTirpipeTwice( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) 
     }
 }
 
-/// Whether two references mean one interface, or one of them a board and the other one of its interfaces.
-bool meanOneLine( const xmlNode* in_pX, const xmlNode* in_pY ) {
-    const auto uX = getNumber( in_pX, "interfaceID" );
-    const auto uY = getNumber( in_pY, "interfaceID" );
-    return getNumber( in_pX, "boardID" ) == getNumber( in_pY, "boardID" ) && ( !uX || !uY || uX == uY ) &&
-           isAnalog( in_pX ) == isAnalog( in_pY );
-}
-
 /// @param in_pScope the references in this element are looked through
 void relateFirstReference( SurveyedFinding& inout_item, const xmlNode* in_pScope, const char* in_szHint ) {
     inout_item.finding.strHint = in_szHint;
@@ -171,23 +171,23 @@ void detailPhysicalConfigTwice( SurveyedFinding& inout_item, const xmlNode* ) {
 
 void detailNfasMemberTwice( SurveyedFinding& inout_item, const xmlNode* ) {
     inout_item.finding.strMessage = "this line is already a member of the group";
-    relateFirstReference( inout_item, getParentElement( inout_item.pElement ), "name each line once" );
+    inout_item.finding.strHint = "name each line once";
+    for ( const xmlNode* const pOther : ChildElements( getParentElement( inout_item.pElement ) ) ) {
+        if ( pOther == inout_item.pElement || !meanOneLine( pOther, inout_item.pElement ) )
+            continue;
+        // The one behind may be the right one: its D-channel tells.
+        const bool bFirst = getElementNumber( pOther ) < getElementNumber( inout_item.pElement );
+        relate( inout_item.finding, bFirst ? "first here" : "also here", pOther, "boardID" );
+        return;
+    }
 }
 
 /// The range or, for analog lines, the reference that puts channels into a group.
 void detailChannelTwice( SurveyedFinding& inout_item, const xmlNode* ) {
-    const auto getReference = []( const xmlNode* in_p ) {
-        return isReference( in_p ) ? in_p : getParentElement( in_p );
-    };
     const xmlNode* const pElement = inout_item.pElement;
     inout_item.finding.strHint = "a channel of this line is already in the group; name each channel once";
-    relateFirst( inout_item, getTree( getChain( pElement )[0] ), "channelGroupID", [&]( const xmlNode* in_pOther ) {
-        if ( getValue( in_pOther, "channelGroupID" ) != inout_item.finding.strValue ||
-             !meanOneLine( getReference( in_pOther ), getReference( pElement ) ) )
-            return false;
-        return getNumber( in_pOther, "firstChannel" ) <= getNumber( pElement, "lastChannel" ) &&
-               getNumber( pElement, "firstChannel" ) <= getNumber( in_pOther, "lastChannel" );
-    } );
+    relateFirst( inout_item, getTree( getChain( pElement )[0] ), "channelGroupID",
+                 [pElement]( const xmlNode* in_pOther ) { return shareChannel( in_pOther, pElement ); } );
 }
 
 /// The words of findings whose log lines say more than a person wants to read.

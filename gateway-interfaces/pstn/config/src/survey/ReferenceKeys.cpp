@@ -1,5 +1,7 @@
 #include "survey/ReferenceKeys.h"
 
+#include <utility>
+
 #include "RuleNames.h"
 #include "document/Element.h"
 #include "reading/Number.h"
@@ -15,12 +17,11 @@ std::string normalize( const std::string& in_strIdentifier ) {
     return uNumber ? std::to_string( *uNumber ) : "=" + in_strIdentifier;
 }
 
-/// The key of a board or, if an interface is given, of that.
-std::string join( const std::string& in_strBoard, const std::string& in_strInterface ) {
-    return normalize( in_strBoard ) + ( in_strInterface.empty() ? std::string() : "/" + normalize( in_strInterface ) );
-}
-
 } // namespace
+
+std::string joinIdentifiers( const std::string& in_strOuter, const std::string& in_strInterface ) {
+    return normalize( in_strOuter ) + ( in_strInterface.empty() ? std::string() : "/" + normalize( in_strInterface ) );
+}
 
 std::string describeKind( const xmlNode* in_pElement ) {
     return isAnalog( in_pElement ) ? "analog " : "digital ";
@@ -28,7 +29,7 @@ std::string describeKind( const xmlNode* in_pElement ) {
 
 std::string describeLine( const xmlNode* in_pElement, const std::string& in_strBoard,
                           const std::string& in_strInterface ) {
-    return describeKind( in_pElement ) + join( in_strBoard, in_strInterface );
+    return describeKind( in_pElement ) + joinIdentifiers( in_strBoard, in_strInterface );
 }
 
 std::string describeReference( const xmlNode* in_pReference ) {
@@ -41,15 +42,35 @@ bool isReferenceRule( const SurveyedFinding& in_item ) {
            in_item.is( Rules::UNKNOWN_CHANNEL_GROUP );
 }
 
+bool isAboutDChannel( const SurveyedFinding& in_item ) {
+    return in_item.is( Rules::NO_D_CHANNEL ) || in_item.is( Rules::UNUSED_D_CHANNEL );
+}
+
 std::string describeTarget( const SurveyedFinding& in_item ) {
+    return describeTargets( in_item ).front();
+}
+
+std::vector<std::string> describeTargets( const SurveyedFinding& in_item ) {
     const std::string& strValue = in_item.finding.strValue;
     if ( !in_item.is( Rules::UNKNOWN_INTERFACE ) )
-        return join( strValue, {} );
+        return { joinIdentifiers( strValue, {} ), joinIdentifiers( ANY, {} ) };
     const bool bOfBoard = in_item.finding.strAttribute == "primaryClockReference";
-    return join( getValue( in_item.pElement, bOfBoard ? "ID" : "boardID" ), strValue );
+    const std::string strBoard = getValue( in_item.pElement, bOfBoard ? "ID" : "boardID" );
+    return { joinIdentifiers( strBoard, strValue ), joinIdentifiers( strBoard, ANY ), joinIdentifiers( ANY, strValue ),
+             joinIdentifiers( ANY, ANY ) };
 }
 
 const char* getReferenceRule( const xmlNode* in_pElement ) {
+    static constexpr std::pair<const char*, const char*> RULES[] = {
+        { "interface", Rules::UNKNOWN_INTERFACE },       { "channelGroup", Rules::UNKNOWN_CHANNEL_GROUP },
+        { "tirvanaDigitalBoard", Rules::UNKNOWN_BOARD }, { "tirvanaVirtualDigitalBoard", Rules::UNKNOWN_BOARD },
+        { "tirvanaAnalogBoard", Rules::UNKNOWN_BOARD },
+    };
+    for ( const auto& [szName, szRule] : RULES ) { // wherever it stands
+        if ( isNamed( in_pElement, szName ) )
+            return szRule;
+    }
+    // A misspelt name leaves the place.
     const auto vecChain = getChain( in_pElement );
     if ( vecChain.size() != 2 && vecChain.size() != 3 )
         return nullptr;
@@ -57,15 +78,20 @@ const char* getReferenceRule( const xmlNode* in_pElement ) {
     if ( strSection == "physicalInterfaceConfigs" || strSection == "providers" )
         return nullptr;
     if ( strSection == "callControl" )
-        return vecChain.size() == 3 ? Rules::UNKNOWN_CHANNEL_GROUP : nullptr;
+        return vecChain.size() == 3 && !isNamed( vecChain[1], "isdn" ) && !isNamed( vecChain[1], "analog" )
+                   ? Rules::UNKNOWN_CHANNEL_GROUP
+                   : nullptr;
     return vecChain.size() == 2 ? Rules::UNKNOWN_BOARD : Rules::UNKNOWN_INTERFACE;
 }
 
-std::string describeDeclaration( const xmlNode* in_pElement ) {
-    const std::string strId = getValue( in_pElement, "ID" );
-    return getReferenceRule( in_pElement ) == Rules::UNKNOWN_INTERFACE
-               ? join( getValue( getParentElement( in_pElement ), "ID" ), strId )
-               : join( strId, {} );
+std::string describeDeclaration( const xmlNode* in_pElement, bool in_bKnown ) {
+    const std::string strId = in_bKnown ? getValue( in_pElement, "ID" ) : ANY;
+    if ( getReferenceRule( in_pElement ) != Rules::UNKNOWN_INTERFACE )
+        return joinIdentifiers( strId, {} );
+    // Behind its board, an interface doesn't say which one that was.
+    const xmlNode* const pBoard = getParentElement( in_pElement );
+    return joinIdentifiers( getReferenceRule( pBoard ) == Rules::UNKNOWN_BOARD ? getValue( pBoard, "ID" ) : ANY,
+                            strId );
 }
 
 } // namespace Velquin::Pstn

@@ -1,7 +1,6 @@
 #include "survey/Survey.h"
 
 #include <algorithm>
-#include <set>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -9,7 +8,6 @@
 #include <velquin/Assertion.h>
 #include <velquin/XML.h>
 
-#include "advice/Advice.h"
 #include "document/Element.h"
 #include "document/ElementPaths.h"
 #include "document/SourceText.h"
@@ -17,6 +15,7 @@
 #include "survey/Echoes.h"
 #include "survey/Elements.h"
 #include "survey/FindingDetails.h"
+#include "survey/SurveyAdvice.h"
 #include "survey/SurveyRecord.h"
 
 namespace Velquin::Pstn {
@@ -116,16 +115,7 @@ void Reading::endDocument() {
         markEchoes( m_record );
         addDetails( m_record );
     }
-    // An attribute that is refused needs no advice on its value.
-    std::set<std::pair<unsigned long long, std::string>> setRefused;
-    for ( const SurveyedFinding& item : m_record.vecFindings ) {
-        if ( !item.finding.strAttribute.empty() )
-            setRefused.emplace( item.finding.ullElement, item.finding.strAttribute );
-    }
-    for ( Finding& finding : advise( m_config, m_record.pRoot, m_record.vecFaulty ) ) {
-        if ( !setRefused.contains( { finding.ullElement, finding.strAttribute } ) )
-            m_record.vecFindings.push_back( { std::move( finding ) } );
-    }
+    addAdvice( m_config, m_record );
 }
 
 void Reading::settle( std::size_t in_uBegin ) {
@@ -154,6 +144,8 @@ void Reading::findElements() {
         item.pElement = vecElements[ullElement - 1];
         if ( item.finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
             m_record.vecLost.push_back( item.pElement );
+        if ( item.is( Rules::UNEXPECTED_TEXT ) ) // it may be what remains of a child
+            m_record.vecFaulty.push_back( item.pElement );
     }
 }
 
@@ -208,7 +200,8 @@ void Survey::Impl::locate( const std::string& in_strFile ) {
             break;
         if ( finding.strFile != in_strFile || finding.ullElement == 0 )
             continue;
-        vecPlaces.push_back( { finding.ullElement, finding.strAttribute, &finding.span, &finding.valueSpan } );
+        vecPlaces.push_back( { finding.ullElement, finding.strAttribute, &finding.span, &finding.valueSpan,
+                               finding.strRule == Rules::UNEXPECTED_TEXT } );
         for ( Finding::Related& related : finding.vecRelated )
             vecPlaces.push_back( { related.ullElement, related.strAttribute, &related.span, nullptr } );
     }

@@ -14,6 +14,8 @@ struct SurveyedFinding {
     Finding finding;
     const xmlNode* pElement = nullptr;
 
+    /// Whether it is a mistake of its own, as far as is known.
+    bool isMain() const noexcept { return !finding.bEcho && !finding.strRule.empty(); }
     bool is( std::string_view in_strRule ) const noexcept { return finding.strRule == in_strRule; }
 };
 
