@@ -18,7 +18,10 @@ bool isFxs( const AdviceSubject::Port& in_port ) {
 }
 
 bool hasDetector( const AnalogDisconnectSupervisionConfig& in_supervision ) {
-    return in_supervision.isRingCadenceDetectionEnabled() || !in_supervision.getDisconnectDetectorsMap().empty();
+    const auto& mapDetectors = in_supervision.getDisconnectDetectorsMap();
+    return in_supervision.isRingCadenceDetectionEnabled() ||
+           std::any_of( mapDetectors.begin(), mapDetectors.end(),
+                        []( const auto& in_entry ) { return !in_entry.second->getSequence().empty(); } );
 }
 
 } // namespace
@@ -114,15 +117,18 @@ void adviseNoHangUpDetection( const AdviceSubject& in_subject, AdviceReport& ino
         if ( hConfig->getApplyToAnalogInterfaces().empty() || !pSupervision || hasDetector( *pSupervision ) )
             continue;
         const AdvicePlace place = placeOf( AdviceSubject::AnalogUse{ hConfig.get(), false } );
+        const AdvicePlace supervision = place.below( "disconnectSupervision" );
+        const AdvicePlace detector = supervision.below( "disconnectDetectors/detector", "sequence" );
+        const bool bDetectors = !pSupervision->getDisconnectDetectorsMap().empty();
         // A detector that could not be read has a finding of its own.
-        if ( inout_report.getDocument()
-                 .find( place.vecKeys.front(), "disconnectSupervision/disconnectDetectors/detector" )
-                 .pElement )
+        if ( !bDetectors && inout_report.getDocument().find( place.vecKeys.front(), detector.strBelow ).pElement )
             continue;
-        inout_report.add(
-            { place.below( "disconnectSupervision" ),
-              "the lines of analogFxoConfig " + std::to_string( uId ) + " never notice that the far end hung up",
-              "add a detector to its disconnectDetectors" } );
+        const std::string strLines =
+            "the lines of analogFxoConfig " + std::to_string( uId ) + " never notice that the far end hung up";
+        if ( bDetectors )
+            inout_report.add( { detector, "", "an empty sequence detects nothing, and " + strLines } );
+        else
+            inout_report.add( { supervision, strLines, "add a detector to its disconnectDetectors" } );
     }
 }
 
