@@ -41,7 +41,7 @@ public:
             if ( !item.pElement )
                 continue;
             m_bGroupsMayBeFilled = m_bGroupsMayBeFilled || mayFillGroups( item );
-            if ( item.isMain() && item.is( Rules::NO_CALL_CONTROL ) && finding.vecRelated.empty() )
+            if ( item.isMain() && item.is( Rules::NO_CALL_CONTROL ) )
                 m_vecWithoutCallControl.push_back( &item );
             if ( item.is( Rules::PHYSICAL_CONFIG_TWICE ) )
                 m_setCopies.insert( getElementNumber( getChain( item.pElement )[1] ) );
@@ -83,16 +83,19 @@ private:
     }
 
     /// Such a reference may have been meant for the line that nobody names: one of the same board, or of the same
-    /// number.
+    /// number. Without a number it may have been meant for all lines of any board.
     bool takeLineFrom( const Finding& in_advice ) {
         if ( m_vecElements.empty() && !m_vecWithoutCallControl.empty() )
             m_vecElements = getTree( m_pRoot );
         for ( SurveyedFinding* const pItem : m_vecWithoutCallControl ) {
             const xmlNode* const pLine = pItem->pElement;
             const xmlNode* const pReference = m_vecElements[in_advice.ullElement - 1];
-            if ( pItem->finding.bEcho || isAnalog( pLine ) != isAnalog( pReference ) ||
-                 ( getNumber( pReference, "boardID" ) != getNumber( getParentElement( pLine ), "ID" ) &&
-                   getNumber( pReference, "interfaceID" ) != getNumber( pLine, "ID" ) ) )
+            const bool bMeant =
+                getValue( pReference, "interfaceID" ).empty() ||
+                ( pItem->finding.vecRelated.empty() &&
+                  ( getNumber( pReference, "boardID" ) == getNumber( getParentElement( pLine ), "ID" ) ||
+                    getNumber( pReference, "interfaceID" ) == getNumber( pLine, "ID" ) ) );
+            if ( pItem->finding.bEcho || !bMeant || isAnalog( pLine ) != isAnalog( pReference ) )
                 continue;
             pItem->finding.bEcho = true;
             return true;
