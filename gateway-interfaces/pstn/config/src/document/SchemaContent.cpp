@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "document/Element.h"
-#include "reading/ChildElements.h"
 
 namespace Velquin::Pstn {
 
@@ -34,7 +33,7 @@ SchemaContent::Names SchemaContent::collect( SchemaPatterns& in_patterns, const 
         return takeName( getPatternAttribute( in_pPattern, "name" ) );
     if ( isPattern( in_pPattern, "attribute" ) ) {
         const std::string strName = getPatternAttribute( in_pPattern, "name" );
-        m_bPrefixes = m_bPrefixes || strName.empty() || strName.find( ':' ) != std::string::npos;
+        m_bPrefixes = m_bPrefixes || strName.find( ':' ) != std::string::npos;
         return 0;
     }
     if ( isPattern( in_pPattern, "ref" ) ) {
@@ -48,7 +47,6 @@ SchemaContent::Names SchemaContent::collect( SchemaPatterns& in_patterns, const 
         return all;
     }
     m_bText = m_bText || isOneOf( in_pPattern, { "text", "data", "value", "list", "mixed" } );
-    m_bOpen = m_bOpen || isOneOf( in_pPattern, { "grammar", "parentRef", "externalRef" } );
     const bool bInterleave = isOneOf( in_pPattern, { "interleave", "mixed" } );
     const Names names = collectContent( in_patterns, in_pPattern, !isPattern( in_pPattern, "choice" ), bInterleave );
     if ( isOneOf( in_pPattern, { "zeroOrMore", "oneOrMore" } ) )
@@ -61,7 +59,7 @@ SchemaContent::Names SchemaContent::collect( SchemaPatterns& in_patterns, const 
 SchemaContent::Names SchemaContent::collectContent( SchemaPatterns& in_patterns, const xmlNode* in_pPattern,
                                                     bool in_bForward, bool in_bBackward ) {
     Names all = 0;
-    for ( const xmlNode* const pPart : ChildElements( in_pPattern ) ) {
+    for ( const xmlNode* const pPart : ChildPatterns( in_pPattern ) ) {
         const Names names = collect( in_patterns, pPart );
         if ( in_bForward )
             allow( all, names );
@@ -75,7 +73,7 @@ SchemaContent::Names SchemaContent::collectContent( SchemaPatterns& in_patterns,
 SchemaContent::Names SchemaContent::takeName( std::string_view in_strName ) {
     const auto it = std::find( m_vecNames.begin(), m_vecNames.end(), in_strName );
     const auto uName = static_cast<std::size_t>( it - m_vecNames.begin() );
-    if ( in_strName.empty() || uName == MAX_NAMES ) {
+    if ( uName == MAX_NAMES ) {
         m_bOpen = true;
         return 0;
     }

@@ -58,7 +58,7 @@ private:
     std::array<Names, MAX_NAMES> m_aInFront{}; ///< which names may stand in front of a name
     bool m_bText = false;
     bool m_bPrefixes = false;
-    bool m_bOpen = false; ///< whether the schema takes names that it doesn't list, or is too tangled to follow
+    bool m_bOpen = false; ///< whether the schema can't be followed, or has too many names for this class
 };
 
 } // namespace Velquin::Pstn

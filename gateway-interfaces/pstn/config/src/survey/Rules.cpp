@@ -47,9 +47,8 @@ constexpr auto LOAD_RULES = std::to_array<Rule>( {
       "Mostly its name is misspelt, it stands in the wrong parent or in the wrong order, or it stands twice where only "
       "one may stand. Correct, move or remove it." },
     { Rules::UNEXPECTED_TEXT, Severity::FAULT, "text stands between the elements",
-      "The format holds all that it says in attributes. Mostly a text is what remains of a tag that lost its <, or of "
-      "a "
-      "comment that lost its marks. Mend the tag, or remove the text." },
+      "The format holds all that it says in attributes. Mostly a text is what remains of a tag that lost its <, or "
+      "of a comment that lost its marks. Mend the tag, or remove the text." },
     { Rules::INVALID_SEQUENCE, Severity::FAULT, "the sequence of a detector can't be read",
       "A sequence is a list of events with commas between them, each with at most one slash: \"busy/3,silence\". The "
       "gateway leaves out the whole disconnect supervision, and the lines never notice that the far end hung up. "
