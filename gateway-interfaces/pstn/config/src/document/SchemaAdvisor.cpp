@@ -109,8 +109,13 @@ void SchemaAdvisor::adviseOnChildren( xmlNode* in_pElement ) {
 void SchemaAdvisor::adviseOnDocument( xmlNode* in_pRoot ) {
     m_patterns.beginElement();
     const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_pRoot );
-    if ( !vecPatterns.empty() )
+    if ( !vecPatterns.empty() ) {
         adviseOnTree( in_pRoot, vecPatterns );
+        return;
+    }
+    const std::vector<std::string> vecNames = m_patterns.findChildNames( m_patterns.getDefinitions( nullptr ) );
+    if ( !m_patterns.isLost() && !vecNames.empty() )
+        reportUnexpected( in_pRoot, describeNames( getElementName( in_pRoot ), vecNames ) );
 }
 
 void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns ) {
