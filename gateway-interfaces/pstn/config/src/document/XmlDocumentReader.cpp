@@ -51,12 +51,12 @@ std::uint32_t getLine( void* in_pContext ) {
     return nLine > 0 ? static_cast<std::uint32_t>( nLine ) : 0;
 }
 
-void reportFile( const ParseState& in_state, const char* in_szRule, unsigned long long in_ullLine,
+void reportFile( const ParseState& in_state, std::string_view in_strRule, unsigned long long in_ullLine,
                  std::string in_strMessage ) {
     Finding finding;
-    if ( in_szRule == Rules::UNREADABLE_FILE )
+    if ( in_strRule == Rules::UNREADABLE_FILE )
         finding.eKind = Finding::Kind::UNREADABLE_FILE;
-    finding.strRule = in_szRule;
+    finding.strRule = in_strRule;
     finding.strFile = in_state.szPath;
     finding.ullLine = in_ullLine;
     finding.strMessage = std::move( in_strMessage );

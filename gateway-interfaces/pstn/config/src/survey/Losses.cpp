@@ -114,8 +114,8 @@ void Losses::addLostTag( const SurveyedFinding& in_item ) {
 }
 
 void Losses::addDeclaration( const xmlNode* in_pElement ) {
-    if ( const char* const szRule = getReferenceRule( in_pElement ) )
-        m_mapDeclarations[szRule].insert(
+    if ( const std::string strRule( getReferenceRule( in_pElement ) ); !strRule.empty() )
+        m_mapDeclarations[strRule].insert(
             describeDeclaration( in_pElement, !m_setWithoutIdentifier.contains( in_pElement ) ) );
 }
 
@@ -127,7 +127,7 @@ void Losses::addReferences( const xmlNode* in_pLost ) {
         addReference( *it );
         return;
     }
-    bool bAny = !getReferenceRule( in_pLost ) && !hasReferences( vecChain );
+    bool bAny = getReferenceRule( in_pLost ).empty() && !hasReferences( vecChain );
     for ( const xmlNode* const pElement : getTree( in_pLost ) ) {
         if ( !isReference( pElement ) )
             continue;

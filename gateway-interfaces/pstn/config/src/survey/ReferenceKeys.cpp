@@ -60,7 +60,7 @@ std::vector<std::string> describeTargets( const SurveyedFinding& in_item ) {
              joinIdentifiers( ANY, ANY ) };
 }
 
-const char* getReferenceRule( const xmlNode* in_pElement ) {
+std::string_view getReferenceRule( const xmlNode* in_pElement ) {
     static constexpr std::pair<const char*, const char*> RULES[] = {
         { "interface", Rules::UNKNOWN_INTERFACE },       { "channelGroup", Rules::UNKNOWN_CHANNEL_GROUP },
         { "tirvanaDigitalBoard", Rules::UNKNOWN_BOARD }, { "tirvanaVirtualDigitalBoard", Rules::UNKNOWN_BOARD },
@@ -73,14 +73,14 @@ const char* getReferenceRule( const xmlNode* in_pElement ) {
     // A misspelt name leaves the place.
     const auto vecChain = getChain( in_pElement );
     if ( vecChain.size() != 2 && vecChain.size() != 3 )
-        return nullptr;
+        return {};
     const std::string_view strSection = getElementName( vecChain[0] ); // may be misspelt
     if ( strSection == "physicalInterfaceConfigs" || strSection == "providers" )
-        return nullptr;
+        return {};
     if ( strSection == "callControl" )
         return vecChain.size() == 3 && !isNamed( vecChain[1], "isdn" ) && !isNamed( vecChain[1], "analog" )
                    ? Rules::UNKNOWN_CHANNEL_GROUP
-                   : nullptr;
+                   : "";
     return vecChain.size() == 2 ? Rules::UNKNOWN_BOARD : Rules::UNKNOWN_INTERFACE;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "survey/SurveyRecord.h"
@@ -38,8 +39,8 @@ std::string describeTarget( const SurveyedFinding& in_item );
 std::vector<std::string> describeTargets( const SurveyedFinding& in_item );
 
 /// The rule of references to nothing, for an element that stands where a board, an interface or a channel group is
-/// declared; else null.
-const char* getReferenceRule( const xmlNode* in_pElement );
+/// declared; else empty.
+std::string_view getReferenceRule( const xmlNode* in_pElement );
 
 /// What such an element declares, without kind.
 /// @param in_bKnown whether its identifier is what it should be
