@@ -149,6 +149,7 @@ void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Pa
     const bool bMisplaced = adviseOnOrder( in_pElement, content.findMisplaced( std::move( vecKnown ) ) );
     m_uFaultyElements += !vecFaults.empty() || !vecMissing.empty() || bForeign || bText || bMisplaced;
     std::vector<std::string> vecUnknownNames;
+    vecUnknownNames.reserve( vecUnknown.size() );
     for ( const xmlNode* const pChild : vecUnknown )
         vecUnknownNames.emplace_back( getElementName( pChild ) );
     const std::vector<std::string> vecMeant = matchNames( vecUnknownNames, vecMissing );
