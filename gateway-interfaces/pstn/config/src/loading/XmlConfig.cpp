@@ -48,7 +48,7 @@ private:
 } // namespace
 
 /// The steps of a load. The copies of an XmlConfig share this object; it works for the copy that is loading.
-class XmlConfig::Impl {
+class VELQUIN_PSTN_CONFIG_HIDDEN XmlConfig::Impl {
     VELQUIN_MEM_ACCOUNT( Impl );
 
 public:

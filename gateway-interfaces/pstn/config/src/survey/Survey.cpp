@@ -151,7 +151,7 @@ void Reading::findElements() {
 
 } // namespace
 
-class Survey::Impl {
+class VELQUIN_PSTN_CONFIG_HIDDEN Survey::Impl {
 public:
     bool run( const char* in_szConfigFile, const char* in_szSchemaFile, bool in_bLogContent );
 
