@@ -18,8 +18,6 @@ namespace Velquin::Pstn {
 
 namespace {
 
-constexpr double NO_LIMIT = 4294967295.0;
-
 /// The values that make sense for an attribute.
 struct Limit {
     const char* szAttribute;
@@ -68,19 +66,21 @@ constexpr Limit RINGS{ "numberOfRings", 1, 30, "give 1 to 30 rings" };
 // ITU-T Q.24: receivers take digits and pauses of 40 ms or longer. A second for each is a slip.
 constexpr Limit DIGIT{ "DTMFDigitDurationInMs", 40, 1000, "give 40 to 1000 ms; exchanges miss shorter digits" };
 constexpr Limit PAUSE{ "interDigitDelayInMs", 40, 1000, "give 40 to 1000 ms; exchanges miss shorter pauses" };
-constexpr Limit DISCONNECT{ "disconnectTimeoutMs", 1000, NO_LIMIT,
-                            "give the far end time to answer, in milliseconds: 60000 is usual" };
-// ITU-T E.180: the silence between two rings lasts up to 5 s.
-constexpr Limit NO_REMOTE_RING{ "connectOnNoRemoteRingTimeoutMs", 5000, NO_LIMIT,
-                                "give at least 5000 ms, the silence between two rings" };
-constexpr Limit RING_OFF{ "ringCadenceOffDelayMs", 5000, NO_LIMIT,
-                          "give at least 5000 ms, the silence between two rings" };
+// ITU-T Q.931, T301: a network lets a telephone ring for 3 minutes at least. A line that waits for 10 is a slip.
+constexpr Limit DISCONNECT{ "disconnectTimeoutMs", 1000, 600000,
+                            "give the far end 1000 to 600000 ms to answer; 60000 is usual" };
+// ITU-T E.180: the silence between two rings lasts up to 5 s. After a minute of it, nothing rings any more.
+constexpr Limit NO_REMOTE_RING{ "connectOnNoRemoteRingTimeoutMs", 5000, 60000,
+                                "give 5000 to 60000 ms: the silence between two rings lasts 5000" };
+constexpr Limit RING_OFF{ "ringCadenceOffDelayMs", 5000, 60000,
+                          "give 5000 to 60000 ms: the silence between two rings lasts 5000" };
 
 // People dial a digit within a second or two; ITU-T Q.931 waits 10 to 15 s for the next one (T302).
 constexpr Limit INTER_DIGIT{ "interDigitTimeoutMs", 1000, 60000, "give people 1000 to 60000 ms; 5000 is usual" };
 // ITU-T E.164: a number has 15 digits at most.
 constexpr Limit DIGITS{ "minExpectedDigits", 0, 15, "no number has more than 15 digits" };
-constexpr Limit DIAL_TONE{ "dialToneDurationMs", 1, NO_LIMIT, "give the telephone a dial tone; 15000 ms is usual" };
+// No standard gives a figure. A telephone that was left off-hook for 2 minutes won't dial.
+constexpr Limit DIAL_TONE{ "dialToneDurationMs", 1, 120000, "give a dial tone of 1 to 120000 ms; 15000 is usual" };
 // An interruption that a telephone takes for a hang-up, not for a disturbance, and that ends.
 constexpr Limit CURRENT_DISCONNECT{ "currentDisconnectDurationMs", 100, 5000, "give 100 to 5000 ms; 750 is usual" };
 
