@@ -55,10 +55,13 @@ std::string getMeant( const Finding& in_finding ) {
 /// A reader finds again what the schema's advice has found, and misses what is only misspelt.
 void markSecondReports( SurveyRecord& inout_record ) {
     std::set<std::tuple<const xmlNode*, std::string>> setSeen;
+    bool bOtherKind = false; // a file of another kind misses everything
     for ( const SurveyedFinding& item : inout_record.vecFindings ) {
         const Finding& finding = item.finding;
         if ( !item.isMain() || !item.pElement )
             continue;
+        if ( item.pElement == inout_record.pRoot && item.is( Rules::UNKNOWN_ELEMENT ) )
+            bOtherKind = !finding.strHint.starts_with( "did you mean" );
         if ( finding.eKind == Finding::Kind::UNKNOWN_ATTRIBUTE )
             setSeen.emplace( item.pElement, getMeant( finding ) );
         else if ( finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
@@ -72,8 +75,9 @@ void markSecondReports( SurveyRecord& inout_record ) {
             continue;
         const bool bSeen = !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
         // A reader may miss the attribute of a child that is missing.
-        item.finding.bEcho =
-            bSeen || ( item.is( Rules::MISSING_ATTRIBUTE ) && setWithoutChild.contains( item.pElement ) );
+        item.finding.bEcho = bSeen ||
+                             ( item.is( Rules::MISSING_ATTRIBUTE ) && setWithoutChild.contains( item.pElement ) ) ||
+                             ( item.is( Rules::MISSING_ELEMENT ) && item.pElement == inout_record.pRoot && bOtherKind );
         if ( item.is( Rules::MISSING_ELEMENT ) )
             setWithoutChild.insert( item.pElement );
     }
