@@ -1,10 +1,12 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
 #include <velquin/GlobalConfig.h>
+#include <velquin/pstn/RuleNames.h>
 #include <velquin/pstn/loading/PSTNConfigParamDefs.h>
 
 #include "../Command.h"
@@ -15,6 +17,7 @@
 #include "RuleHelp.h"
 #include "TextReport.h"
 
+using Velquin::Finding;
 using Velquin::GlobalConfig;
 using Velquin::Pstn::PSTNConfigParamDefs;
 
@@ -56,6 +59,7 @@ public:
     ExitCode run();
 
 private:
+    CheckedFile check( const std::string& in_strFile ) const;
     bool readParameters();
     void add( const CheckedFile& in_file );
 
@@ -75,7 +79,7 @@ ExitCode Check::run() {
     for ( const std::string& strFile : m_options.vecFiles ) {
         progress.begin( strFile );
         s_file = {}; // releases the last model before it makes the next
-        s_file = checkFile( InputFile( strFile ), m_options.request );
+        s_file = check( strFile );
         progress.clear();
         add( s_file );
         if ( !std::cout.flush() )
@@ -83,6 +87,24 @@ ExitCode Check::run() {
     }
     m_pReport->finish( m_totals );
     return m_eWorst;
+}
+
+/// Checks a file. Unreadable standard input is a finding, as an unreadable file is: the other files are still checked.
+CheckedFile Check::check( const std::string& in_strFile ) const try {
+    return checkFile( InputFile( in_strFile ), m_options.request );
+} catch ( const std::runtime_error& error ) {
+    Finding finding;
+    finding.eKind = Finding::Kind::UNREADABLE_FILE;
+    finding.strRule = Velquin::Pstn::Rules::UNREADABLE_FILE;
+    finding.nLevel = Velquin::Logger::ERROR_LEVEL;
+    finding.strFile = InputFile::nameOf( in_strFile );
+    finding.strMessage = error.what();
+    CheckedFile file;
+    file.strFile = finding.strFile;
+    file.eVerdict = Verdict::UNCHECKED;
+    file.getLine = []( unsigned long long ) { return std::string_view(); };
+    file.add( std::move( finding ) );
+    return file;
 }
 
 /// Loads the gateway's parameters. Where the command line names no file, they do.
