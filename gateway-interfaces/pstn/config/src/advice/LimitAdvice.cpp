@@ -1,4 +1,4 @@
-#include <string>
+#include <string_view>
 
 #include "advice/AdviceTable.h"
 #include "analog/AnalogCallControlConfig.h"
@@ -25,6 +25,10 @@ struct Limit {
     double dMost;
     const char* szHint;
 };
+
+// PCI Local Bus Specification 3.0, 3.2.2.3: a configuration address has 8 bits for the bus, 5 for the device on it.
+constexpr Limit PCI_BUS{ "pciBus", 0, 255, "PCI has the buses 0 to 255" };
+constexpr Limit PCI_SLOT{ "pciSlot", 0, 31, "a PCI bus has the slots 0 to 31" };
 
 // One process of the gateway serves its cards: more threads than processors of a large host only wait for each other.
 constexpr Limit THREADS{ "count", 1, 256, "give 1 to 256 threads; without one, the channels are not served" };
@@ -75,6 +79,7 @@ constexpr Limit NO_REMOTE_RING{ "connectOnNoRemoteRingTimeoutMs", 5000, 60000,
 constexpr Limit RING_OFF{ "ringCadenceOffDelayMs", 5000, 60000,
                           "give 5000 to 60000 ms: the silence between two rings lasts 5000" };
 
+constexpr std::string_view KEYS = "0123456789*#";
 // People dial a digit within a second or two; ITU-T Q.931 waits 10 to 15 s for the next one (T302).
 constexpr Limit INTER_DIGIT{ "interDigitTimeoutMs", 1000, 60000, "give people 1000 to 60000 ms; 5000 is usual" };
 // ITU-T E.164: a number has 15 digits at most.
@@ -108,6 +113,18 @@ void checkProviders( const AdviceSubject& in_subject, AdviceReport& inout_report
         };
         checkThreads( pProvider->getBChannelsThreadsConfig(), "BChannelsThreads" );
         checkThreads( pProvider->getDChannelsThreadsConfig(), "DChannelsThreads" );
+    }
+}
+
+void checkBoards( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
+    for ( const AdviceSubject::Board& board : in_subject.vecBoards ) {
+        const auto checkWhere = [&]( const Limit& in_limit, const Fallible<unsigned long long>& in_where ) {
+            if ( in_where.isSet() )
+                check( in_limit, static_cast<double>( in_where.get() ), inout_report,
+                       [&] { return placeOf( board ); } );
+        };
+        checkWhere( PCI_BUS, board.pBoard->getPCIBus() );
+        checkWhere( PCI_SLOT, board.pBoard->getPCISlot() );
     }
 }
 
@@ -226,7 +243,7 @@ void checkFxs( const AnalogFxsConfig& in_config, AdviceReport& inout_report ) {
     };
     const AnalogFxsConfig::HotlineDialingConfig* const pHotline = in_config.getHotlineDialingConfigHandle().get();
     const bool bHotline = pHotline && pHotline->isEnabled();
-    if ( bHotline && *pHotline->getDialingNumber() == '\0' )
+    if ( bHotline && std::string_view( pHotline->getDialingNumber() ).find_first_of( KEYS ) == std::string_view::npos )
         inout_report.add( { getPlace( "hotlineDialing" )().attribute( "dialingNumber" ), "",
                             "give the number that the telephone dials by itself" } );
     if ( const auto* const p = in_config.getInboundCallHandlingConfigHandle().get() ) {
@@ -246,6 +263,7 @@ void checkFxs( const AnalogFxsConfig& in_config, AdviceReport& inout_report ) {
 
 void adviseValueOutOfCustom( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     checkProviders( in_subject, inout_report );
+    checkBoards( in_subject, inout_report );
     checkPhysicals( in_subject, inout_report );
     if ( in_subject.hCallControl.isNull() )
         return;
