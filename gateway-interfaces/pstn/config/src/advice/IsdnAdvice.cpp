@@ -59,11 +59,14 @@ void adviseSeveral( const IsdnNfasConfig& in_group, const std::vector<const Memb
     inout_report.add( advice );
 }
 
-/// Nothing when the member's span has no physical configuration.
-std::optional<MediaType> getMediaType( const Member& in_member ) {
-    if ( in_member.getInterfaceConfig().isNull() || in_member.getInterfaceConfig()->getPhysicalConfig().isNull() )
+/// Nothing when the member's span has no physical configuration, or a faulty one.
+std::optional<MediaType> getMediaType( const Member& in_member, AdviceReport& in_report ) {
+    const DigitalInterfaceConfig* const pInterface = in_member.getInterfaceConfig().get();
+    const DigitalInterfacePhysicalConfig* const pPhysical =
+        pInterface ? pInterface->getPhysicalConfig().get() : nullptr;
+    if ( !pPhysical || in_report.isFaulty( placeOf( AdviceSubject::Physical{ pPhysical, pInterface } ) ) )
         return {};
-    return in_member.getInterfaceConfig()->getPhysicalConfig()->getMediaType();
+    return pPhysical->getMediaType();
 }
 
 } // namespace
@@ -111,13 +114,14 @@ void adviseNfasPrimary( const AdviceSubject& in_subject, AdviceReport& inout_rep
 void adviseNfasMixedMedia( const AdviceSubject& in_subject, AdviceReport& inout_report ) {
     forEachGroup( in_subject, [&]( const IsdnNfasConfig& in_group ) {
         const Member* pFirst = nullptr;
+        std::optional<MediaType> eFirst;
         for ( const auto& [strInterface, hMember] : in_group.getMemberInterfaces() ) {
-            const std::optional<MediaType> eMedia = getMediaType( *hMember );
-            if ( !eMedia )
-                continue;
-            if ( !pFirst )
+            const std::optional<MediaType> eMedia = getMediaType( *hMember, inout_report );
+            if ( !pFirst && eMedia ) {
                 pFirst = hMember.get();
-            if ( eMedia == getMediaType( *pFirst ) )
+                eFirst = eMedia;
+            }
+            if ( eMedia == eFirst || !eMedia )
                 continue;
             const bool bT1 = eMedia == MediaType::T1;
             inout_report.add( { placeOfMember( in_group, *hMember ),

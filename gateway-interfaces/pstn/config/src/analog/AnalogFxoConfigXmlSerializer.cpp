@@ -171,12 +171,12 @@ AnalogCallControlCommonConfig* AnalogFxoConfigXmlSerializer::read( TSHandle<Call
         return nullptr;
 
     xmlNode* const pDisconnectSupervision = reader.requireChild( "disconnectSupervision" );
-    if ( !pDisconnectSupervision )
+    if ( !pDisconnectSupervision && !AttributeReader::passOver() )
         return nullptr;
     // When the disconnect supervision can't be read, the line works without it.
     AnalogDisconnectSupervisionConfigXmlSerializer disconnectSupervisionXmlSerializer;
-    if ( !pFxoConfig->setDisconnectSupervisionConfig(
-             disconnectSupervisionXmlSerializer.read( pDisconnectSupervision, in_xmlConfig ) ) )
+    if ( pDisconnectSupervision && !pFxoConfig->setDisconnectSupervisionConfig( disconnectSupervisionXmlSerializer.read(
+                                       pDisconnectSupervision, in_xmlConfig ) ) )
         return nullptr;
 
     if ( !applyToAnalogInterfaces<InterfaceRefXmlSerializer>( reader, *pFxoConfig, in_hCallControlConfig,

@@ -107,7 +107,8 @@ AnalogCallControlCommonConfig* AnalogFxsConfigXmlSerializer::read( TSHandle<Call
     // Without the element, the new object's default stays: no notification.
     UniqueObjPtr<NotificationConfig> pNotificationConfig( new NotificationConfig() );
     if ( ( XML::findFirstElement( in_pElement, "disconnectAnswerNotification" ) &&
-           !reader.readChild( "disconnectAnswerNotification", readNotification, *pNotificationConfig ) ) ||
+           !reader.readChild( "disconnectAnswerNotification", readNotification, *pNotificationConfig ) &&
+           !AttributeReader::passOver() ) ||
          !pFxsConfig->setDisconnectAnswerNotificationConfig( pNotificationConfig.release() ) )
         return nullptr;
 

@@ -57,14 +57,15 @@ bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
     if ( !VELQUIN_ASSERT( !in_hCallControlConfig.isNull() ) )
         return false;
     InterfaceReference<AnalogKind> reference( reader, in_logger, LEADING_DECIMAL );
-    if ( !reference.readBoard( in_config ) )
+    if ( !reference.readBoard( in_config ) && !AttributeReader::passOver() )
         return false;
     AttributeText channelGroupId;
-    if ( !reader.requireText( "channelGroupID", channelGroupId ) )
+    TSHandle<ChannelGroupConfig> hChannelGroup;
+    if ( reader.requireText( "channelGroupID", channelGroupId ) )
+        hChannelGroup = in_hCallControlConfig->getChannelGroupConfig( channelGroupId.c_str() );
+    if ( hChannelGroup.isNull() && !AttributeReader::passOver() )
         return false;
-    const TSHandle<ChannelGroupConfig> hChannelGroup =
-        in_hCallControlConfig->getChannelGroupConfig( channelGroupId.c_str() );
-    if ( hChannelGroup.isNull() )
+    if ( reference.getBoard().isNull() )
         return false;
 
     const char* szInterfaceFailure = nullptr;
@@ -90,6 +91,8 @@ bool readAnalogInterfaceRef( typename TFamily::AnalogConfig& inout_analogConfig,
         }
         szInterfaceFailure = "failed to set interface for BChannelRange";
     }
+    if ( hChannelGroup.isNull() )
+        return false;
     for ( const auto& hInterface : reference.getInterfaces() ) {
         if ( !addBChannelRange<TFamily>( inout_analogConfig, *hInterface, szInterfaceFailure, *hChannelGroup,
                                          in_logger ) )
@@ -118,7 +121,8 @@ bool readPart( const ElementReader& in_reader, const char* in_szChild,
                bool ( *in_read )( const ElementReader&, TPart& ), TConfig& out_config,
                bool ( TConfig::*in_set )( TPart* ) ) {
     UniqueObjPtr<TPart> pPart( new TPart() );
-    return in_reader.readChild( in_szChild, *in_read, *pPart ) && ( out_config.*in_set )( pPart.release() );
+    return ( in_reader.readChild( in_szChild, *in_read, *pPart ) && ( out_config.*in_set )( pPart.release() ) ) ||
+           AttributeReader::passOver();
 }
 
 } // namespace Velquin::Pstn

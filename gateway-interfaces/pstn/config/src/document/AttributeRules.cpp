@@ -19,15 +19,6 @@ namespace {
 constexpr unsigned int MAX_UNKNOWN_ATTRIBUTES = 10;
 constexpr std::size_t MAX_LISTED_VALUES = 12; // of a longer list, only the nearest helps
 
-template <class TMap>
-std::vector<std::string> getNames( const TMap& in_map ) {
-    std::vector<std::string> vecNames;
-    vecNames.reserve( in_map.size() );
-    for ( const auto& [strName, value] : in_map )
-        vecNames.push_back( strName );
-    return vecNames;
-}
-
 struct RegexpDeleter {
     void operator()( xmlRegexp* in_p ) const noexcept { xmlRegFreeRegexp( in_p ); }
 };
@@ -109,10 +100,18 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
         if ( pAttribute->ns || m_rules.contains( szName ) )
             continue;
         vecFaults.push_back( { szName, Rules::UNKNOWN_ATTRIBUTE, "The element has no such attribute.",
-                               describeNames( szName, getNames( m_rules ) ) } );
+                               describeNames( szName, getNames() ) } );
         ++uUnknown;
     }
     return vecFaults;
+}
+
+std::vector<std::string> AttributeRules::getNames() const {
+    std::vector<std::string> vecNames;
+    vecNames.reserve( m_rules.size() );
+    for ( const auto& [strName, rule] : m_rules )
+        vecNames.push_back( strName );
+    return vecNames;
 }
 
 /// What the rule wants instead of the value; empty when it takes the value.

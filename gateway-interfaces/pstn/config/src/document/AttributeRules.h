@@ -26,6 +26,9 @@ public:
     /// What is wrong with the attributes of the element; empty where the schema is too tangled to follow.
     std::vector<Fault> findFaults() const;
 
+    /// The names of all attributes that the element may have.
+    std::vector<std::string> getNames() const;
+
 private:
     /// What the schema says of one attribute.
     struct Rule {

@@ -19,14 +19,19 @@ constexpr ReaderWording CHILD_WORDING{ "] for element ", "", "Missing element ["
 constexpr unsigned int MAX_FAULTY_ELEMENTS = 1000;
 constexpr unsigned int MAX_OF_ONE_KIND = 10; // in one element
 
-/// For each unknown name the missing one that is meant, and taken off the others: the nearest, or the one that is left
-/// when one is left of each. Empty for the rest.
+/// For each unknown name the one that is meant: the nearest of the missing ones, which it is taken off; the nearest of
+/// all; or the missing one that is left when one is left of each. Empty for the rest.
 std::vector<std::string> matchNames( const std::vector<std::string>& in_vecUnknown,
+                                     std::span<const std::string> in_known,
                                      std::vector<std::string>& inout_vecMissing ) {
     std::vector<std::string> vecMeant;
     for ( const std::string& strName : in_vecUnknown ) {
-        vecMeant.push_back( findNearest( strName, inout_vecMissing ) );
-        std::erase( inout_vecMissing, vecMeant.back() );
+        const std::string strMissing = findNearest( strName, inout_vecMissing );
+        const std::string& strMeant =
+            vecMeant.emplace_back( strMissing.empty() ? findNearest( strName, in_known ) : strMissing );
+        std::erase_if( inout_vecMissing, [&strMeant]( const std::string& in_strAlternatives ) {
+            return !strMeant.empty() && ( strMeant == in_strAlternatives || isAmong( strMeant, in_strAlternatives ) );
+        } );
     }
     if ( inout_vecMissing.size() == 1 && std::count( vecMeant.begin(), vecMeant.end(), "" ) == 1 ) {
         *std::find( vecMeant.begin(), vecMeant.end(), "" ) = inout_vecMissing[0];
@@ -36,7 +41,7 @@ std::vector<std::string> matchNames( const std::vector<std::string>& in_vecUnkno
 }
 
 /// An attribute that is missing may be there under a wrong name: then only that is a fault.
-void joinFaults( std::vector<AttributeRules::Fault>& inout_vecFaults ) {
+void joinFaults( std::span<const std::string> in_known, std::vector<AttributeRules::Fault>& inout_vecFaults ) {
     const auto getNames = [&inout_vecFaults]( std::string_view in_strRule ) {
         std::vector<std::string> vecNames;
         for ( const AttributeRules::Fault& fault : inout_vecFaults ) {
@@ -46,7 +51,7 @@ void joinFaults( std::vector<AttributeRules::Fault>& inout_vecFaults ) {
         return vecNames;
     };
     std::vector<std::string> vecMissing = getNames( Rules::MISSING_ATTRIBUTE );
-    const std::vector<std::string> vecMeant = matchNames( getNames( Rules::UNKNOWN_ATTRIBUTE ), vecMissing );
+    const std::vector<std::string> vecMeant = matchNames( getNames( Rules::UNKNOWN_ATTRIBUTE ), in_known, vecMissing );
     std::erase_if( inout_vecFaults, [&vecMissing]( const AttributeRules::Fault& in_fault ) {
         return in_fault.szRule == std::string_view( Rules::MISSING_ATTRIBUTE ) &&
                std::find( vecMissing.begin(), vecMissing.end(), in_fault.strAttribute ) == vecMissing.end();
@@ -120,9 +125,9 @@ void SchemaAdvisor::adviseOnDocument( xmlNode* in_pRoot ) {
 
 void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns ) {
     m_patterns.beginElement();
-    std::vector<AttributeRules::Fault> vecFaults =
-        AttributeRules( m_patterns, in_vecPatterns, in_pElement ).findFaults();
-    joinFaults( vecFaults );
+    const AttributeRules rules( m_patterns, in_vecPatterns, in_pElement );
+    std::vector<AttributeRules::Fault> vecFaults = rules.findFaults();
+    joinFaults( rules.getNames(), vecFaults );
     report( in_pElement, vecFaults );
     std::vector<xmlNode*> vecKnown;
     std::vector<xmlNode*> vecUnknown;
@@ -152,7 +157,7 @@ void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Pa
     vecUnknownNames.reserve( vecUnknown.size() );
     for ( const xmlNode* const pChild : vecUnknown )
         vecUnknownNames.emplace_back( getElementName( pChild ) );
-    const std::vector<std::string> vecMeant = matchNames( vecUnknownNames, vecMissing );
+    const std::vector<std::string> vecMeant = matchNames( vecUnknownNames, vecNames, vecMissing );
     for ( std::size_t u = 0; u < vecUnknown.size(); ++u )
         reportUnexpected( vecUnknown[u],
                           describeNames( vecUnknownNames[u],

@@ -45,6 +45,11 @@ bool isPattern( const xmlNode* in_pPattern, std::string_view in_strName ) {
     return in_strName == getElementName( in_pPattern );
 }
 
+bool isAmong( const std::string& in_strName, const std::string& in_strAlternatives ) {
+    return in_strAlternatives.find( in_strName ) != std::string::npos &&
+           ( " or " + in_strAlternatives + " or " ).find( " or " + in_strName + " or " ) != std::string::npos;
+}
+
 SchemaPatterns::SchemaPatterns( const xmlDoc* in_pSchema ) {
     const xmlNode* const pGrammar = xmlDocGetRootElement( in_pSchema );
     m_bLost = isBeyond( pGrammar );

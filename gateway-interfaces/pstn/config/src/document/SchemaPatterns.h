@@ -100,6 +100,9 @@ private:
 std::string getPatternAttribute( const xmlNode* in_pPattern, const char* in_szName );
 bool isPattern( const xmlNode* in_pPattern, std::string_view in_strName );
 
+/// Whether a missing child, or one of its alternatives, has the name.
+bool isAmong( const std::string& in_strName, const std::string& in_strAlternatives );
+
 /// Appends the items that aren't there yet.
 template <class T>
 void merge( std::vector<T>& inout_vecAll, const std::vector<T>& in_vecMore ) {

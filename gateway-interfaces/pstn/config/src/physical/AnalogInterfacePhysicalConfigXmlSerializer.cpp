@@ -23,7 +23,7 @@ TSHandle<InterfacePhysicalConfig> AnalogInterfacePhysicalConfigXmlSerializer::re
 
     const ElementReader reader( in_pElement, getLogger(), PHYSICAL_CHILD_WORDING );
     xmlNode* const pAnalog = reader.requireChild( "analog" );
-    if ( !pAnalog || !readAnalog( pAnalog, *hAnalogInterfacePhysicalConfig ) )
+    if ( pAnalog ? !readAnalog( pAnalog, *hAnalogInterfacePhysicalConfig ) : !AttributeReader::passOver() )
         return {};
     const auto list = [&hAnalogInterfacePhysicalConfig]( AnalogInterfaceConfig& in_interface ) {
         return hAnalogInterfacePhysicalConfig->addApplyToAnalogInterface( &in_interface );

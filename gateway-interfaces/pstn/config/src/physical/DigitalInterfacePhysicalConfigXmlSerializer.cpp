@@ -24,7 +24,7 @@ xmlNode* findEither( xmlNode* in_pElement, const char* in_szName, const char* in
     return pChild ? pChild : XML::findFirstElement( in_pElement, in_szOtherName );
 }
 
-bool readSpan( const ElementReader& in_reader, DigitalInterfacePhysicalConfig& out_config ) {
+bool readLine( const ElementReader& in_reader, DigitalInterfacePhysicalConfig& out_config ) {
     using Config = DigitalInterfacePhysicalConfig;
     const bool bRead =
         in_reader.require( "framing", bySchema( Keywords::FRAMING ), out_config, &Config::setFraming ) &&
@@ -57,6 +57,14 @@ bool readDChannel( xmlNode* in_pSpan, XmlConfig& in_xmlConfig, DigitalInterfaceP
     return out_config.setDChannelConfig( pDChannelConfig );
 }
 
+bool readSpan( xmlNode* in_pSpan, XmlConfig& in_xmlConfig, const Logger& in_logger,
+               DigitalInterfacePhysicalConfig& out_config ) {
+    const ElementReader reader( in_pSpan, in_logger, PHYSICAL_SETTING_WORDING );
+    const bool bT1 = std::string_view( reader.getName() ) == "digitalT1";
+    out_config.setMediaType( bT1 ? MediaType::T1 : MediaType::E1 );
+    return readLine( reader, out_config ) && readDChannel( in_pSpan, in_xmlConfig, out_config );
+}
+
 } // namespace
 
 TSHandle<InterfacePhysicalConfig> DigitalInterfacePhysicalConfigXmlSerializer::read( xmlNode* const in_pElement,
@@ -71,16 +79,12 @@ TSHandle<InterfacePhysicalConfig> DigitalInterfacePhysicalConfigXmlSerializer::r
 
     const ElementReader reader( in_pElement, getLogger(), PHYSICAL_CHILD_WORDING );
     xmlNode* const pSpan = findEither( in_pElement, "digitalT1", "digitalE1" );
-    if ( !pSpan ) {
+    if ( !pSpan )
         reader.reportMissingChild( "digitalT1 or digitalE1" );
+    if ( pSpan ? !readSpan( pSpan, in_xmlConfig, getLogger(), *hDigitalInterfacePhysicalConfig )
+               : !AttributeReader::passOver() )
         return {};
-    }
-    const ElementReader spanReader( pSpan, getLogger(), PHYSICAL_SETTING_WORDING );
-    const bool bT1 = std::string_view( spanReader.getName() ) == "digitalT1";
-    hDigitalInterfacePhysicalConfig->setMediaType( bT1 ? MediaType::T1 : MediaType::E1 );
-    if ( !readSpan( spanReader, *hDigitalInterfacePhysicalConfig ) ||
-         !readDChannel( pSpan, in_xmlConfig, *hDigitalInterfacePhysicalConfig ) ||
-         !applyToInterfaces<DigitalKind>( reader, in_xmlConfig, getLogger(), hDigitalInterfacePhysicalConfig,
+    if ( !applyToInterfaces<DigitalKind>( reader, in_xmlConfig, getLogger(), hDigitalInterfacePhysicalConfig,
                                           []( const DigitalInterfaceConfig& ) { return true; } ) )
         return {};
     return hInterfacePhysicalConfig;

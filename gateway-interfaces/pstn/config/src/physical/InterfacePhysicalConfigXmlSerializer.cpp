@@ -32,7 +32,7 @@ TSHandle<InterfacePhysicalConfig> InterfacePhysicalConfigXmlSerializer::read( xm
 
     xmlNode* const pAudio = reader.as( AUDIO_CHILD_WORDING ).requireChild( "audio" );
     if ( !pAudio )
-        return {};
+        return AttributeReader::passOver() ? hInterfacePhysicalConfig : nullptr;
     const UniqueObjPtr<AudioConfigXmlSerializer> pAudioConfigXmlSerializer( newAudioConfigXmlSerializer() );
     if ( !VELQUIN_ASSERT( !pAudioConfigXmlSerializer.isNull() ) )
         return {};

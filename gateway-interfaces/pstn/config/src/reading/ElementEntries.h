@@ -22,9 +22,7 @@ EntriesRead walkEntries( const ChildElements& in_entries, const TRead& in_read )
     auto eRead = EntriesRead::ALL;
     for ( xmlNode* const pEntry : in_entries ) {
         const ElementPlace place( pEntry );
-        if ( pListener )
-            pListener->beginEntry( pEntry );
-        const bool bTaken = in_read( pEntry );
+        const bool bTaken = ( !pListener || pListener->beginEntry( pEntry ) ) && in_read( pEntry );
         if ( pListener ? pListener->endEntry( pEntry, bTaken ) : bTaken )
             continue;
         if ( !pListener )

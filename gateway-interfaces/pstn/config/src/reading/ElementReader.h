@@ -194,7 +194,7 @@ public:
         reportInvalid( { in_szAttribute, nullptr, in_strValue, in_szRule, {} }, in_strHint );
     }
 
-    /// Whether a reader goes on behind an attribute that it reported.
+    /// Whether a reader goes on behind an attribute or a part that it reported.
     static bool passOver();
 
     /// A value that is refused.

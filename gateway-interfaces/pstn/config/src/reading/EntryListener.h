@@ -5,7 +5,7 @@
 namespace Velquin::Pstn {
 
 /// Makes a load go on behind what it refuses, and hears of it. Serves the loads of the thread on which it was made,
-/// while it lives: a reader passes over an attribute that it can do without, readEntries() leaves a refused entry out,
+/// while it lives: a reader passes over what it can do without, readEntries() leaves a refused entry out,
 /// and the loader goes on with the next section, also in a document that the schema refuses.
 class EntryListener {
 public:
@@ -16,11 +16,12 @@ public:
     /// The document is read, and the schema has taken or refused it.
     virtual void beginDocument( const xmlNode* in_pRoot ) = 0;
     /// Entries stand in each other: entry and end of entry come in pairs.
-    virtual void beginEntry( const xmlNode* in_pEntry ) = 0;
+    /// @return whether the entry is read; else it is refused without a word
+    virtual bool beginEntry( const xmlNode* in_pEntry ) = 0;
     /// @param in_bTaken whether its reader took it
     /// @return whether a load without listener would have taken it, too
     virtual bool endEntry( const xmlNode* in_pEntry, bool in_bTaken ) = 0;
-    /// An attribute is missing or refused, and was reported. The model would keep the value that it begins with.
+    /// An attribute or a part is missing or refused, and was reported. The model would keep what it begins with.
     /// @return whether the reader of the entry goes on
     virtual bool passOver() = 0;
     /// Everything is read and cross-checked. The document still stands.

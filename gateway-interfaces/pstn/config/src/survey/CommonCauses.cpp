@@ -76,7 +76,7 @@ CommonCauses::CommonCauses( const SurveyRecord& in_record )
       m_boards( in_record.pRoot, "boards" ),
       m_physical( in_record.pRoot, "physicalInterfaceConfigs" ),
       m_callControl( in_record.pRoot, "callControl" ) {
-    gatherWholeBoards( in_record.pRoot );
+    gather( in_record.pRoot );
     std::map<const xmlNode*, std::set<const xmlNode*>> mapTwice;
     for ( const SurveyedFinding& item : in_record.vecFindings ) {
         if ( !item.isMain() || !item.pElement || !isAboutLineTwice( item ) )
@@ -85,7 +85,7 @@ CommonCauses::CommonCauses( const SurveyRecord& in_record )
         mapTwice[getParentElement( pReference )].insert( pReference );
     }
     for ( const auto& [pList, setReferences] : mapTwice ) {
-        if ( setReferences.size() == countChildren( pList ) )
+        if ( setReferences.size() > 1 && setReferences.size() == countChildren( pList ) )
             m_setCopied.insert( pList );
     }
 }
@@ -102,7 +102,7 @@ std::string CommonCauses::find( const SurveyedFinding& in_item ) const {
     if ( !strCause.empty() )
         return strCause;
     if ( isReferenceRule( in_item ) )
-        return describeKind( pElement ) + describeTarget( in_item );
+        return findUnknown( in_item );
     if ( in_item.is( Rules::NO_PHYSICAL_CONFIG ) || in_item.is( Rules::NO_CALL_CONTROL ) )
         return describeNumber( getParentElement( pElement ) );
     if ( isAboutLineTwice( in_item ) )
@@ -113,8 +113,26 @@ std::string CommonCauses::find( const SurveyedFinding& in_item ) const {
     return vecConfigs.empty() ? std::string() : describeNumber( vecConfigs.front() );
 }
 
-void CommonCauses::gatherWholeBoards( const xmlNode* in_pRoot ) {
+/// The cause of references to the same thing, or to anything of which there is none.
+std::string CommonCauses::findUnknown( const SurveyedFinding& in_item ) const {
+    const xmlNode* const pElement = in_item.pElement;
+    if ( in_item.is( Rules::UNKNOWN_CHANNEL_GROUP ) ) // lines of both kinds name the same groups
+        return m_bGroups ? describeTarget( in_item ) : ANY;
+    if ( in_item.is( Rules::UNKNOWN_INTERFACE ) ) {
+        const bool bOfBoard = in_item.finding.strAttribute == "primaryClockReference";
+        const std::string strBoard = describeLine( pElement, getValue( pElement, bOfBoard ? "ID" : "boardID" ), {} );
+        if ( !m_setBoardsWithLines.contains( strBoard ) )
+            return strBoard;
+    }
+    return describeKind( pElement ) + describeTarget( in_item );
+}
+
+void CommonCauses::gather( const xmlNode* in_pRoot ) {
     for ( const xmlNode* const pElement : getTree( in_pRoot ) ) {
+        const std::string_view strRule = getReferenceRule( pElement );
+        m_bGroups = m_bGroups || strRule == Rules::UNKNOWN_CHANNEL_GROUP;
+        if ( strRule == Rules::UNKNOWN_INTERFACE )
+            m_setBoardsWithLines.insert( describeLine( pElement, getValue( getParentElement( pElement ), "ID" ), {} ) );
         if ( !isReference( pElement ) || !getValue( pElement, "interfaceID" ).empty() )
             continue;
         std::vector<const xmlNode*>& vecReferences = m_mapWholeBoards[describeInSection( pElement )];
@@ -133,12 +151,14 @@ std::string CommonCauses::findTwice( const SurveyedFinding& in_item ) const {
     return describeNumber( m_setCopied.contains( pList ) ? pList : pReference );
 }
 
-/// The reference to a whole board that a reference to one of its interfaces meets.
+/// The reference to a whole board that a reference is, or that a reference to one of its interfaces meets.
 const xmlNode* CommonCauses::findWholeBoard( const SurveyedFinding& in_item ) const {
     const xmlNode* const pReference = getReference( in_item.pElement );
     const auto it = m_mapWholeBoards.find( describeInSection( pReference ) );
-    if ( it == m_mapWholeBoards.end() || getValue( pReference, "interfaceID" ).empty() )
+    if ( it == m_mapWholeBoards.end() )
         return nullptr;
+    if ( getValue( pReference, "interfaceID" ).empty() )
+        return m_setCopied.contains( getParentElement( pReference ) ) ? nullptr : pReference;
     const auto itMet = std::find_if( it->second.begin(), it->second.end(), [&in_item]( const xmlNode* in_pOther ) {
         return in_item.is( Rules::PHYSICAL_CONFIG_TWICE ) || shareChannel( in_item.pElement, in_pOther ) ||
                sharesChannelWith( in_item.pElement, in_pOther );

@@ -39,13 +39,14 @@ class CommonCauses {
 public:
     explicit CommonCauses( const SurveyRecord& in_record );
 
-    /// References to the same thing, lines of one board, lines with one physical configuration, channels of one
-    /// reference, the references of a copied list, or those that meet a reference to their whole board. Empty for a
-    /// finding of its own.
+    /// References to the same thing, or to one of which there is none, lines of one board, lines with one physical
+    /// configuration, channels of one reference, the references of a copied list, or those that meet a reference to
+    /// their whole board. Empty for a finding of its own.
     std::string find( const SurveyedFinding& in_item ) const;
 
 private:
-    void gatherWholeBoards( const xmlNode* in_pRoot );
+    void gather( const xmlNode* in_pRoot );
+    std::string findUnknown( const SurveyedFinding& in_item ) const;
     std::string findTwice( const SurveyedFinding& in_item ) const;
     const xmlNode* findWholeBoard( const SurveyedFinding& in_item ) const;
 
@@ -53,6 +54,8 @@ private:
     const Kinds m_boards;
     const Kinds m_physical;
     const Kinds m_callControl;
+    std::set<std::string> m_setBoardsWithLines;
+    bool m_bGroups = false;
     std::set<const xmlNode*> m_setCopied; ///< lists of which each reference names lines that stand elsewhere, too
     std::map<std::string, std::vector<const xmlNode*>> m_mapWholeBoards; ///< references without interfaceID
 };

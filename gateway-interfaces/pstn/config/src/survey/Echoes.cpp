@@ -8,6 +8,7 @@
 
 #include "RuleNames.h"
 #include "document/Element.h"
+#include "document/SchemaPatterns.h"
 #include "reading/ChildElements.h"
 #include "survey/CommonCauses.h"
 #include "survey/Elements.h"
@@ -18,28 +19,30 @@ namespace Velquin::Pstn {
 
 namespace {
 
-/// Whether advice on one element explains an error of libxml2 about another.
-bool explains( const xmlNode* in_pAdvised, const xmlNode* in_pBlamed ) {
-    if ( isWithin( in_pAdvised, in_pBlamed ) || isWithin( in_pBlamed, in_pAdvised ) )
+/// Whether advice explains an error of libxml2 about an element.
+bool explains( const SurveyedFinding& in_advice, const xmlNode* in_pBlamed ) {
+    const xmlNode* const pAdvised = in_advice.pElement;
+    if ( isWithin( pAdvised, in_pBlamed ) || isWithin( in_pBlamed, pAdvised ) )
         return true;
-    // libxml2 may give up at a sibling. At a section that would say nothing.
+    // libxml2 may give up at a sibling. At a section that says nothing, unless one of them is in a wrong place.
     const xmlNode* const pParent = getParentElement( in_pBlamed );
-    return pParent && getParentElement( pParent ) && isWithin( in_pAdvised, pParent );
+    return pParent && ( getParentElement( pParent ) || in_advice.is( Rules::UNKNOWN_ELEMENT ) ) &&
+           isWithin( pAdvised, pParent );
 }
 
 /// libxml2 says which element it refuses, and the advice why.
 void markExplainedErrors( SurveyRecord& inout_record ) {
-    std::vector<const xmlNode*> vecAdvised;
+    std::vector<const SurveyedFinding*> vecAdvice;
     for ( const SurveyedFinding& item : inout_record.vecFindings ) {
         if ( item.isMain() && !item.is( Rules::AGAINST_SCHEMA ) && !item.is( Rules::INTERNAL ) && item.pElement )
-            vecAdvised.push_back( item.pElement );
+            vecAdvice.push_back( &item );
     }
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
         if ( item.is( Rules::AGAINST_SCHEMA ) || item.is( Rules::INTERNAL ) )
-            item.finding.bEcho = !vecAdvised.empty() &&
-                                 ( !item.pElement || std::any_of( vecAdvised.begin(), vecAdvised.end(),
-                                                                  [&item]( const xmlNode* in_pAdvised ) {
-                                                                      return explains( in_pAdvised, item.pElement );
+            item.finding.bEcho = !vecAdvice.empty() &&
+                                 ( !item.pElement || std::any_of( vecAdvice.begin(), vecAdvice.end(),
+                                                                  [&item]( const SurveyedFinding* in_pAdvice ) {
+                                                                      return explains( *in_pAdvice, item.pElement );
                                                                   } ) );
     }
 }
@@ -50,6 +53,18 @@ std::string getMeant( const Finding& in_finding ) {
     return uName == std::string::npos
                ? std::string()
                : in_finding.strHint.substr( uName + 1, in_finding.strHint.rfind( '"' ) - uName - 1 );
+}
+
+/// With a wrong value, a reader asks for other attributes.
+void markMisreadings( SurveyRecord& inout_record ) {
+    std::set<const xmlNode*> setWrongValues;
+    for ( const SurveyedFinding& item : inout_record.vecFindings ) {
+        if ( item.isMain() && item.pElement && !item.bOfReader && item.is( Rules::INVALID_VALUE ) )
+            setWrongValues.insert( item.pElement );
+    }
+    for ( SurveyedFinding& item : inout_record.vecFindings )
+        item.finding.bEcho = item.finding.bEcho || ( item.bOfReader && item.is( Rules::MISSING_ATTRIBUTE ) &&
+                                                     setWrongValues.contains( item.pElement ) );
 }
 
 /// A reader finds again what the schema's advice has found, and misses what is only misspelt.
@@ -69,11 +84,19 @@ void markSecondReports( SurveyRecord& inout_record ) {
         else if ( item.is( Rules::UNEXPECTED_TEXT ) ) // a tag that lost its <
             setSeen.emplace( item.pElement, finding.strValue.substr( 0, finding.strValue.find_first_of( " \t=" ) ) );
     }
+    const auto hasAlternative = [&setSeen]( const SurveyedFinding& in_item ) {
+        auto it = setSeen.lower_bound( { in_item.pElement, {} } );
+        while ( it != setSeen.end() && std::get<0>( *it ) == in_item.pElement &&
+                !isAmong( std::get<1>( *it ), in_item.finding.strAttribute ) )
+            ++it;
+        return it != setSeen.end() && std::get<0>( *it ) == in_item.pElement;
+    };
     std::set<const xmlNode*> setWithoutChild;
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
         if ( !item.isMain() || !item.pElement || item.finding.strAttribute.empty() )
             continue;
-        const bool bSeen = !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
+        const bool bSeen = ( item.is( Rules::MISSING_ELEMENT ) && hasAlternative( item ) ) ||
+                           !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
         // A reader may miss the attribute of a child that is missing.
         item.finding.bEcho = bSeen ||
                              ( item.is( Rules::MISSING_ATTRIBUTE ) && setWithoutChild.contains( item.pElement ) ) ||
@@ -81,12 +104,6 @@ void markSecondReports( SurveyRecord& inout_record ) {
         if ( item.is( Rules::MISSING_ELEMENT ) )
             setWithoutChild.insert( item.pElement );
     }
-}
-
-/// Whether a missing element, or one of its alternatives, has the name.
-bool isAmong( const std::string& in_strName, const std::string& in_strAlternatives ) {
-    return in_strAlternatives.find( in_strName ) != std::string::npos &&
-           ( " or " + in_strAlternatives + " or " ).find( " or " + in_strName + " or " ) != std::string::npos;
 }
 
 /// A child that is missing may stand elsewhere: the nearest of its name that doesn't belong where it stands.
@@ -209,6 +226,7 @@ void markConsequences( SurveyRecord& inout_record ) {
 void markEchoes( SurveyRecord& inout_record ) {
     markExplainedErrors( inout_record );
     markSpansTwice( inout_record );
+    markMisreadings( inout_record );
     markSecondReports( inout_record );
     markMovedElements( inout_record );
     markConsequences( inout_record );

@@ -53,7 +53,7 @@ std::string describeMissing( const std::string& in_strWhat, const std::string& i
     std::vector<std::string> vecIds;
     for ( const xmlNode* const pElement : in_vecExisting ) {
         std::string strId = getValue( pElement, "ID" );
-        if ( !in_bNumbers || parseNumber<unsigned int>( strId, NumberPolicy::WHOLE ) )
+        if ( in_bNumbers ? parseNumber<unsigned int>( strId, NumberPolicy::WHOLE ).has_value() : !strId.empty() )
             vecIds.push_back( std::move( strId ) );
     }
     std::string strText = "there is no " + in_strWhat + " with this ID";

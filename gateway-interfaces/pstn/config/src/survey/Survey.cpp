@@ -1,6 +1,8 @@
 #include "survey/Survey.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -49,7 +51,7 @@ private:
     /// follows from what has one.
     void settle( std::size_t in_uBegin );
     void beginDocument( const xmlNode* in_pRoot ) override;
-    void beginEntry( const xmlNode* in_pEntry ) override;
+    bool beginEntry( const xmlNode* in_pEntry ) override;
     bool endEntry( const xmlNode* in_pEntry, bool in_bTaken ) override;
     bool passOver() override;
     void endDocument() override;
@@ -64,6 +66,9 @@ private:
         bool bFaulty = false;  ///< whether an attribute was passed over
     };
     std::vector<OpenEntry> m_vecEntries;
+    std::set<const xmlNode*> m_setOddlyNamed; ///< elements with an attribute that the schema doesn't know
+    std::map<const xmlNode*, unsigned long long> m_mapMisplaced; ///< by its parent, the first child in a wrong place
+    std::size_t m_uLocated = 0; ///< how many findings have their elements; in a reading, those of parser and schema
     bool m_bEncoding = false;
     std::string m_strEncoding;
 };
@@ -84,10 +89,24 @@ void Reading::beginDocument( const xmlNode* in_pRoot ) {
         m_strEncoding = szEncoding;
     }
     settle( 0 );
+    findElements();
+    for ( const SurveyedFinding& item : m_record.vecFindings ) {
+        if ( item.is( Rules::UNKNOWN_ATTRIBUTE ) )
+            m_setOddlyNamed.insert( item.pElement );
+        else if ( item.is( Rules::UNKNOWN_ELEMENT ) && item.pElement && !item.finding.vecRelated.empty() )
+            m_mapMisplaced.try_emplace( getParentElement( item.pElement ), item.finding.ullElement );
+    }
 }
 
-void Reading::beginEntry( const xmlNode* ) {
+/// A reference whose interfaceID has a wrong name would be taken for one to the whole board, and a misplaced entry, or
+/// one behind it, for what belongs in its place.
+bool Reading::beginEntry( const xmlNode* in_pEntry ) {
     m_vecEntries.push_back( { m_record.vecFindings.size() } );
+    const auto itMisplaced = m_mapMisplaced.find( getParentElement( in_pEntry ) );
+    const bool bMisplaced = itMisplaced != m_mapMisplaced.end() && itMisplaced->second <= getElementNumber( in_pEntry );
+    return !bMisplaced &&
+           !( m_setOddlyNamed.contains( in_pEntry ) && isReference( in_pEntry ) &&
+              !getValue( in_pEntry, "boardID" ).empty() && getValue( in_pEntry, "interfaceID" ).empty() );
 }
 
 bool Reading::endEntry( const xmlNode* in_pEntry, bool in_bTaken ) {
@@ -111,6 +130,8 @@ bool Reading::passOver() {
 void Reading::endDocument() {
     settle( 0 );
     if ( !m_record.vecFindings.empty() ) {
+        std::for_each( m_record.vecFindings.begin() + static_cast<std::ptrdiff_t>( m_uLocated ),
+                       m_record.vecFindings.end(), []( SurveyedFinding& out_item ) { out_item.bOfReader = true; } );
         findElements();
         markEchoes( m_record );
         addDetails( m_record );
@@ -133,10 +154,13 @@ void Reading::settle( std::size_t in_uBegin ) {
     }
 }
 
-/// Finds the elements of the findings by their numbers.
+/// Finds the elements of the new findings by their numbers.
 void Reading::findElements() {
+    if ( m_uLocated == m_record.vecFindings.size() )
+        return;
     const std::vector<const xmlNode*> vecElements = getTree( m_record.pRoot );
-    for ( SurveyedFinding& item : m_record.vecFindings ) {
+    for ( ; m_uLocated < m_record.vecFindings.size(); ++m_uLocated ) {
+        SurveyedFinding& item = m_record.vecFindings[m_uLocated];
         const unsigned long long ullElement = item.finding.ullElement;
         if ( ullElement == 0 || ullElement > vecElements.size() ||
              item.finding.strFile != getElementFile( m_record.pRoot ) )

@@ -13,6 +13,7 @@ namespace Velquin::Pstn {
 struct SurveyedFinding {
     Finding finding;
     const xmlNode* pElement = nullptr;
+    bool bOfReader = false; ///< whether a reader found it, not the parser or the schema
 
     /// Whether it is a mistake of its own, as far as is known.
     bool isMain() const noexcept { return !finding.bEcho && !finding.strRule.empty(); }

@@ -36,15 +36,17 @@ public:
     bool read( xmlNode* in_pElement ) const {
         const AttributeReader reader( in_pElement, m_logger, FAS_WORDING );
         InterfaceReference<DigitalKind> reference( reader, m_logger, WHOLE_DECIMAL );
-        if ( !reference.readBoard( m_config ) || !addInterfaces( reference ) )
+        const bool bAdded = reference.readBoard( m_config ) && addInterfaces( reference );
+        if ( !bAdded && !AttributeReader::passOver() )
             return false;
         const ChildElements ranges( in_pElement, "BChannelRange" );
         if ( ranges.empty() ) {
             reader.as( ISDN_FAS_WORDING ).reportMissingChild( "BChannelRange" );
             return false;
         }
-        return readEntries( ranges,
-                            [&]( xmlNode* in_pRange ) { return readRange( in_pRange, reference.getInterfaces() ); } );
+        const auto vecInterfaces = bAdded ? reference.releaseInterfaces() : DigitalKind::Interfaces();
+        return readEntries( ranges, [&]( xmlNode* in_pRange ) { return readRange( in_pRange, vecInterfaces ); } ) &&
+               bAdded;
     }
 
 private:

@@ -52,14 +52,13 @@ IsdnNfasGroupMemberConfigXmlSerializer::read( TSHandle<CallControlConfig>& in_hC
         return {};
 
     const auto hInterface = readInterface( reader, in_xmlConfig, getLogger() );
-    if ( hInterface.isNull() )
-        return {};
-    if ( !hGroupMember->setInterfaceMember( hInterface ) ) {
+    const bool bSet = !hInterface.isNull() && hGroupMember->setInterfaceMember( hInterface );
+    if ( !hInterface.isNull() && !bSet )
         VELQUIN_REPORT_ERROR( getLogger(), "failed to set Digital interface " << hInterface->getUniqueId( false )
                                                                               << " as NFAS interface "
                                                                               << hGroupMember->getNfasInterfaceID() );
+    if ( !bSet && !AttributeReader::passOver() )
         return {};
-    }
 
     const ChildElements ranges( in_pElement, "BChannelRange" );
     if ( ranges.empty() ) {
@@ -71,13 +70,13 @@ IsdnNfasGroupMemberConfigXmlSerializer::read( TSHandle<CallControlConfig>& in_hC
         IsdnBChannelRange range;
         if ( !range.read( rangeReader, *in_hCallControlConfig, RANGE_WORDING, getLogger() ) )
             return false;
-        if ( range.addTo( *in_pNfasConfig, *hInterface, getLogger() ) )
+        if ( !bSet || range.addTo( *in_pNfasConfig, *hInterface, getLogger() ) )
             return true;
         VELQUIN_REPORT_ERROR( getLogger(),
                               "failed to add BChannel range to channel group ID= " << range.hChannelGroup->getId() );
         return false;
     } );
-    if ( !bRead )
+    if ( !bRead || !bSet )
         return {};
     return hGroupMember;
 }

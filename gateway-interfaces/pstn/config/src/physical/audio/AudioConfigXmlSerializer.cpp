@@ -75,7 +75,7 @@ AudioConfig* AudioConfigXmlSerializer::read( xmlNode* const in_pElement, XmlConf
 
     using Factory = XmlSerializerObjectFactory;
     const auto read = [&]( const auto& in_block ) {
-        return readBlock( reader, in_xmlConfig, *pAudioConfig, getLogger(), in_block );
+        return readBlock( reader, in_xmlConfig, *pAudioConfig, getLogger(), in_block ) || AttributeReader::passOver();
     };
     const bool bRead =
         read( Block{ "EchoCancellation", &Factory::newEchoCancellationConfigXmlSerializer,
