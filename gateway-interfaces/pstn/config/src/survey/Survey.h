@@ -21,9 +21,9 @@ namespace Velquin::Pstn {
 ///         ...
 ///
 /// Where XmlConfig::load ends at the first fault, a survey goes on, also in a document that the schema refuses. It
-/// passes over a faulty attribute, and leaves out an entry (a board, a group, a reference ...) that can't be read
-/// without what it lacks. Then it cross-checks what it could read, and gives advice on it. Its log lines are those of a
-/// load that went on. One thread at a time may use an object; threads may run surveys of their own.
+/// passes over a faulty attribute or part, and leaves out an entry (a board, a group, a reference ...) that can't be
+/// read without what it lacks. Then it cross-checks what it could read, and gives advice on it. Its log lines are those
+/// of a load that went on. One thread at a time may use an object; threads may run surveys of their own.
 class VELQUIN_PSTN_CONFIG_EXPORT Survey {
 public:
     /// @throws std::bad_alloc
