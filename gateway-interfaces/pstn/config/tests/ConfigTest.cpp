@@ -170,6 +170,13 @@ std::string readFile( const std::string& in_strPath ) {
     return text.str();
 }
 
+std::string getXmlText( xmlDoc* in_pDocument ) {
+    xmlChar* pText = nullptr;
+    int nLength = 0;
+    xmlDocDumpMemory( in_pDocument, &pText, &nLength );
+    return fromXml( XmlStringPtr( pText ).get() );
+}
+
 std::vector<std::string> split( const std::string& in_strText, const std::string& in_strSeparator ) {
     std::vector<std::string> vecParts;
     std::size_t uBegin = 0;

@@ -160,6 +160,9 @@ struct KeywordRow {
 /// All attributes of the format whose keywords stand in tables; one that needs different documents has several rows.
 std::vector<KeywordRow> getKeywordRows();
 
+/// A document as text.
+std::string getXmlText( xmlDoc* in_pDocument );
+
 /// The root element of a document of its own, for serializers that are called without a load.
 class Element {
 public:

@@ -132,11 +132,8 @@ void gatherAttributes( xmlNode* in_pElement, const std::string& in_strParent,
 
 /// The lines of the model that a document gives; empty when it doesn't load.
 std::string describe( const XmlDocPtr& in_pDocument ) {
-    xmlChar* pText = nullptr;
-    int nLength = 0;
-    xmlDocDumpMemory( in_pDocument.get(), &pText, &nLength );
     XmlConfig config;
-    return loadText( config, fromXml( XmlStringPtr( pText ).get() ) ).bValid ? describeLines( config ) : "";
+    return loadText( config, getXmlText( in_pDocument.get() ) ).bValid ? describeLines( config ) : "";
 }
 
 TEST( Schema, TellsTheDefaultsOfTheModel ) {
@@ -234,11 +231,10 @@ TEST( Schema, TakesChildrenInAnyOrderThatMeansNothing ) {
             if ( strFirst == strSecond )
                 continue;
             exchange( vecChildren[v - 1], vecChildren[v] );
-            xmlChar* pText = nullptr;
-            xmlDocDumpMemory( pDocument.get(), &pText, nullptr );
+            const std::string strText = getXmlText( pDocument.get() );
             exchange( vecChildren[v], vecChildren[v - 1] );
             XmlConfig config;
-            if ( !loadText( config, fromXml( XmlStringPtr( pText ).get() ), SCHEMA ).bValid )
+            if ( !loadText( config, strText, SCHEMA ).bValid )
                 setRefused.insert( strSecond + " before " + strFirst );
             else
                 EXPECT_EQ( describeModel( config ), describeModel( complete ) ) << strSecond;

@@ -1,6 +1,7 @@
 #include <set>
 
 #include "ConfigTest.h"
+#include "reading/ChildElements.h"
 #include "survey/Survey.h"
 
 // What a survey finds in wrong files: each mistake, once, at its line.
@@ -126,6 +127,126 @@ TEST( Survey, FindsFiveMistakesInOneRunInTheirOrder ) {
             vecFound.push_back( std::to_string( finding.span.ullLine ) + " " + finding.strRule );
         EXPECT_EQ( vecFound, vecRules ) << result.strText;
     }
+}
+
+// ---- Slips: at each attribute and each element of the complete document, one of them in turn
+
+std::string cutName( const xmlChar* in_pName ) {
+    const std::string strName = fromXml( in_pName );
+    return strName.substr( 0, strName.size() - 1 );
+}
+
+void slip( xmlAttr* in_pAttribute, std::size_t in_uKind ) {
+    xmlNode* const pElement = in_pAttribute->parent;
+    const XmlStringPtr pValue( xmlNodeListGetString( pElement->doc, in_pAttribute->children, 1 ) );
+    const std::string strCutName = cutName( in_pAttribute->name );
+    switch ( in_uKind % 4 ) {
+    case 0:
+        xmlSetProp( pElement, in_pAttribute->name, toXml( "" ) );
+        break;
+    case 1:
+        xmlSetProp( pElement, in_pAttribute->name, toXml( "77" ) );
+        break;
+    case 2:
+        xmlNewProp( pElement, toXml( strCutName.c_str() ), pValue.get() );
+        [[fallthrough]];
+    default:
+        xmlRemoveProp( in_pAttribute );
+    }
+}
+
+void slip( xmlNode* in_pElement, std::size_t in_uKind ) {
+    switch ( in_uKind % 5 ) {
+    case 0:
+        xmlNodeSetName( in_pElement, toXml( cutName( in_pElement->name ).c_str() ) );
+        break;
+    case 1:
+        xmlAddNextSibling( in_pElement, xmlDocCopyNode( in_pElement, in_pElement->doc, 1 ) );
+        break;
+    case 2:
+        xmlAddChild( in_pElement->parent, in_pElement );
+        break;
+    case 3:
+        xmlAddPrevSibling( in_pElement->parent->children, in_pElement );
+        break;
+    default:
+        xmlUnlinkNode( in_pElement );
+        xmlFreeNode( in_pElement );
+    }
+}
+
+TEST( Survey, FindsAtMostOneMistakeBehindEachSlip ) {
+    const std::string strComplete = readFile( COMPLETE );
+    std::size_t uInvalid = 0;
+    for ( std::size_t uSlip = 0;; ++uSlip ) {
+        const Element root( strComplete );
+        std::vector<xmlAttr*> vecAttributes;
+        std::vector<xmlNode*> vecElements{ root.get() };
+        for ( std::size_t u = 0; u < vecElements.size(); ++u ) {
+            for ( xmlAttr* p = vecElements[u]->properties; p; p = p->next )
+                vecAttributes.push_back( p );
+            for ( xmlNode* const pChild : ChildElements( vecElements[u] ) )
+                vecElements.push_back( pChild );
+        }
+        if ( uSlip + 1 >= vecAttributes.size() + vecElements.size() )
+            break;
+        if ( uSlip < vecAttributes.size() )
+            slip( vecAttributes[uSlip], uSlip );
+        else
+            slip( vecElements[uSlip - vecAttributes.size() + 1], uSlip );
+        const std::string strText = getXmlText( root.get()->doc );
+        const SurveyResult result = survey( strText );
+        std::set<std::string> setErrors; // a line that lost its configuration is missed on each board
+        for ( const Finding& finding : result.vecMistakes ) {
+            const bool bOfLine = finding.strRule == "no-physical-config" || finding.strRule == "no-call-control";
+            if ( finding.nLevel >= Logger::ERROR_LEVEL )
+                setErrors.insert( bOfLine ? finding.strRule : describeFinding( finding ) );
+        }
+        XmlConfig config;
+        EXPECT_EQ( loadText( config, strText, SCHEMA ).bValid, result.bLoads );
+        EXPECT_EQ( setErrors.size(), result.bLoads ? 0U : 1U ) << uSlip << '\n' << result.strText;
+        uInvalid += result.bLoads ? 0 : 1;
+    }
+    EXPECT_GT( uInvalid, 250U );
+}
+
+TEST( Survey, TellsTheOrderThatAnotherSchemaWants ) {
+    const auto find = []( const std::string& in_strContent, const std::string& in_strChildren ) {
+        const auto expand = []( const std::string& in_strLetters, const std::string& in_strHead ) {
+            std::string strText;
+            for ( const char c : in_strLetters )
+                strText += c >= 'A' && c <= 'C' ? in_strHead + c + ( in_strHead == "<" ? "/>" : "'><empty/></element>" )
+                                                : std::string( 1, c );
+            return strText;
+        };
+        const TemporaryFile schema( "<grammar xmlns='http://relaxng.org/ns/structure/1.0'><start><element "
+                                    "name='pstnConfig'>" +
+                                    expand( in_strContent, "<element name='" ) + "</element></start></grammar>" );
+        std::string strFound;
+        for ( const Finding& finding :
+              survey( "<pstnConfig>" + expand( in_strChildren, "<" ) + "</pstnConfig>", schema.getPath() ).vecMistakes )
+            if ( finding.strRule == "unknown-element" || finding.strRule == "unexpected-text" )
+                strFound += describeFinding( finding ) + "; ";
+        return strFound;
+    };
+    const std::string strList = "A<optional>B</optional><zeroOrMore>C</zeroOrMore>";
+    for ( const std::string strRight : { "A", "AB", "ACCC", "ABC" } )
+        EXPECT_EQ( find( strList, strRight ), "" ) << strRight;
+    EXPECT_EQ( find( strList, "ACB" ), "unexpected element \"B\": move it in front of C; " );
+    EXPECT_EQ( find( strList, "ABBC" ),
+               "unexpected element \"B\": only one may stand in pstnConfig; remove one of them; " );
+    const std::string strMixed = "<interleave>AB<zeroOrMore>C</zeroOrMore></interleave>";
+    EXPECT_EQ( find( strMixed, "CBCA" ), "" );
+    EXPECT_EQ( find( strMixed, "CABA" ),
+               "unexpected element \"A\": only one may stand in pstnConfig; remove one of them; " );
+    EXPECT_EQ( find( strMixed, "Ax B" ),
+               "text \"x\" in element pstnConfig: remove it: this format has attributes and elements only; " );
+    EXPECT_EQ( find( "<mixed>AB</mixed>", "Ax B" ), "" );
+    EXPECT_EQ( find( "<choice>A<group>BC</group></choice>", "BC" ), "" );
+    EXPECT_EQ( find( "<choice>A<group>BC</group></choice>", "ABC" ),
+               "unexpected element \"A\": C excludes it; remove one of them; " );
+    EXPECT_EQ( find( "<oneOrMore><choice>AB</choice></oneOrMore>", "ABBA" ), "" );
+    EXPECT_EQ( find( "<div>A</div>", "BA" ), "" ) << "advice from a schema that isn't followed";
 }
 
 TEST( Survey, TellsLinesAndColumnsInFilesOfAnyEncoding ) {

@@ -64,7 +64,8 @@ std::optional<MediaType> getMediaType( const Member& in_member, AdviceReport& in
     const DigitalInterfaceConfig* const pInterface = in_member.getInterfaceConfig().get();
     const DigitalInterfacePhysicalConfig* const pPhysical =
         pInterface ? pInterface->getPhysicalConfig().get() : nullptr;
-    if ( !pPhysical || in_report.isFaulty( placeOf( AdviceSubject::Physical{ pPhysical, pInterface } ) ) )
+    using Physical = AdviceSubject::Physical<DigitalInterfacePhysicalConfig>;
+    if ( !pPhysical || in_report.isFaulty( placeOf( Physical{ pPhysical, pInterface } ) ) )
         return {};
     return pPhysical->getMediaType();
 }
