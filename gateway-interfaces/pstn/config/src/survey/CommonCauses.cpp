@@ -120,7 +120,7 @@ std::string CommonCauses::findUnknown( const SurveyedFinding& in_item ) const {
         return m_bGroups ? describeTarget( in_item ) : ANY;
     if ( in_item.is( Rules::UNKNOWN_INTERFACE ) ) {
         const bool bOfBoard = in_item.finding.strAttribute == "primaryClockReference";
-        const std::string strBoard = describeLine( pElement, getValue( pElement, bOfBoard ? "ID" : "boardID" ), {} );
+        std::string strBoard = describeLine( pElement, getValue( pElement, bOfBoard ? "ID" : "boardID" ), {} );
         if ( !m_setBoardsWithLines.contains( strBoard ) )
             return strBoard;
     }
