@@ -222,9 +222,10 @@ TEST( Schema, TakesChildrenInAnyOrderThatMeansNothing ) {
     std::set<std::string> setRefused; // of both orders of neighbours, the one that isn't the document's
     for ( std::size_t u = 0; u < vecElements.size(); ++u ) {
         std::vector<xmlNode*> vecChildren;
-        for ( xmlNode* const pChild : ChildElements( vecElements[u] ) )
+        for ( xmlNode* const pChild : ChildElements( vecElements[u] ) ) {
             vecChildren.push_back( pChild );
-        vecElements.insert( vecElements.end(), vecChildren.begin(), vecChildren.end() );
+            vecElements.push_back( pChild );
+        }
         for ( std::size_t v = 1; v < vecChildren.size(); ++v ) {
             const std::string strFirst = fromXml( vecChildren[v - 1]->name );
             const std::string strSecond = fromXml( vecChildren[v]->name );
