@@ -46,7 +46,9 @@ void AdviceReport::add( const Advice& in_advice ) {
     const auto [pElement, strPath] = find( in_advice.place );
     if ( !pElement || isFaulty( pElement ) ||
          std::any_of( in_advice.vecRelated.begin(), in_advice.vecRelated.end(),
-                      [this]( const AdviceRelated& in_related ) { return isFaulty( in_related.place ); } ) )
+                      [this]( const AdviceRelated& in_related ) {
+                          return isAtFault( [&in_related] { return in_related.place; } );
+                      } ) )
         return;
     if ( !m_setBroken.emplace( m_pRule, pElement, in_advice.place.szAttribute ).second )
         return;

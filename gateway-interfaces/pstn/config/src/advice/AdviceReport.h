@@ -56,8 +56,10 @@ public:
     /// faulty element or refers to one.
     void add( const Advice& in_advice );
     /// Whether the model lacks an attribute of what stands there.
-    bool isFaulty( const AdvicePlace& in_place ) {
-        return isFaulty( m_setFaulty.empty() ? nullptr : find( in_place ).pElement );
+    /// @param in_getPlace yields the place; it is asked only where a file has faults
+    template <class GetPlace>
+    bool isAtFault( GetPlace in_getPlace ) {
+        return !m_setFaulty.empty() && isFaulty( find( in_getPlace() ).pElement );
     }
     /// The document, for rules that must know whether a part of it is missing from the model.
     ModelLocator& getDocument() noexcept { return m_locator; }

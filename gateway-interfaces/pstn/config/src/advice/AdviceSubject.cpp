@@ -31,7 +31,7 @@ void gatherBoards( const Config& in_config, AdviceReport& in_report, bool in_bAn
             const TPhysical physical{ hInterface->getPhysicalConfig().get(), hInterface.get() };
             TLine& line = out_vecLines.emplace_back();
             line.pInterface = hInterface.get();
-            if ( !physical.pConfig || in_report.isFaulty( placeOf( physical ) ) )
+            if ( !physical.pConfig || in_report.isAtFault( [&] { return placeOf( physical ); } ) )
                 continue;
             line.pPhysical = physical.pConfig;
             if ( setSeen.insert( physical.pConfig ).second )

@@ -65,7 +65,7 @@ std::optional<MediaType> getMediaType( const Member& in_member, AdviceReport& in
     const DigitalInterfacePhysicalConfig* const pPhysical =
         pInterface ? pInterface->getPhysicalConfig().get() : nullptr;
     using Physical = AdviceSubject::Physical<DigitalInterfacePhysicalConfig>;
-    if ( !pPhysical || in_report.isFaulty( placeOf( Physical{ pPhysical, pInterface } ) ) )
+    if ( !pPhysical || in_report.isAtFault( [&] { return placeOf( Physical{ pPhysical, pInterface } ); } ) )
         return {};
     return pPhysical->getMediaType();
 }
