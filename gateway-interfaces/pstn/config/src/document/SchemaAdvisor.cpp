@@ -30,7 +30,7 @@ std::vector<std::string> matchNames( const std::vector<std::string>& in_vecUnkno
         const std::string& strMeant =
             vecMeant.emplace_back( strMissing.empty() ? findNearest( strName, in_known ) : strMissing );
         std::erase_if( inout_vecMissing, [&strMeant]( const std::string& in_strAlternatives ) {
-            return !strMeant.empty() && ( strMeant == in_strAlternatives || isAmong( strMeant, in_strAlternatives ) );
+            return !strMeant.empty() && isAmong( strMeant, in_strAlternatives );
         } );
     }
     if ( inout_vecMissing.size() == 1 && std::count( vecMeant.begin(), vecMeant.end(), "" ) == 1 ) {

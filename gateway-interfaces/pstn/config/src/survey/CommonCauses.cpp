@@ -119,8 +119,7 @@ std::string CommonCauses::findUnknown( const SurveyedFinding& in_item ) const {
     if ( in_item.is( Rules::UNKNOWN_CHANNEL_GROUP ) ) // lines of both kinds name the same groups
         return m_bGroups ? describeTarget( in_item ) : ANY;
     if ( in_item.is( Rules::UNKNOWN_INTERFACE ) ) {
-        const bool bOfBoard = in_item.finding.strAttribute == "primaryClockReference";
-        std::string strBoard = describeLine( pElement, getValue( pElement, bOfBoard ? "ID" : "boardID" ), {} );
+        std::string strBoard = describeLine( pElement, getNamedBoard( in_item ), {} );
         if ( !m_setBoardsWithLines.contains( strBoard ) )
             return strBoard;
     }

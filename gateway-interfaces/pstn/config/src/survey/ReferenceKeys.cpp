@@ -46,6 +46,11 @@ bool isAboutDChannel( const SurveyedFinding& in_item ) {
     return in_item.is( Rules::NO_D_CHANNEL ) || in_item.is( Rules::UNUSED_D_CHANNEL );
 }
 
+std::string getNamedBoard( const SurveyedFinding& in_item ) {
+    const bool bOfBoard = in_item.finding.strAttribute == "primaryClockReference";
+    return getValue( in_item.pElement, bOfBoard ? "ID" : "boardID" );
+}
+
 std::string describeTarget( const SurveyedFinding& in_item ) {
     return describeTargets( in_item ).front();
 }
@@ -54,8 +59,7 @@ std::vector<std::string> describeTargets( const SurveyedFinding& in_item ) {
     const std::string& strValue = in_item.finding.strValue;
     if ( !in_item.is( Rules::UNKNOWN_INTERFACE ) )
         return { joinIdentifiers( strValue, {} ), joinIdentifiers( ANY, {} ) };
-    const bool bOfBoard = in_item.finding.strAttribute == "primaryClockReference";
-    const std::string strBoard = getValue( in_item.pElement, bOfBoard ? "ID" : "boardID" );
+    const std::string strBoard = getNamedBoard( in_item );
     return { joinIdentifiers( strBoard, strValue ), joinIdentifiers( strBoard, ANY ), joinIdentifiers( ANY, strValue ),
              joinIdentifiers( ANY, ANY ) };
 }

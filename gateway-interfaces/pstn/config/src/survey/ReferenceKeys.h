@@ -32,6 +32,9 @@ bool isReferenceRule( const SurveyedFinding& in_item );
 /// Whether the finding is about the D-channel that a line has, or hasn't.
 bool isAboutDChannel( const SurveyedFinding& in_item );
 
+/// The identifier of the board whose interface the reference of a finding names.
+std::string getNamedBoard( const SurveyedFinding& in_item );
+
 /// What the reference of a finding about one names, without kind: the name that tells the kind may be misspelt.
 std::string describeTarget( const SurveyedFinding& in_item );
 
