@@ -2,7 +2,7 @@
 #include <memory>
 
 #include "Command.h"
-#include "InputFile.h"
+#include "FileArgument.h"
 #include "LoadedConfig.h"
 #include "ModelDiff.h"
 
@@ -18,7 +18,7 @@ struct DiffOptions {
 };
 
 ExitCode diff( const DiffOptions& in_options ) {
-    if ( in_options.strOld == InputFile::STANDARD_INPUT && in_options.strNew == InputFile::STANDARD_INPUT )
+    if ( in_options.strOld == FileArgument::STANDARD_INPUT && in_options.strNew == FileArgument::STANDARD_INPUT )
         throw CLI::ValidationError( "NEW", "standard input (-) can be read only once" );
     ExitCode eUnused = EXIT_NOT_CHECKED; // a file that can't be loaded is no change
     const auto pOld = loadConfig( in_options.strOld, in_options.strSchema, eUnused );

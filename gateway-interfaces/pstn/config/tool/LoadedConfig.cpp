@@ -9,7 +9,7 @@
 std::unique_ptr<Velquin::Pstn::XmlConfig> loadConfig( const std::string& in_strFile, const std::string& in_strSchema,
                                                       ExitCode& out_eExitCode ) {
     setUpLog( "OFF" );
-    const InputFile input( in_strFile );
+    const FileArgument input( in_strFile );
     bool bFindings = false;
     const auto load = [&] {
         auto pConfig = std::make_unique<Velquin::Pstn::XmlConfig>();

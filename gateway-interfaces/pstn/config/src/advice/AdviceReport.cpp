@@ -16,10 +16,6 @@ using Key = ModelLocator::Key;
 constexpr auto INNER_ENTRIES =
     std::to_array<std::string_view>( { "interface", "interfaceRef", "member", "BChannelRange" } );
 
-bool isAnalog( const InterfaceConfig& in_interface ) {
-    return dynamic_cast<const AnalogInterfaceConfig*>( &in_interface ) != nullptr;
-}
-
 /// The reference of an entry to the interface, or to all interfaces of its board.
 std::vector<Key> keysOfReference( const Key& in_entry, const InterfaceConfig& in_interface ) {
     const unsigned int uBoardId = in_interface.getBoardConfig()->getId();

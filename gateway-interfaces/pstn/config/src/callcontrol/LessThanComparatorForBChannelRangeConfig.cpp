@@ -7,14 +7,6 @@
 
 namespace Velquin::Pstn {
 
-namespace {
-
-bool isAnalog( const InterfaceConfig& in_interface ) {
-    return dynamic_cast<const AnalogInterfaceConfig*>( &in_interface ) != nullptr;
-}
-
-} // namespace
-
 bool LessThanComparatorForBChannelRangeConfig::operator()( const TSHandle<BChannelRangeConfig>& in_hX,
                                                            const TSHandle<BChannelRangeConfig>& in_hY ) const {
     const InterfaceConfig& x = *in_hX->getInterfaceConfig();

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdlib>
 #include <iterator>
 
-#include <libxml/parser.h>
-#include <libxml/xmlversion.h>
+#include "document/LibXml2Compat.h"
 
 namespace Velquin::Pstn {
 
@@ -17,7 +15,7 @@ namespace {
 constexpr long TESTED_VERSIONS[] = { 20914, 21504 };
 
 bool areBlocksKnown() noexcept {
-    const long nRunning = std::strtol( xmlParserVersion, nullptr, 10 );
+    const long nRunning = getRunningLibXml2();
     return nRunning == LIBXML_VERSION &&
            std::count( std::begin( TESTED_VERSIONS ), std::end( TESTED_VERSIONS ), nRunning ) > 0;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdlib>
+
 #include <libxml/parser.h>
 #include <libxml/xmlerror.h>
 #include <libxml/xmlversion.h>
@@ -8,6 +10,11 @@
 // build.
 
 namespace Velquin::Pstn {
+
+/// The version that runs: 20914 is 2.9.14. What a libxml2 between two releases appends is no part of the number.
+inline long getRunningLibXml2() noexcept {
+    return std::strtol( xmlParserVersion, nullptr, 10 );
+}
 
 template <class TError>
 TError* getErrorOf( void ( * )( void*, TError* ) );

@@ -103,7 +103,7 @@ xmlNode* getParentOfMissing( const xmlError& in_error ) {
     return isAboutMissingChild( in_error ) || isAboutContent( in_error ) ? pElement : nullptr;
 }
 
-bool isText( const xmlNode* in_pNode ) {
+bool isVisibleText( const xmlNode* in_pNode ) {
     return ( in_pNode->type == XML_TEXT_NODE || in_pNode->type == XML_CDATA_SECTION_NODE ) &&
            xmlIsBlankNode( in_pNode ) == 0;
 }
@@ -116,7 +116,7 @@ std::string getMessage( const xmlError& in_error ) {
         return std::string( "Did not expect element " ) + fromXml( pChild->name ) + " there";
     const xmlNode* const pElement = isAboutContent( in_error ) ? getElement( in_error ) : nullptr;
     for ( const xmlNode* pChild = pElement ? pElement->children : nullptr; pChild; pChild = pChild->next ) {
-        if ( isText( pChild ) )
+        if ( isVisibleText( pChild ) )
             return std::string( "Did not expect text in element " ) + fromXml( pElement->name ) + " content";
     }
     return toOneLine( in_error.message );

@@ -45,6 +45,11 @@ private:
     std::string m_strCallerName;
 };
 
+/// Whether the interface is an analog port.
+inline bool isAnalog( const InterfaceConfig& in_interface ) noexcept {
+    return dynamic_cast<const AnalogInterfaceConfig*>( &in_interface ) != nullptr;
+}
+
 /// The format's keywords for the enumerations above.
 namespace Keywords {
 

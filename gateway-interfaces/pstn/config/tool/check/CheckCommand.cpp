@@ -91,13 +91,13 @@ ExitCode Check::run() {
 
 /// Checks a file. Unreadable standard input is a finding, as an unreadable file is: the other files are still checked.
 CheckedFile Check::check( const std::string& in_strFile ) const try {
-    return checkFile( InputFile( in_strFile ), m_options.request );
+    return checkFile( FileArgument( in_strFile ), m_options.request );
 } catch ( const std::runtime_error& error ) {
     Finding finding;
     finding.eKind = Finding::Kind::UNREADABLE_FILE;
     finding.strRule = Velquin::Pstn::Rules::UNREADABLE_FILE;
     finding.nLevel = Velquin::Logger::ERROR_LEVEL;
-    finding.strFile = InputFile::nameOf( in_strFile );
+    finding.strFile = FileArgument::nameOf( in_strFile );
     finding.strMessage = error.what();
     CheckedFile file;
     file.strFile = finding.strFile;
@@ -146,7 +146,7 @@ void Check::add( const CheckedFile& in_file ) {
 void validate( CheckOptions& inout_options ) {
     if ( inout_options.vecFiles.empty() && inout_options.strParameters.empty() )
         throw CLI::RequiredError( "FILE or --parameters" );
-    if ( std::count( inout_options.vecFiles.begin(), inout_options.vecFiles.end(), InputFile::STANDARD_INPUT ) > 1 )
+    if ( std::count( inout_options.vecFiles.begin(), inout_options.vecFiles.end(), FileArgument::STANDARD_INPUT ) > 1 )
         throw CLI::ValidationError( "FILE", "standard input (-) can be read only once" );
     for ( const std::string& strRule : inout_options.vecDisabled ) {
         const Velquin::Pstn::Rule* const pRule = Velquin::Pstn::findRule( strRule );

@@ -73,7 +73,7 @@ unsigned int CheckTotals::getFiles() const {
     return std::accumulate( std::begin( auFiles ), std::end( auFiles ), 0U );
 }
 
-CheckedFile checkFile( const InputFile& in_input, const CheckRequest& in_request ) {
+CheckedFile checkFile( const FileArgument& in_input, const CheckRequest& in_request ) {
     const auto pSurvey = std::make_shared<Survey>();
     const bool bLoads =
         pSurvey->run( in_input.getPath().c_str(), in_request.strSchema.c_str(), in_request.bLogContent );

@@ -8,7 +8,7 @@
 
 #include <velquin/Finding.h>
 
-#include "../InputFile.h"
+#include "../FileArgument.h"
 
 /// "error", "warning" or "note".
 const char* getSeverityName( const Velquin::Finding& in_finding );
@@ -73,4 +73,4 @@ struct CheckRequest {
 };
 
 /// Checks a file. The verdict is that of XmlConfig::load.
-CheckedFile checkFile( const InputFile& in_input, const CheckRequest& in_request );
+CheckedFile checkFile( const FileArgument& in_input, const CheckRequest& in_request );

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "../Command.h"
-#include "../InputFile.h"
+#include "../FileArgument.h"
 #include "../LoadedConfig.h"
 #include "../Terminal.h"
 #include "../Utf8Path.h"
@@ -33,7 +33,7 @@ ExitCode map( const MapOptions& in_options ) {
     if ( !pConfig )
         return eExitCode;
     const ChannelMap channelMap( *pConfig );
-    const std::string strHeading = toUtf8( toPath( InputFile::nameOf( in_options.strFile ) ).filename() );
+    const std::string strHeading = toUtf8( toPath( FileArgument::nameOf( in_options.strFile ) ).filename() );
     std::ofstream file;
     if ( !in_options.strOutput.empty() )
         file.open( toPath( in_options.strOutput ), std::ios::binary | std::ios::trunc );

@@ -7,16 +7,16 @@
 
 /// A file that the command line names. What stands in standard input becomes a file that only its owner can read, since
 /// the library reads files; it lives as long as the object.
-class InputFile {
+class FileArgument {
 public:
     static constexpr const char* STANDARD_INPUT = "-";
 
     /// @param in_strArgument a path, or "-" for standard input
     /// @throws std::runtime_error when standard input can't be read, or its file can't be written
-    explicit InputFile( const std::string& in_strArgument );
-    InputFile( const InputFile& ) = delete;
-    InputFile& operator=( const InputFile& ) = delete;
-    ~InputFile();
+    explicit FileArgument( const std::string& in_strArgument );
+    FileArgument( const FileArgument& ) = delete;
+    FileArgument& operator=( const FileArgument& ) = delete;
+    ~FileArgument();
 
     /// How messages name a file of the command line.
     static std::string nameOf( const std::string& in_strArgument ) {

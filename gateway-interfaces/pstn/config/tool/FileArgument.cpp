@@ -1,4 +1,4 @@
-#include "InputFile.h"
+#include "FileArgument.h"
 
 #include <cstdio>
 #include <fstream>
@@ -12,13 +12,13 @@
 
 namespace fs = std::filesystem;
 
-InputFile::InputFile( const std::string& in_strArgument )
+FileArgument::FileArgument( const std::string& in_strArgument )
     : m_strPath( in_strArgument ), m_strName( nameOf( in_strArgument ) ) {
     if ( in_strArgument == STANDARD_INPUT )
         keepInput();
 }
 
-void InputFile::keepInput() {
+void FileArgument::keepInput() {
     std::random_device random;
     do
         m_folder = fs::temp_directory_path() / ( "pstnconfig-" + std::to_string( random() ) );
@@ -44,14 +44,14 @@ void InputFile::keepInput() {
     }
 }
 
-InputFile::~InputFile() {
+FileArgument::~FileArgument() {
     if ( m_folder.empty() )
         return;
     std::error_code ignored;
     fs::remove_all( m_folder, ignored );
 }
 
-void InputFile::rename( Velquin::Finding& inout_finding ) const {
+void FileArgument::rename( Velquin::Finding& inout_finding ) const {
     if ( m_strPath == m_strName )
         return;
     for ( std::string* const pText : { &inout_finding.strFile, &inout_finding.strMessage, &inout_finding.strText } ) {
