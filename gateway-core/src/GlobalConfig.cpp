@@ -3,11 +3,13 @@
 #include <filesystem>
 #include <fstream>
 #include <mutex>
+#include <string>
 #include <string_view>
 #include <system_error>
 
 #include <log4cplus/fstreams.h>
 #include <log4cplus/helpers/property.h>
+#include <log4cplus/streams.h>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
@@ -21,6 +23,14 @@ class GlobalConfigLog {
 };
 
 VELQUIN_LOGGER_IMPL( GlobalConfigLog, "marovane.core.GlobalConfig" );
+
+/// Whether a line can set a parameter. Properties would read the files that lines "include FILE" name: the same file
+/// again and again, until the stack ends, if a file includes itself.
+bool isSetting( const log4cplus::tstring& in_strLine ) {
+    const std::size_t uBegin = in_strLine.find_first_not_of( LOG4CPLUS_TEXT( " \t" ) );
+    return in_strLine.find( LOG4CPLUS_TEXT( '=' ) ) != log4cplus::tstring::npos &&
+           in_strLine.compare( uBegin, 8, LOG4CPLUS_TEXT( "include " ) ) != 0;
+}
 
 bool refuseFile( const char* in_szPath, const std::string& in_strReason ) {
     Finding finding;
@@ -81,9 +91,15 @@ bool GlobalConfig::loadFile( const char* in_szPath ) try {
     log4cplus::tifstream file( path, std::ios::binary );
     if ( !file )
         return refuseFile( in_szPath, "it can't be opened" );
-    const log4cplus::helpers::Properties properties( file );
+    log4cplus::tostringstream settings;
+    for ( log4cplus::tstring strLine; std::getline( file, strLine ); ) {
+        if ( isSetting( strLine ) )
+            settings << strLine << LOG4CPLUS_TEXT( '\n' );
+    }
     if ( file.bad() )
         return refuseFile( in_szPath, "reading failed" );
+    log4cplus::tistringstream lines( settings.str() );
+    const log4cplus::helpers::Properties properties( lines );
 
     decltype( m_mapValues ) mapValues;
     for ( const log4cplus::tstring& strName : properties.propertyNames() )

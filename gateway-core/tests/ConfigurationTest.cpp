@@ -26,7 +26,8 @@ TEST( GlobalConfig, AFileReplacesWhatItNames ) {
     config.setString( "test.removed", "old" );
     config.remove( "test.removed" );
     const std::string strPath = testing::TempDir() + "velquin-core-test.properties";
-    std::ofstream( strPath ) << "# test.comment=1\ntest.replaced = new \r\n\ntest.equals=a=b\ntest.empty=\ntest.none\n";
+    std::ofstream( strPath ) << "# test.comment=1\ntest.replaced = new \r\n\ntest.equals=a=b\ntest.empty=\ntest.none\n"
+                             << "include " << strPath << "\n\tinclude a=b\n";
     const LogCapture log;
     EXPECT_TRUE( config.loadFile( strPath.c_str() ) );
     std::remove( strPath.c_str() );

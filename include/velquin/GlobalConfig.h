@@ -21,8 +21,8 @@ public:
     void remove( const char* in_szName );
 
     /// Sets the parameters in a file of `name=value` lines ('#' begins a comment line; blanks around name and value
-    /// don't count). When the file can't be read, it sets no parameter, logs an ERROR on "marovane.core.GlobalConfig"
-    /// and yields false.
+    /// don't count; a line without '=' sets nothing). When the file can't be read, it sets no parameter, logs an ERROR
+    /// on "marovane.core.GlobalConfig" and yields false.
     bool loadFile( const char* in_szPath );
 
 private:

@@ -81,7 +81,16 @@ TEST( Map, SaysWhyThereIsNone ) {
         EXPECT_EQ( result.strErrors.substr( 0, result.strErrors.find( '\n' ) ), in_strErrors );
     };
     expectUsage( " -o map.png", "pstnconfig: --output: map.png: the name must end in .svg or .html" );
-    expectUsage( " -o /no/such/folder/map.svg", "pstnconfig: can't write /no/such/folder/map.svg" );
+    expectUsage( " -o /no/such/folder/map.svg",
+                 "pstnconfig: can't write /no/such/folder/map.svg: No such file or directory" );
+
+    const std::string strDocument = readFile( COMPLETE );
+    const TemporaryFile own( strDocument );
+    const std::string strOwn = own.getPath() + ".svg";
+    std::filesystem::rename( own.getPath(), strOwn );
+    EXPECT_EQ( runTool( "map " + strOwn + " -o " + strOwn ).nExitCode, 2 );
+    EXPECT_EQ( readFile( strOwn ), strDocument );
+    std::filesystem::remove( strOwn );
 }
 
 } // namespace Velquin::Pstn::Test

@@ -160,12 +160,31 @@ TEST( Tool, TakesTheGatewaysParameters ) {
     EXPECT_TRUE( std::regex_match( unknown.strOutput,
                                    std::regex( "[^\n]*:4:1: warning: [^\n]*config.log[^\n]*\n"
                                                "[^\n]*:6:2: warning: [^\n]*did you mean[^\n]*\n"
-                                               "[^\n]*: valid [(]2 warnings[)]\n[^\n]*: valid\n2 files: 2 valid "
-                                               "[(]2 warnings[)]\n" ) ) )
+                                               "[^\n]*:7:1: warning: line without \"=\"[^\n]*\n"
+                                               "[^\n]*: valid [(]3 warnings[)]\n[^\n]*: valid\n2 files: 2 valid "
+                                               "[(]3 warnings[)]\n" ) ) )
         << unknown.strOutput;
     const ToolResult unreadable = runTool( "check --parameters /no/such/file " + EXAMPLE );
     EXPECT_EQ( unreadable.nExitCode, 2 );
     EXPECT_EQ( unreadable.strErrors, "pstnconfig: can't read parameters file /no/such/file\n" );
+}
+
+TEST( Tool, PrintsNothingThatATerminalObeys ) {
+    const std::string strId = "\"a\xc2\x9b"
+                              "2J\xe2\x80\xae&#10;b\"";
+    const TemporaryFile file(
+        TestDocument( { { "REVERSE_LINEAR\"/></channelGroups>",
+                          "REVERSE_LINEAR\"/><channelGroup ID=" + strId + " direction=\"IN\"/></channelGroups>" },
+                        { "lastChannel=\"15\"/>", "lastChannel=\"15\"/><BChannelRange channelGroupID=" + strId +
+                                                      " firstChannel=\"16\" lastChannel=\"16\"/>" } } )
+            .getText() );
+    for ( const std::string& strVerb : { std::string( "check --source " ), std::string( "show " ),
+                                         std::string( "map " ), "diff " + COMPLETE + " " } ) {
+        const std::string strOutput = runTool( strVerb + file.getPath() ).strOutput;
+        EXPECT_THAT( strOutput, testing::ContainsRegex( "a[?]2J[?]" ) ) << strVerb;
+        for ( const char* const szObeyed : { "\xc2\x9b", "\xe2\x80\xae", "\nb" } )
+            EXPECT_EQ( strOutput.find( szObeyed ), std::string::npos ) << strVerb;
+    }
 }
 
 TEST( Tool, SaysThatTheOutputCannotBeWritten ) {

@@ -8,6 +8,7 @@
 
 #include "LessByNumbers.h"
 #include "ModelText.h"
+#include "Printable.h"
 
 using namespace Velquin::Pstn;
 
@@ -215,11 +216,11 @@ void compareChannels( const Json& in_old, const Json& in_new, const std::set<std
     }
 }
 
-/// Texts with a separator between them.
+/// Printable texts with a separator between them.
 std::string join( const Json& in_texts, const char* in_szSeparator ) {
     std::string strAll;
     for ( const Json& text : in_texts )
-        strAll += ( strAll.empty() ? "" : in_szSeparator ) + text.get<std::string>();
+        strAll += ( strAll.empty() ? "" : in_szSeparator ) + printable( text.get<std::string>() );
     return strAll;
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <map>
 
-#include <velquin/Logger.h>
+#include "Printable.h"
 
 using namespace Velquin::Pstn;
 
@@ -161,16 +161,14 @@ std::string toWords( const Json& in_value ) {
     }
     if ( in_value.is_string() && isPlain( in_value.get_ref<const std::string&>() ) )
         return in_value.get<std::string>();
-    std::string strText = toText( in_value );
-    Velquin::makePrintable( strText );
-    return strText;
+    return printable( toText( in_value ) );
 }
 
 std::string toTitle( const std::string& in_strSection, const std::string& in_strId, const Json& in_object ) {
     const auto itName = SECTION_NAMES.find( in_strSection );
     const std::string strDisplayName = in_object.value( "displayName", "" );
     return ( itName == SECTION_NAMES.end() ? in_strSection : itName->second ) + ( " " + toWords( in_strId ) ) +
-           ( strDisplayName.empty() ? "" : " " + toText( strDisplayName ) );
+           ( strDisplayName.empty() ? "" : " " + printable( toText( strDisplayName ) ) );
 }
 
 void printTable( std::ostream& out_stream, const std::vector<std::vector<std::string>>& in_vecRows ) {

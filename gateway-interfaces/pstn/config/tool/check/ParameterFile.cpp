@@ -24,7 +24,7 @@ constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 /// A parameter that the library reads, though another module declares it.
 constexpr const char* INSTALLATION_FOLDER = "marovane.Installation.Directory";
 
-/// What a line of the file says. An empty line, a comment and a line that includes another file have no name.
+/// What a line of the file says. An empty line and a comment have no name.
 struct Line {
     std::string strName;
     std::size_t uBegin = 0; ///< where the name begins
@@ -36,8 +36,7 @@ Line parse( const std::string& in_strLine ) {
     const std::size_t uBegin = in_strLine.find_first_not_of( BLANKS );
     const std::size_t uEqual = in_strLine.find( '=' );
     const bool bEqual = uEqual != std::string::npos;
-    if ( uBegin == std::string::npos || in_strLine[uBegin] == '#' || uBegin == uEqual ||
-         ( !bEqual && in_strLine.compare( uBegin, 8, "include " ) == 0 ) )
+    if ( uBegin == std::string::npos || in_strLine[uBegin] == '#' || uBegin == uEqual )
         return {};
     const std::size_t uEnd = bEqual ? in_strLine.find_last_not_of( BLANKS, uEqual - 1 ) + 1
                                     : std::min( in_strLine.find_first_of( " \t:", uBegin ), in_strLine.size() );

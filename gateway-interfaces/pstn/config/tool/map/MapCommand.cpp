@@ -1,7 +1,10 @@
+#include <cerrno>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <string>
+#include <system_error>
 
 #include "../Command.h"
 #include "../FileArgument.h"
@@ -27,24 +30,40 @@ Renderer getRenderer( const std::string& in_strOutput ) {
     return strEnding == ".svg" ? renderSvg : strEnding == ".html" ? renderHtml : nullptr;
 }
 
+/// The C++ library doesn't promise errno, but sets it.
+std::string describeLastError() {
+    return std::generic_category().message( errno );
+}
+
+ExitCode refuseOutput( const std::string& in_strOutput, const std::string& in_strReason ) {
+    std::cerr << "pstnconfig: can't write " << in_strOutput << ": " << in_strReason << std::endl;
+    return EXIT_NOT_CHECKED;
+}
+
 ExitCode map( const MapOptions& in_options ) {
     ExitCode eExitCode = EXIT_VALID;
     const auto pConfig = loadConfig( in_options.strFile, in_options.strSchema, eExitCode );
     if ( !pConfig )
         return eExitCode;
+    std::error_code error;
+    if ( !in_options.strOutput.empty() &&
+         std::filesystem::equivalent( toPath( in_options.strOutput ), toPath( in_options.strFile ), error ) )
+        return refuseOutput( in_options.strOutput, "it is the file to read" );
     const ChannelMap channelMap( *pConfig );
     const std::string strHeading = toUtf8( toPath( FileArgument::nameOf( in_options.strFile ) ).filename() );
     std::ofstream file;
-    if ( !in_options.strOutput.empty() )
+    if ( !in_options.strOutput.empty() ) {
         file.open( toPath( in_options.strOutput ), std::ios::binary | std::ios::trunc );
+        if ( !file )
+            return refuseOutput( in_options.strOutput, describeLastError() );
+    }
     std::ostream& stream = in_options.strOutput.empty() ? std::cout : file;
     stream << ( in_options.strOutput.empty() ? renderText( channelMap, strHeading, wantsColour( in_options.strColour ) )
                                              : getRenderer( in_options.strOutput )( channelMap, strHeading ) )
            << std::flush;
     if ( in_options.strOutput.empty() || stream ) // the program itself looks at standard output
         return EXIT_VALID;
-    std::cerr << "pstnconfig: can't write " << in_options.strOutput << std::endl;
-    return EXIT_NOT_CHECKED;
+    return refuseOutput( in_options.strOutput, describeLastError() );
 }
 
 } // namespace
