@@ -1,18 +1,15 @@
 #include <velquin/GlobalConfig.h>
 
-#include <filesystem>
 #include <fstream>
 #include <mutex>
 #include <string>
-#include <string_view>
-#include <system_error>
 
-#include <log4cplus/fstreams.h>
 #include <log4cplus/helpers/property.h>
 #include <log4cplus/streams.h>
 
 #include <velquin/Assertion.h>
 #include <velquin/Finding.h>
+#include <velquin/InputFile.h>
 
 namespace Velquin {
 
@@ -82,17 +79,13 @@ void GlobalConfig::remove( const char* in_szName ) {
 bool GlobalConfig::loadFile( const char* in_szPath ) try {
     if ( !VELQUIN_ASSERT( in_szPath ) )
         return false;
-    const std::string_view strPath( in_szPath );
-    const std::filesystem::path path( std::u8string( strPath.begin(), strPath.end() ) ); // in UTF-8 on Windows, too
     // Properties takes a file that can't be read for an empty one.
-    std::error_code error;
-    if ( !std::filesystem::is_regular_file( path, error ) )
-        return refuseFile( in_szPath, error ? error.message() : "it is not a file" );
-    log4cplus::tifstream file( path, std::ios::binary );
-    if ( !file )
-        return refuseFile( in_szPath, "it can't be opened" );
+    std::ifstream file;
+    if ( const std::string strWhy = openInputFile( in_szPath, file ); !strWhy.empty() )
+        return refuseFile( in_szPath, strWhy );
     log4cplus::tostringstream settings;
-    for ( log4cplus::tstring strLine; std::getline( file, strLine ); ) {
+    for ( std::string strBytes; std::getline( file, strBytes ); ) {
+        const log4cplus::tstring& strLine = LOG4CPLUS_STRING_TO_TSTRING( strBytes );
         if ( isSetting( strLine ) )
             settings << strLine << LOG4CPLUS_TEXT( '\n' );
     }

@@ -4,8 +4,7 @@
 #include <iterator>
 
 #include <libxml/encoding.h>
-
-#include "document/InputFile.h"
+#include <velquin/InputFile.h>
 
 namespace Velquin::Pstn {
 

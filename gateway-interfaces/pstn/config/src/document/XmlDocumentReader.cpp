@@ -6,12 +6,12 @@
 #include <utility>
 
 #include <libxml/SAX2.h>
+#include <velquin/InputFile.h>
 
 #include "RuleNames.h"
 #include "document/CodePages.h"
 #include "document/DocumentBuilder.h"
 #include "document/Element.h"
-#include "document/InputFile.h"
 #include "document/LibXml2Compat.h"
 #include "document/LibXml2Errors.h"
 

@@ -8,9 +8,9 @@
 #include <utility>
 
 #include <velquin/Finding.h>
+#include <velquin/InputFile.h>
 
 #include "RuleNames.h"
-#include "document/InputFile.h"
 
 namespace Velquin::Pstn {
 

@@ -5,11 +5,10 @@
 #include <utility>
 
 #include <velquin/GlobalConfig.h>
+#include <velquin/InputFile.h>
 #include <velquin/ParameterInfoDB.h>
 #include <velquin/pstn/RuleNames.h>
 #include <velquin/pstn/Suggestion.h>
-
-#include "../Utf8Path.h"
 
 using Velquin::Finding;
 using Velquin::Logger;
@@ -104,7 +103,8 @@ LineFault findFault( const Line& in_line, bool in_bMarked, const Names& in_vecMi
 CheckedFile checkParameters( const std::string& in_strFile, const Names& in_vecRequired,
                              const CheckRequest& in_request ) {
     Names vecLines;
-    std::ifstream stream( toPath( in_strFile ), std::ios::binary );
+    std::ifstream stream;
+    Velquin::openInputFile( in_strFile.c_str(), stream );
     for ( std::string strLine; std::getline( stream, strLine ); )
         vecLines.push_back( strLine.substr( 0, strLine.find_last_not_of( '\r' ) + 1 ) );
     const bool bMarked = !vecLines.empty() && vecLines[0].starts_with( BYTE_ORDER_MARK );

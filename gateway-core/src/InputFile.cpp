@@ -1,4 +1,4 @@
-#include "document/InputFile.h"
+#include <velquin/InputFile.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -10,7 +10,7 @@
 #include <windows.h>
 #endif
 
-namespace Velquin::Pstn {
+namespace Velquin {
 
 namespace {
 
@@ -42,9 +42,11 @@ bool isDevice( [[maybe_unused]] const fs::path& in_path ) {
                                       nullptr, OPEN_EXISTING, 0, nullptr );
     if ( hFile == INVALID_HANDLE_VALUE )
         return false;
-    const DWORD uType = GetFileType( hFile );
+    // A raw disk is of the type of its files, but has none of their data.
+    BY_HANDLE_FILE_INFORMATION information;
+    const bool bFile = GetFileType( hFile ) == FILE_TYPE_DISK && GetFileInformationByHandle( hFile, &information );
     CloseHandle( hFile );
-    return uType != FILE_TYPE_DISK;
+    return !bFile;
 #else
     return false;
 #endif
@@ -71,4 +73,4 @@ std::string openInputFile( const char* in_szPath, std::ifstream& out_stream ) {
     }
 }
 
-} // namespace Velquin::Pstn
+} // namespace Velquin
