@@ -43,6 +43,7 @@ std::vector<std::pair<std::string, const char*>> makeIrregularFiles( const std::
              { in_strFolder + "con .a.xml", NO_FILE },
              { in_strFolder + "Lpt1", NO_FILE },
              { "\\\\.\\NUL", NO_FILE },
+             { "\\\\.\\C:", NO_FILE },
              { in_strFolder + "\xE4.xml", "its path is not in UTF-8" } };
 }
 #else
@@ -93,7 +94,9 @@ TEST( Files, ThatAreNoRegularFilesAreNotOpened ) {
                    join( { strCause, "ERROR XmlConfig: Failed to parse RelaxNG schema file " + strPath } ) );
         EXPECT_EQ( join( captureLines( [&] { config.load( strPath.c_str(), SCHEMA, true ); } ) ),
                    join( { "ERROR XmlConfig: failed to open PSTN configuration file: " + strPath } ) );
-        EXPECT_EQ( captureLines( [&] { GlobalConfig::getInstance().loadFile( strPath.c_str() ); } ).size(), 1U );
+        const auto vecLines = captureLines( [&] { GlobalConfig::getInstance().loadFile( strPath.c_str() ); } );
+        ASSERT_EQ( vecLines.size(), 1U );
+        EXPECT_TRUE( vecLines[0].ends_with( strPath + " can't be read: " + path.second ) ) << vecLines[0];
     }
 }
 
@@ -131,9 +134,11 @@ TEST( Files, AreReadInTheEncodingsOfOperators ) {
         { "Shift_JIS", "\x93\x64\x98\x62\xB6\\~\x81\x60", "電話ｶ¥‾〜" },
         { "windows-31J", "\x93\x64\\\x87\x40", "電\\①" },
         { "GBK", "\xB5\xE7\xBB\xB0", "电话" },
-        { "Big5", "\xB9\x71\xB8\xDC", "電話" },
+        { "GB2312", "\xB5\xE7\xBB\xB0\xA1\xA4\xA1\xAA", "电话・―" },
+        { "Big5", "\xB9\x71\xB8\xDC\xC6\xA1", "電話\uF6B1" },
         { "EUC-KR", "\xC0\xFC\xC8\xAD", "전화" },
-        { "KOI8-R", "\xE4\xC1\x80", "Да─" } };
+        { "KOI8-R", "\xE4\xC1\x80", "Да─" },
+        { "KOI8-U", "\xA4\xAE\xBE", "є╝╬" } };
     for ( const auto& vecName : vecNames ) {
         SCOPED_TRACE( vecName[0] );
         const auto describe = [&]( const std::string& in_strText ) {
@@ -157,12 +162,13 @@ TEST( Files, AreReadInTheEncodingsOfOperators ) {
 
 // Newer versions of libxml2 read windows-1252 by themselves, and take each byte.
 TEST( Files, WithBytesThatTheirEncodingLacksAreRefused ) {
-    for ( const auto& [strEncoding, strBytes] : std::map<std::string, std::string>{ { "windows-1253", "\xAA" },
-                                                                                    { "windows-1255", "\xD9" },
-                                                                                    { "Shift_JIS", "\x87\x40" },
-                                                                                    { "windows-31J", "\x81\x20" },
-                                                                                    { "EUC-KR", "\xFF" },
-                                                                                    { "no-such-encoding", "a" } } ) {
+    const std::pair<std::string, std::string> aFiles[] = {
+        { "windows-1253", "\xAA" },    { "windows-1255", "\xD9" }, { "windows-1255", "\xCA" },
+        { "Shift_JIS", "\x87\x40" },   { "GBK", "\xA1\x40" },      { "GB2312", "\xA2\xA1" },
+        { "GB2312", "\x80" },          { "GB2312", "\xFE\xFE" },   { "EUC-KR", "\xC9\xA1" },
+        { "windows-31J", "\x81\x20" }, { "UHC", "\xFE\xFE" },      { "Big5", "\x81\x40" },
+        { "EUC-KR", "\xFF" },          { "no-such-encoding", "a" } };
+    for ( const auto& [strEncoding, strBytes] : aFiles ) {
         const TemporaryFile file( encode( strEncoding, strBytes ) );
         XmlConfig config;
         const LoadResult result = load( config, file.getPath(), ANY_SCHEMA );

@@ -3,6 +3,7 @@
 #if defined( _WIN32 )
 
 #include <algorithm>
+#include <cstddef>
 #include <mutex>
 
 #include <libxml/encoding.h>
@@ -36,22 +37,62 @@ wchar_t keep( const unsigned char*, int, wchar_t in_cCode ) {
     return in_cCode;
 }
 
-/// Shift_JIS as iconv has it: JIS X 0201 and 0208. The code page differs in a few marks, and has more characters.
-wchar_t refineShiftJis( const unsigned char* in_pCharacter, int, wchar_t in_cCode ) {
-    if ( *in_pCharacter == 0x87 || *in_pCharacter >= 0xED )
-        return L'\0';
-    constexpr wchar_t MARKS[][2] = { { 0x5C, 0xA5 },     { 0x7E, 0x203E }, { 0x2225, 0x2016 }, { 0xFF0D, 0x2212 },
-                                     { 0xFF5E, 0x301C }, { 0xFFE0, 0xA2 }, { 0xFFE1, 0xA3 },   { 0xFFE2, 0xAC } };
-    for ( const auto& mark : MARKS ) {
+/// Without the private area, which most code pages have around what their standards define.
+wchar_t omitPrivate( const unsigned char*, int, wchar_t in_cCode ) {
+    return in_cCode >= 0xE000 && in_cCode < 0xF900 ? L'\0' : in_cCode;
+}
+
+/// A code of the code page, and what iconv has in its place
+using Mark = wchar_t[2];
+
+template <std::size_t COUNT>
+wchar_t replace( const Mark ( &in_aMarks )[COUNT], wchar_t in_cCode ) {
+    for ( const Mark& mark : in_aMarks ) {
         if ( in_cCode == mark[0] )
             return mark[1];
     }
     return in_cCode;
 }
 
-/// EUC-KR and GB2312: only rows and columns of the standard, not what the code page has around them.
-wchar_t refineEuc( const unsigned char* in_pCharacter, int in_nBytes, wchar_t in_cCode ) {
-    return in_nBytes == 2 && ( in_pCharacter[0] < 0xA1 || in_pCharacter[1] < 0xA1 ) ? L'\0' : in_cCode;
+/// Shift_JIS as iconv has it: JIS X 0201 and 0208. The code page differs in a few marks, and has more characters.
+wchar_t refineShiftJis( const unsigned char* in_pCharacter, int, wchar_t in_cCode ) {
+    constexpr Mark MARKS[] = { { 0x5C, 0xA5 },     { 0x7E, 0x203E }, { 0x2225, 0x2016 }, { 0xFF0D, 0x2212 },
+                               { 0xFF5E, 0x301C }, { 0xFFE0, 0xA2 }, { 0xFFE1, 0xA3 },   { 0xFFE2, 0xAC } };
+    return *in_pCharacter == 0x87 || *in_pCharacter >= 0xED ? L'\0' : replace( MARKS, in_cCode );
+}
+
+/// EUC-KR: only rows and columns of the standard, not what the code page has around them.
+wchar_t refineEucKr( const unsigned char* in_pCharacter, int in_nBytes, wchar_t in_cCode ) {
+    const bool bAscii = *in_pCharacter < 0x80;
+    const bool bStandard = in_nBytes == 2 && in_pCharacter[0] >= 0xA1 && in_pCharacter[1] >= 0xA1;
+    return bAscii || bStandard ? omitPrivate( in_pCharacter, in_nBytes, in_cCode ) : L'\0';
+}
+
+/// GB2312: the same, and without what the code page has in gaps of the standard's rows 2, 6 and 8.
+wchar_t refineGb2312( const unsigned char* in_pCharacter, int in_nBytes, wchar_t in_cCode ) {
+    constexpr unsigned char GAPS[][3] = { { 0xA2, 0xA1, 0xAA }, { 0xA6, 0xE0, 0xF5 }, { 0xA8, 0xBB, 0xC0 } };
+    for ( const auto& gap : GAPS ) {
+        if ( in_nBytes == 2 && in_pCharacter[0] == gap[0] && in_pCharacter[1] >= gap[1] && in_pCharacter[1] <= gap[2] )
+            return L'\0';
+    }
+    constexpr Mark MARKS[] = { { 0xB7, 0x30FB }, { 0x2014, 0x2015 } };
+    return replace( MARKS, refineEucKr( in_pCharacter, in_nBytes, in_cCode ) );
+}
+
+/// windows-1255 without a rare vowel point, which iconv lacks.
+wchar_t refine1255( const unsigned char* in_pCharacter, int in_nBytes, wchar_t in_cCode ) {
+    return *in_pCharacter == 0xCA ? L'\0' : omitPrivate( in_pCharacter, in_nBytes, in_cCode );
+}
+
+/// Of the private area, iconv has the three rows of a common extension.
+wchar_t refineBig5( const unsigned char* in_pCharacter, int in_nBytes, wchar_t in_cCode ) {
+    const bool bExtension = *in_pCharacter >= 0xC6 && *in_pCharacter <= 0xC8;
+    return bExtension ? in_cCode : omitPrivate( in_pCharacter, in_nBytes, in_cCode );
+}
+
+wchar_t refineKoi8U( const unsigned char*, int, wchar_t in_cCode ) {
+    constexpr Mark MARKS[] = { { 0x45E, 0x255D }, { 0x40E, 0x256C } };
+    return replace( MARKS, in_cCode );
 }
 
 /// Appends the character in UTF-8, if there is room.
@@ -69,7 +110,7 @@ int appendUtf8( wchar_t in_cCode, unsigned char* out_pText, int in_nRoom ) {
 }
 
 /// An input function of libxml2. A character that the end of the input cuts in two waits for its second half.
-template <UINT CODE_PAGE, Refinement REFINE = keep>
+template <UINT CODE_PAGE, Refinement REFINE = omitPrivate>
 int convert( unsigned char* out_pText, int* inout_pRoom, const unsigned char* in_pBytes, int* inout_pBytes ) {
     int nRead = 0;
     int nWritten = 0;
@@ -110,19 +151,19 @@ constexpr CodePage CODE_PAGES[] = {
     { "windows-1252", &convert<1252>, { "CP1252" } },
     { "windows-1253", &convert<1253>, { "CP1253" } },
     { "windows-1254", &convert<1254>, { "CP1254" } },
-    { "windows-1255", &convert<1255>, { "CP1255" } },
+    { "windows-1255", &convert<1255, refine1255>, { "CP1255" } },
     { "windows-1256", &convert<1256>, { "CP1256" } },
     { "windows-1257", &convert<1257>, { "CP1257" } },
     { "windows-1258", &convert<1258>, { "CP1258" } },
     { "Shift_JIS", &convert<932, refineShiftJis>, { "SJIS", "MS_KANJI" } },
-    { "windows-31J", &convert<932>, { "CP932" } },
+    { "windows-31J", &convert<932, keep>, { "CP932" } },
     { "GBK", &convert<936>, { "CP936" } },
-    { "GB2312", &convert<936, refineEuc>, {} },
-    { "EUC-KR", &convert<949, refineEuc>, {} },
+    { "GB2312", &convert<936, refineGb2312>, {} },
+    { "EUC-KR", &convert<949, refineEucKr>, {} },
     { "UHC", &convert<949>, { "CP949" } },
-    { "Big5", &convert<950>, { "CP950" } },
+    { "Big5", &convert<950, refineBig5>, { "CP950" } },
     { "KOI8-R", &convert<20866>, {} },
-    { "KOI8-U", &convert<21866>, {} },
+    { "KOI8-U", &convert<21866, refineKoi8U>, {} },
 };
 
 bool isKnown( const char* in_szName ) {
