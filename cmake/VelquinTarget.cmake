@@ -4,7 +4,9 @@ function(velquin_target target)
                                              CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   target_compile_options(${target} PRIVATE
     $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion>
-    $<$<CXX_COMPILER_ID:MSVC>:/W4>)
+    $<$<CXX_COMPILER_ID:MSVC>:/W4 /utf-8>)
+  # windows.h would make macros of std::min and std::max.
+  target_compile_definitions(${target} PRIVATE $<$<PLATFORM_ID:Windows>:NOMINMAX>)
   # GCC 12 warns of overlapping copies inside its own `const char* + std::string` (GCC bug 105651).
   if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(${target} PRIVATE -Wno-restrict)
