@@ -7,7 +7,7 @@
 
 // Files made to harm: each is refused with clear lines, or loads, in a time and a memory that its own size bounds.
 
-#if defined( _WIN32 ) // whose clock runs while others have the processor
+#if defined( _WIN32 ) // see cmake/not-on-windows.txt
 #define COSTS_ARE_NOT_OURS
 #endif
 #if defined( __has_feature )
