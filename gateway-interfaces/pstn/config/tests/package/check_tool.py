@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""check_tool.py PREFIX VERSION SOURCES: the installed tool works from where it stands, and has what its help names."""
+"""check_tool.py PREFIX VERSION SOURCES [LAUNCHER]: the installed tool works from where it stands, and has what its help
+names. The launcher runs programs of another system."""
 
 import pathlib
 import re
@@ -7,11 +8,12 @@ import subprocess
 import sys
 
 prefix, version, sources = pathlib.Path(sys.argv[1]), sys.argv[2], pathlib.Path(sys.argv[3])
+program = [*sys.argv[4:], *(prefix / "bin").glob("pstnconfig*")]
 faults = []
 
 
 def run(*arguments):
-    result = subprocess.run([prefix / "bin/pstnconfig", *arguments], cwd="/", stdout=subprocess.PIPE,
+    result = subprocess.run([*program, *arguments], cwd="/", stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT, encoding="utf-8")
     faults.extend([f"{arguments}: {result.stdout}"] if result.returncode else [])
     return result.stdout
@@ -38,8 +40,9 @@ if len(named) < 3:
 # The version stands in CMakeLists.txt; the other places agree.
 if not re.fullmatch(rf"pstnconfig {version}\nlibxml2 \d+\.\d+\.\d+\n", run("--version")):
     faults.append(f"--version: {run('--version')}")
-for file, pattern in ("CHANGELOG.md", r"^## \[?([\d.]+)"), ("debian/changelog", r"^\S+ \(([\d.]+)\)"):
+for file, pattern in (("CHANGELOG.md", r"^## \[?([\d.]+)"), ("debian/changelog", r"^\S+ \(([\d.]+)\)"),
+                      ("README.md", r"velquin-pstn-config-([\d.]+)-Windows")):
     found = re.search(pattern, (sources / file).read_text(encoding="utf-8"), re.M)
     if not found or found[1] != version:
-        faults.append(f"{file} begins with {found and found[1]}, not with {version}")
+        faults.append(f"the first version in {file} is {found and found[1]}, not {version}")
 sys.exit("\n".join(faults) or 0)
