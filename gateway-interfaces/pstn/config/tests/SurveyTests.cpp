@@ -74,7 +74,10 @@ void expectOne( const SurveyResult& in_result, const std::string& in_strLine, co
     ASSERT_EQ( in_result.vecMistakes.size(), 1U ) << in_result.strText;
     const Finding& finding = in_result.vecMistakes[0];
     EXPECT_EQ( in_strLine, in_strLine.empty() ? "" : std::to_string( finding.span.ullLine ) ) << in_result.strText;
-    EXPECT_THAT( describeFinding( finding ), testing::HasSubstr( in_strWords ) );
+    std::string strFound = describeFinding( finding );
+    for ( const Finding::Related& related : finding.vecRelated )
+        strFound += " | " + related.strLabel + " " + std::to_string( related.ullLine );
+    EXPECT_THAT( strFound, testing::HasSubstr( in_strWords ) );
     EXPECT_EQ( finding.strRule, in_strRule.empty() ? finding.strRule : in_strRule );
 }
 
@@ -85,7 +88,16 @@ TEST( Survey, FindsEachSingleMistakeOnce ) {
         SCOPED_TRACE( mistake.vecEdits[0].strFrom + " " + mistake.vecEdits[0].strTo );
         const TestDocument document( mistake.vecEdits );
         expectOne( survey( document.getText() ), document.expand( mistake.strPlace, "" ), mistake.strRule,
-                   mistake.strWords );
+                   document.expand( mistake.strWords, "" ) );
+    }
+}
+
+TEST( Survey, SaysOfADisplayNameWhatTheSchemaSays ) {
+    for ( const std::string strPath : { "/tirvanaDigitalBoard[1]", "/tirvanaDigitalBoard[1]/interface[1]" } ) {
+        const TestDocument document( { { strPath, "displayName=\"PBX:1\"" } } );
+        for ( const std::string& strSchema : { std::string( SCHEMA ), ANY_SCHEMA } )
+            expectOne( survey( document.getText(), strSchema ), document.expand( "{line}", "" ), "invalid-value",
+                       "displayName=\"PBX:1\": the value must be a text of letters (a to z, A to Z), digits, blanks" );
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <velquin/UniqueObjPtr.h>
 
+#include "hardware/DisplayName.h"
 #include "reading/ElementReader.h"
 #include "reading/ElementWriter.h"
 
@@ -12,7 +13,8 @@ PSTN_CONFIG_CLASS_IMPL( BoardConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for board  ", "] for board  " };
-constexpr TextRule DISPLAY_NAME{ "Display name may contain space, '-', '_' and alpha numeric characters." };
+constexpr TextRule DISPLAY_NAME{ "Display name may contain space, '-', '_' and alpha numeric characters.",
+                                 DISPLAY_NAME_ADVICE };
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include <velquin/UniqueObjPtr.h>
 
 #include "hardware/BoardConfig.h"
+#include "hardware/DisplayName.h"
 #include "reading/ElementReader.h"
 #include "reading/ElementWriter.h"
 
@@ -13,7 +14,8 @@ PSTN_CONFIG_CLASS_IMPL( InterfaceConfigXmlSerializer );
 namespace {
 
 constexpr ReaderWording WORDING{ "] for interface  ", "] for interface  " };
-constexpr TextRule DISPLAY_NAME{ "Display name may contains spaces, '-', '_' and alpha numeric characters." };
+constexpr TextRule DISPLAY_NAME{ "Display name may contains spaces, '-', '_' and alpha numeric characters.",
+                                 DISPLAY_NAME_ADVICE };
 
 } // namespace
 

@@ -46,6 +46,7 @@ inline constexpr NumberRule WHOLE_DECIMAL{ NumberPolicy::WHOLE, DECIMAL_HINT };
 /// Any text that the setter takes. A setter that refuses reports why. With a hint, the reader reports it, too.
 struct TextRule {
     std::string_view strHint;
+    std::string_view strAdvice{}; ///< the same for people; empty when the hint says it
 };
 
 inline constexpr TextRule ANY_TEXT{};
@@ -235,7 +236,9 @@ private:
                   TConfig& out_config, bool ( TOwner::*in_set )( const char* ) ) const {
         const bool bTaken = ( out_config.*in_set )( in_text.c_str() );
         if ( !bTaken && !in_rule.strHint.empty() )
-            reportInvalid( in_szAttribute, in_text.view(), in_rule.strHint );
+            reportInvalid(
+                { in_szAttribute, nullptr, in_text.view(), Rules::INVALID_VALUE, std::string( in_rule.strAdvice ) },
+                in_rule.strHint );
         return bTaken;
     }
 

@@ -138,20 +138,32 @@ void markMovedElements( SurveyRecord& inout_record ) {
     }
 }
 
-/// A member that has the span of another one is measured by the D-channel of that span.
+/// A member that has the span of another one, or of another group, is measured by the D-channel of that span. Where
+/// all that name a span are refused, its D-channel is the mistake.
 void markSpansTwice( SurveyRecord& inout_record ) {
-    std::map<const xmlNode*, std::multiset<std::string>> mapSpans; // by their lists
+    std::map<const xmlNode*, SurveyedFinding*> mapRefused; // by their references
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( !isAboutDChannel( item ) || !item.pElement || !isNamed( item.pElement, "member" ) )
+        if ( item.pElement && isAboutDChannel( item ) && isReference( item.pElement ) )
+            mapRefused.try_emplace( item.pElement, &item );
+    }
+    if ( mapRefused.empty() )
+        return;
+    std::set<std::string> setTaken;
+    std::map<const xmlNode*, std::multiset<std::string>> mapSpans; // by their lists
+    for ( const xmlNode* const pElement : getTree( getChain( mapRefused.begin()->first )[1] ) ) {
+        if ( !isReference( pElement ) )
             continue;
-        const xmlNode* const pMembers = getParentElement( item.pElement );
-        std::multiset<std::string>& setSpans = mapSpans[pMembers];
-        if ( setSpans.empty() ) {
-            for ( const xmlNode* const pMember : ChildElements( pMembers ) )
-                setSpans.insert( describeReference( pMember ) );
-        }
-        if ( setSpans.count( describeReference( item.pElement ) ) > 1 )
-            item.finding.strRule = Rules::NFAS_MEMBER_TWICE;
+        mapSpans[getParentElement( pElement )].insert( describeReference( pElement ) );
+        if ( !mapRefused.contains( pElement ) )
+            setTaken.insert( describeReference( pElement ) );
+    }
+    for ( const auto& [pReference, pItem] : mapRefused ) {
+        const std::string strSpan = describeReference( pReference );
+        if ( isNamed( pReference, "member" ) && mapSpans[getParentElement( pReference )].count( strSpan ) > 1 )
+            pItem->finding.strRule = Rules::NFAS_MEMBER_TWICE;
+        else if ( setTaken.contains( strSpan ) ||
+                  setTaken.contains( describeLine( pReference, getValue( pReference, "boardID" ), {} ) ) )
+            pItem->finding.strRule = SPAN_IN_TWO_ISDN_GROUPS;
     }
 }
 

@@ -57,6 +57,31 @@ std::vector<const xmlNode*> getTree( const xmlNode* in_pElement ) {
     return vecElements;
 }
 
+std::vector<const xmlNode*> getChildren( const xmlNode* in_pElement ) {
+    std::vector<const xmlNode*> vecChildren;
+    for ( const xmlNode* const pChild : ChildElements( in_pElement ) )
+        vecChildren.push_back( pChild );
+    return vecChildren;
+}
+
+std::vector<const xmlNode*> getBoards( const xmlNode* in_pRoot, bool in_bAnalog ) {
+    std::vector<const xmlNode*> vecBoards;
+    for ( const xmlNode* const pSection : ChildElements( in_pRoot, "boards" ) ) {
+        for ( const xmlNode* const pBoard : ChildElements( pSection ) ) {
+            if ( isAnalog( pBoard ) == in_bAnalog )
+                vecBoards.push_back( pBoard );
+        }
+    }
+    return vecBoards;
+}
+
+const xmlNode* findById( const std::vector<const xmlNode*>& in_vecElements, std::string_view in_strId ) {
+    const auto it = std::find_if( in_vecElements.begin(), in_vecElements.end(), [in_strId]( const xmlNode* in_p ) {
+        return isSameIdentifier( getValue( in_p, "ID" ), in_strId );
+    } );
+    return it == in_vecElements.end() ? nullptr : *it;
+}
+
 bool isReference( const xmlNode* in_pElement ) {
     const xmlNode* const pParent = getParentElement( in_pElement );
     return pParent && ( isNamed( pParent, "applyTo" ) || isNamed( pParent, "members" ) );

@@ -31,6 +31,14 @@ std::vector<const xmlNode*> getChain( const xmlNode* in_pElement );
 /// The element and all elements in it, in document order.
 std::vector<const xmlNode*> getTree( const xmlNode* in_pElement );
 
+std::vector<const xmlNode*> getChildren( const xmlNode* in_pElement );
+
+/// The boards of one kind.
+std::vector<const xmlNode*> getBoards( const xmlNode* in_pRoot, bool in_bAnalog );
+
+/// The first element with that ID; null when there is none.
+const xmlNode* findById( const std::vector<const xmlNode*>& in_vecElements, std::string_view in_strId );
+
 /// Whether the element names a board, or should: a reference of `applyTo`, a member of a group.
 bool isReference( const xmlNode* in_pElement );
 

@@ -1,7 +1,9 @@
 #include "survey/FindingDetails.h"
 
 #include <algorithm>
+#include <map>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "RuleNames.h"
@@ -10,6 +12,7 @@
 #include "reading/ChildElements.h"
 #include "reading/Number.h"
 #include "survey/Elements.h"
+#include "survey/ReferenceKeys.h"
 
 namespace Velquin::Pstn {
 
@@ -17,38 +20,10 @@ namespace {
 
 constexpr std::size_t MAX_DETAILED = 100; // each may look through the whole document
 
-using Elements = std::vector<const xmlNode*>;
-
-/// Boards of one kind.
-Elements getBoards( const xmlNode* in_pRoot, bool in_bAnalog ) {
-    Elements vecBoards;
-    for ( const xmlNode* const pSection : ChildElements( in_pRoot, "boards" ) ) {
-        for ( const xmlNode* const pBoard : ChildElements( pSection ) ) {
-            if ( isAnalog( pBoard ) == in_bAnalog )
-                vecBoards.push_back( pBoard );
-        }
-    }
-    return vecBoards;
-}
-
-const xmlNode* findById( const Elements& in_vecElements, const std::string& in_strId ) {
-    const auto it = std::find_if( in_vecElements.begin(), in_vecElements.end(), [&in_strId]( const xmlNode* in_p ) {
-        return isSameIdentifier( getValue( in_p, "ID" ), in_strId );
-    } );
-    return it == in_vecElements.end() ? nullptr : *it;
-}
-
-Elements getChildren( const xmlNode* in_pParent ) {
-    Elements vecChildren;
-    for ( const xmlNode* const pChild : ChildElements( in_pParent ) )
-        vecChildren.push_back( pChild );
-    return vecChildren;
-}
-
 /// "there is no such board; there are 1, 2 and 3"
 /// @param in_bNumbers whether identifiers are numbers: of those, one is not more like another
 std::string describeMissing( const std::string& in_strWhat, const std::string& in_strValue,
-                             const Elements& in_vecExisting, bool in_bNumbers = true ) {
+                             const std::vector<const xmlNode*>& in_vecExisting, bool in_bNumbers = true ) {
     constexpr std::size_t MAX_LISTED = 10;
     std::vector<std::string> vecIds;
     for ( const xmlNode* const pElement : in_vecExisting ) {
@@ -74,24 +49,52 @@ void relate( Finding& inout_finding, const char* in_szLabel, const xmlNode* in_p
                                        getElementNumber( in_pElement ), in_szAttribute } );
 }
 
+/// Relates the other place of what stands twice.
+void relateOther( SurveyedFinding& inout_item, const xmlNode* in_pOther, const char* in_szAttribute ) {
+    const bool bFirst = getElementNumber( in_pOther ) < getElementNumber( inout_item.pElement );
+    relate( inout_item.finding, bFirst ? "first here" : "also here", in_pOther, in_szAttribute );
+}
+
 /// Relates the first element in front of the finding's that fits.
 template <class TFits>
-void relateFirst( SurveyedFinding& inout_item, const Elements& in_vecElements, const char* in_szAttribute,
-                  const TFits& in_fits ) {
+void relateFirst( SurveyedFinding& inout_item, const std::vector<const xmlNode*>& in_vecElements,
+                  const char* in_szAttribute, const TFits& in_fits ) {
     for ( const xmlNode* const pElement : in_vecElements ) {
         if ( getElementNumber( pElement ) >= getElementNumber( inout_item.pElement ) )
             return;
         if ( in_fits( pElement ) ) {
-            relate( inout_item.finding, "first here", pElement, in_szAttribute );
+            relateOther( inout_item, pElement, in_szAttribute );
             return;
         }
     }
 }
 
+/// Whether the reference names, with its two identifiers exchanged, an interface that no other one of its section
+/// names.
+bool isSwapped( const xmlNode* in_pReference, const xmlNode* in_pRoot ) {
+    if ( !isReference( in_pReference ) )
+        return false;
+    const bool bAnalog = isAnalog( in_pReference );
+    const std::string strBoard = getValue( in_pReference, "interfaceID" );
+    const std::string strInterface = getValue( in_pReference, "boardID" );
+    const xmlNode* const pBoard = findById( getBoards( in_pRoot, bAnalog ), strBoard );
+    if ( !pBoard || !findById( getChildren( pBoard ), strInterface ) )
+        return false;
+    const std::vector<const xmlNode*> vecOthers = getTree( getChain( in_pReference )[0] );
+    return std::none_of( vecOthers.begin(), vecOthers.end(), [&]( const xmlNode* in_pOther ) {
+        const std::string strOther = getValue( in_pOther, "interfaceID" );
+        return isReference( in_pOther ) && isAnalog( in_pOther ) == bAnalog &&
+               isSameIdentifier( getValue( in_pOther, "boardID" ), strBoard ) &&
+               ( strOther.empty() || isSameIdentifier( strOther, strInterface ) );
+    } );
+}
+
+constexpr const char* SWAPPED = "; boardID and interfaceID may be swapped";
+
 void detailUnknownBoard( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
     Finding& finding = inout_item.finding;
     const bool bAnalog = isAnalog( inout_item.pElement );
-    const Elements vecOthers = getBoards( in_pRoot, !bAnalog );
+    const std::vector<const xmlNode*> vecOthers = getBoards( in_pRoot, !bAnalog );
     if ( const xmlNode* const pOther = findById( vecOthers, finding.strValue ) ) {
         finding.strHint = bAnalog ? "this board is digital" : "this board is analog";
         relate( finding, "declared here", pOther, "ID" );
@@ -99,6 +102,8 @@ void detailUnknownBoard( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) 
     }
     finding.strHint =
         describeMissing( bAnalog ? "analog board" : "digital board", finding.strValue, getBoards( in_pRoot, bAnalog ) );
+    if ( isSwapped( inout_item.pElement, in_pRoot ) )
+        finding.strHint += SWAPPED;
 }
 
 void detailUnknownInterface( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
@@ -110,12 +115,14 @@ void detailUnknownInterface( SurveyedFinding& inout_item, const xmlNode* in_pRoo
         return;
     inout_item.finding.strHint = describeMissing( "interface on board " + getValue( pBoard, "ID" ),
                                                   inout_item.finding.strValue, getChildren( pBoard ) );
+    if ( isSwapped( pElement, in_pRoot ) )
+        inout_item.finding.strHint += SWAPPED;
     if ( !bOfBoard )
         relate( inout_item.finding, "board declared here", pBoard, "ID" );
 }
 
 void detailUnknownChannelGroup( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
-    Elements vecGroups;
+    std::vector<const xmlNode*> vecGroups;
     for ( const xmlNode* const pCallControl : ChildElements( in_pRoot, "callControl" ) ) {
         for ( const xmlNode* const pGroups : ChildElements( pCallControl, "channelGroups" ) )
             vecGroups = getChildren( pGroups );
@@ -144,12 +151,12 @@ void detailIdentifierTwice( SurveyedFinding& inout_item, const xmlNode* ) {
 void detailTirpipeTwice( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
     Finding& finding = inout_item.finding;
     finding.strHint = "another board or interface has this tirpipe number; give each its own";
-    // Analog boards are asked first: the first place may stand behind.
+    // Analog boards are asked first: the other place may stand behind.
     for ( const xmlNode* const pBoards : ChildElements( in_pRoot, "boards" ) ) {
         for ( const xmlNode* const pElement : getTree( pBoards ) ) {
             if ( pElement != inout_item.pElement &&
                  isSameIdentifier( getValue( pElement, "tirpipe" ), finding.strValue ) ) {
-                relate( finding, "first here", pElement, "tirpipe" );
+                relateOther( inout_item, pElement, "tirpipe" );
                 return;
             }
         }
@@ -175,9 +182,24 @@ void detailNfasMemberTwice( SurveyedFinding& inout_item, const xmlNode* ) {
     for ( const xmlNode* const pOther : ChildElements( getParentElement( inout_item.pElement ) ) ) {
         if ( pOther == inout_item.pElement || !meanOneLine( pOther, inout_item.pElement ) )
             continue;
-        // The one behind may be the right one: its D-channel tells.
-        const bool bFirst = getElementNumber( pOther ) < getElementNumber( inout_item.pElement );
-        relate( inout_item.finding, bFirst ? "first here" : "also here", pOther, "boardID" );
+        relateOther( inout_item, pOther, "boardID" ); // the one behind may be the right one: its D-channel tells
+        return;
+    }
+}
+
+void detailSpanInTwoIsdnGroups( SurveyedFinding& inout_item, const xmlNode* ) {
+    const xmlNode* const pElement = inout_item.pElement;
+    const auto vecChain = getChain( pElement );
+    inout_item.finding.strMessage = "this span is already in another ISDN group";
+    inout_item.finding.strHint = "leave it in one ISDN group";
+    for ( const xmlNode* const pOther : getTree( vecChain[1] ) ) {
+        if ( !isReference( pOther ) || !meanOneLine( pOther, pElement ) || isWithin( pOther, vecChain[2] ) )
+            continue;
+        const xmlNode* const pGroup = getChain( pOther )[2];
+        inout_item.finding.strMessage = "span " + getValue( pElement, "interfaceID" ) + " of board " +
+                                        getValue( pElement, "boardID" ) + " is already in " + getElementName( pGroup ) +
+                                        " " + getValue( pGroup, "ID" );
+        relateOther( inout_item, pOther, "boardID" );
         return;
     }
 }
@@ -188,6 +210,28 @@ void detailChannelTwice( SurveyedFinding& inout_item, const xmlNode* ) {
     inout_item.finding.strHint = "a channel of this line is already in the group; name each channel once";
     relateFirst( inout_item, getTree( getChain( pElement )[0] ), "channelGroupID",
                  [pElement]( const xmlNode* in_pOther ) { return shareChannel( in_pOther, pElement ); } );
+}
+
+/// A line of the same board that a list names twice: one of the two may be meant for the line of the finding.
+void relateLineTwice( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
+    const xmlNode* const pBoard = getParentElement( inout_item.pElement );
+    const std::string strBoard = describeLine( pBoard, getValue( pBoard, "ID" ), {} );
+    std::map<std::pair<const xmlNode*, std::string>, const xmlNode*> mapFirst; // by the list, and what they name
+    for ( const xmlNode* const pCallControl : ChildElements( in_pRoot, "callControl" ) ) {
+        for ( const xmlNode* const pElement : getTree( pCallControl ) ) {
+            if ( !isReference( pElement ) || getValue( pElement, "interfaceID" ).empty() ||
+                 describeLine( pElement, getValue( pElement, "boardID" ), {} ) != strBoard )
+                continue;
+            const auto [it, bFirst] =
+                mapFirst.try_emplace( { getParentElement( pElement ), describeReference( pElement ) }, pElement );
+            if ( bFirst )
+                continue;
+            relate( inout_item.finding, "and again here: one of the two may be meant for the line without call control",
+                    pElement, "interfaceID" );
+            relate( inout_item.finding, "another line of this board is named here", it->second, "interfaceID" );
+            return;
+        }
+    }
 }
 
 /// The words of findings whose log lines say more than a person wants to read.
@@ -216,7 +260,7 @@ void detailMessage( SurveyedFinding& inout_item, const xmlNode* ) {
 }
 
 struct Detail {
-    const char* szRule;
+    std::string_view strRule;
     void ( *add )( SurveyedFinding& inout_item, const xmlNode* in_pRoot );
 };
 
@@ -228,9 +272,11 @@ constexpr Detail DETAILS[] = {
     { Rules::TIRPIPE_TWICE, &detailTirpipeTwice },
     { Rules::PHYSICAL_CONFIG_TWICE, &detailPhysicalConfigTwice },
     { Rules::NFAS_MEMBER_TWICE, &detailNfasMemberTwice },
+    { SPAN_IN_TWO_ISDN_GROUPS, &detailSpanInTwoIsdnGroups },
     { Rules::CHANNEL_TWICE, &detailChannelTwice },
     { Rules::NO_PHYSICAL_CONFIG, &detailMessage },
     { Rules::NO_CALL_CONTROL, &detailMessage },
+    { Rules::NO_CALL_CONTROL, &relateLineTwice },
     { Rules::NO_D_CHANNEL, &detailMessage },
     { Rules::UNUSED_D_CHANNEL, &detailMessage },
 };
@@ -243,7 +289,7 @@ void addDetails( SurveyRecord& inout_record ) {
         if ( item.finding.bEcho || !item.pElement )
             continue;
         for ( const Detail& detail : DETAILS ) {
-            if ( item.is( detail.szRule ) )
+            if ( item.is( detail.strRule ) )
                 detail.add( item, inout_record.pRoot );
         }
         if ( ++uDetailed == MAX_DETAILED )

@@ -82,20 +82,25 @@ void Losses::addMissing( const SurveyedFinding& in_item ) {
     }
 }
 
-/// A reference with a wrong identifier, or one that another reference has already, means a line of the same board, or
-/// one of the same number on another board.
+/// A reference to nothing, or to what another reference has already, means a line of the same board, one of the same
+/// number on another board, or one whose two identifiers are exchanged.
 void Losses::addWrongReference( const SurveyedFinding& in_item ) {
     const bool bChannel = in_item.is( Rules::CHANNEL_TWICE );
     const xmlNode* const pReference = bChannel ? getReference( in_item.pElement ) : in_item.pElement;
     if ( !isReference( pReference ) || ( bChannel && sharesChannelWithin( in_item.pElement ) ) )
         return;
-    const bool bTwice =
-        bChannel || in_item.is( Rules::PHYSICAL_CONFIG_TWICE ) || in_item.is( Rules::NFAS_MEMBER_TWICE );
+    const bool bAnyLine = bChannel || in_item.is( Rules::PHYSICAL_CONFIG_TWICE ) ||
+                          in_item.is( Rules::NFAS_MEMBER_TWICE ) || in_item.is( SPAN_IN_TWO_ISDN_GROUPS ) ||
+                          in_item.is( Rules::UNKNOWN_INTERFACE );
+    const std::string strBoard = getValue( pReference, "boardID" );
     const std::string strInterface = getValue( pReference, "interfaceID" );
-    if ( bTwice || in_item.finding.strAttribute == "boardID" )
-        getReferences( pReference ).insert( describeLine( pReference, ANY, strInterface ) );
-    if ( bTwice || in_item.finding.strAttribute == "interfaceID" )
-        getReferences( pReference ).insert( describeLine( pReference, getValue( pReference, "boardID" ), ANY ) );
+    std::set<std::string>& setReferences = getReferences( pReference );
+    if ( bAnyLine || in_item.finding.strAttribute == "boardID" )
+        setReferences.insert( describeLine( pReference, ANY, strInterface ) );
+    if ( bAnyLine || in_item.finding.strAttribute == "interfaceID" )
+        setReferences.insert( describeLine( pReference, strBoard, ANY ) );
+    if ( ( bAnyLine || isReferenceRule( in_item ) ) && !strInterface.empty() )
+        setReferences.insert( describeLine( pReference, strInterface, strBoard ) );
 }
 
 /// A text that was a tag may have declared, or meant, any line.

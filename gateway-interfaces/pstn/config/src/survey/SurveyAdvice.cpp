@@ -12,6 +12,7 @@
 #include "advice/Advice.h"
 #include "document/Element.h"
 #include "survey/Elements.h"
+#include "survey/ReferenceKeys.h"
 
 namespace Velquin::Pstn {
 
@@ -43,8 +44,13 @@ public:
             m_bGroupsMayBeFilled = m_bGroupsMayBeFilled || mayFillGroups( item );
             if ( item.isMain() && item.is( Rules::NO_CALL_CONTROL ) )
                 m_vecWithoutCallControl.push_back( &item );
-            if ( item.is( Rules::PHYSICAL_CONFIG_TWICE ) )
+            if ( item.is( Rules::PHYSICAL_CONFIG_TWICE ) ) {
                 m_setCopies.insert( getElementNumber( getChain( item.pElement )[1] ) );
+                m_setBoardsTwice.insert( describeLine( item.pElement, getValue( item.pElement, "boardID" ), {} ) );
+                m_setLinesTwice.insert( describeReference( item.pElement ) );
+            }
+            if ( item.is( SPAN_IN_TWO_ISDN_GROUPS ) )
+                m_setLinesTwice.insert( describeReference( item.pElement ) );
             if ( !item.is( Rules::CHANNEL_TWICE ) )
                 continue;
             m_setCopies.insert( getElementNumber( getReference( item.pElement ) ) );
@@ -56,16 +62,31 @@ public:
         }
     }
 
+    /// Learns which lines are named twice. Call it with all advice first.
+    void look( const Finding& in_advice ) {
+        if ( isAboutLineTwice( in_advice ) )
+            m_setLinesTwice.insert( describeReference( getElement( in_advice.ullElement ) ) );
+    }
+
     /// @param inout_advice an error from now on if it explains why the file doesn't load
     bool take( Finding& inout_advice ) {
         if ( m_setRefused.contains( { inout_advice.ullElement, inout_advice.strAttribute } ) )
             return false; // it needs no advice on its value
         if ( inout_advice.strRule == "group-empty" )
             return !m_bGroupsMayBeFilled;
+        if ( isAboutLineTwice( inout_advice ) ) {
+            if ( takeLineFrom( inout_advice ) )
+                inout_advice.nLevel = Logger::ERROR_LEVEL;
+        } else if ( isOnLineTwice( inout_advice.ullElement ) ||
+                    std::any_of( inout_advice.vecRelated.begin(), inout_advice.vecRelated.end(),
+                                 [this]( const auto& in_related ) { return isOnLineTwice( in_related.ullElement ); } ) )
+            return false; // one of the two is not meant for this line
         if ( inout_advice.strRule == "d-channel-in-range" )
             return !m_mapTwice.contains( inout_advice.ullElement ); // the range is longer than it was meant to be
-        if ( isAboutLineTwice( inout_advice ) && takeLineFrom( inout_advice ) )
-            inout_advice.nLevel = Logger::ERROR_LEVEL;
+        if ( inout_advice.strRule == "clock-reference" && !m_setBoardsTwice.empty() ) {
+            const xmlNode* const pBoard = getElement( inout_advice.ullElement );
+            return !m_setBoardsTwice.contains( describeLine( pBoard, getValue( pBoard, "ID" ), {} ) );
+        }
         if ( inout_advice.strRule != "channel-outside-line" )
             return !m_setCopies.contains( inout_advice.ullElement );
         for ( auto [it, itEnd] = m_mapTwice.equal_range( inout_advice.ullElement ); it != itEnd; ++it ) {
@@ -78,23 +99,23 @@ public:
 private:
     /// Whether the advice is about a reference to a line that has call control elsewhere.
     static bool isAboutLineTwice( const Finding& in_advice ) {
-        return in_advice.strRule == "span-in-two-isdn-groups" || in_advice.strRule == "port-in-two-configs" ||
+        return in_advice.strRule == SPAN_IN_TWO_ISDN_GROUPS || in_advice.strRule == "port-in-two-configs" ||
                ( in_advice.strRule == "port-type" && in_advice.vecRelated.size() > 1 );
     }
 
-    /// Such a reference may have been meant for the line that nobody names: one of the same board, or of the same
-    /// number. Without a number it may have been meant for all lines of any board.
+    /// Such a reference may have been meant for the line that nobody names: one of the same board, of the same number,
+    /// or with the two exchanged. Without a number it may have been meant for all lines of any board.
     bool takeLineFrom( const Finding& in_advice ) {
-        if ( m_vecElements.empty() && !m_vecWithoutCallControl.empty() )
-            m_vecElements = getTree( m_pRoot );
         for ( SurveyedFinding* const pItem : m_vecWithoutCallControl ) {
             const xmlNode* const pLine = pItem->pElement;
-            const xmlNode* const pReference = m_vecElements[in_advice.ullElement - 1];
-            const bool bMeant =
-                getValue( pReference, "interfaceID" ).empty() ||
-                ( pItem->finding.vecRelated.empty() &&
-                  ( getNumber( pReference, "boardID" ) == getNumber( getParentElement( pLine ), "ID" ) ||
-                    getNumber( pReference, "interfaceID" ) == getNumber( pLine, "ID" ) ) );
+            const xmlNode* const pReference = getElement( in_advice.ullElement );
+            const auto uBoard = getNumber( getParentElement( pLine ), "ID" );
+            const auto uLine = getNumber( pLine, "ID" );
+            const auto uNamedBoard = getNumber( pReference, "boardID" );
+            const auto uNamedLine = getNumber( pReference, "interfaceID" );
+            const bool bMeant = !uNamedLine || ( pItem->finding.vecRelated.empty() &&
+                                                 ( uNamedBoard == uBoard || uNamedLine == uLine ||
+                                                   ( uNamedBoard == uLine && uNamedLine == uBoard ) ) );
             if ( pItem->finding.bEcho || !bMeant || isAnalog( pLine ) != isAnalog( pReference ) )
                 continue;
             pItem->finding.bEcho = true;
@@ -103,12 +124,30 @@ private:
         return false;
     }
 
+    /// Whether the element is, or stands in, a reference to a line that is named twice.
+    bool isOnLineTwice( unsigned long long in_ullElement ) {
+        if ( m_setLinesTwice.empty() || in_ullElement == 0 )
+            return false;
+        const xmlNode* const pReference = getReference( getElement( in_ullElement ) );
+        return pReference && isReference( pReference ) &&
+               ( m_setLinesTwice.contains( describeReference( pReference ) ) ||
+                 m_setLinesTwice.contains( describeLine( pReference, getValue( pReference, "boardID" ), {} ) ) );
+    }
+
+    const xmlNode* getElement( unsigned long long in_ullElement ) {
+        if ( m_vecElements.empty() )
+            m_vecElements = getTree( m_pRoot );
+        return m_vecElements[in_ullElement - 1];
+    }
+
     const xmlNode* m_pRoot;
     std::vector<const xmlNode*> m_vecElements;                         ///< by their numbers, from the first on
     std::vector<SurveyedFinding*> m_vecWithoutCallControl;             ///< each about one line
     std::set<std::pair<unsigned long long, std::string>> m_setRefused; ///< attributes, by their elements
     std::multimap<unsigned long long, SurveyedFinding*> m_mapTwice;    ///< by the ranges that share a channel
     std::set<unsigned long long> m_setCopies; ///< configurations and references that take lines of others
+    std::set<std::string> m_setLinesTwice;    ///< those with two configurations, or in two groups
+    std::set<std::string> m_setBoardsTwice;   ///< those with a line that has two configurations, of which one is wrong
     bool m_bGroupsMayBeFilled = false;
 };
 
@@ -117,7 +156,10 @@ private:
 void addAdvice( const Config& in_config, SurveyRecord& inout_record ) {
     Filter filter( inout_record );
     std::vector<SurveyedFinding> vecTaken; // the filter refers to the others
-    for ( Finding& advice : advise( in_config, inout_record.pRoot, inout_record.vecFaulty ) ) {
+    std::vector<Finding> vecAdvice = advise( in_config, inout_record.pRoot, inout_record.vecFaulty );
+    for ( const Finding& advice : vecAdvice )
+        filter.look( advice );
+    for ( Finding& advice : vecAdvice ) {
         if ( filter.take( advice ) )
             vecTaken.push_back( { std::move( advice ) } );
     }

@@ -9,6 +9,9 @@
 
 namespace Velquin::Pstn {
 
+/// A rule of the advice that a survey also gives to what a load refuses since another group has the span.
+inline constexpr std::string_view SPAN_IN_TWO_ISDN_GROUPS = "span-in-two-isdn-groups";
+
 /// A finding of a survey, and the element that it is about; null when it is about none.
 struct SurveyedFinding {
     Finding finding;

@@ -30,8 +30,12 @@ bool IsdnBChannelRange::read( const AttributeReader& in_reader, const CallContro
         return false;
     if ( uFirstChannel > uLastChannel ) {
         Finding finding;
+        finding.eKind = Finding::Kind::INVALID_VALUE;
         finding.strRule = Rules::CHANNELS_SWAPPED;
         finding.nLevel = Logger::WARNING_LEVEL;
+        finding.strAttribute = "firstChannel";
+        finding.strValue = std::to_string( uFirstChannel );
+        finding.strHint = "it is greater than lastChannel=\"" + std::to_string( uLastChannel ) + "\"; exchange the two";
         in_reader.reportDeclared( "B-Channel range [" + std::to_string( uFirstChannel ) + ".." +
                                       std::to_string( uLastChannel ) + "] without channels",
                                   ". Make sure that firstChannel is not greater than lastChannel.",
