@@ -37,13 +37,14 @@ std::string quote( const std::string& in_strText ) {
     return "\"" + in_strText + "\"";
 }
 
-/// The name, or alternatives, in quotes: `"a" or "b"`.
+/// The name, or each of several, in quotes: `"a" or "b"`.
 std::string quoteNames( std::string in_strNames ) {
-    constexpr std::string_view OR = " or ";
-    constexpr std::string_view QUOTED_OR = "\" or \"";
-    for ( std::size_t u = in_strNames.find( OR ); u != std::string::npos;
-          u = in_strNames.find( OR, u + QUOTED_OR.size() ) )
-        in_strNames.replace( u, OR.size(), QUOTED_OR );
+    for ( const std::string strSeparator : { " or ", " and ", ", " } ) {
+        const std::string strQuoted = "\"" + strSeparator + "\"";
+        for ( std::size_t u = in_strNames.find( strSeparator ); u != std::string::npos;
+              u = in_strNames.find( strSeparator, u + strQuoted.size() ) )
+            in_strNames.replace( u, strSeparator.size(), strQuoted );
+    }
     return quote( in_strNames );
 }
 
@@ -51,7 +52,9 @@ std::string quoteNames( std::string in_strNames ) {
 std::string describeFault( const Finding& in_finding ) {
     switch ( in_finding.eKind ) {
     case Finding::Kind::MISSING_ATTRIBUTE:
-        return "missing attribute " + quote( in_finding.strAttribute );
+        return ( in_finding.strAttribute.find( ' ' ) == std::string::npos ? "missing attribute "
+                                                                          : "missing attributes " ) +
+               quoteNames( in_finding.strAttribute );
     case Finding::Kind::MISSING_ELEMENT:
         return "missing element " + quoteNames( in_finding.strAttribute );
     case Finding::Kind::INVALID_VALUE:

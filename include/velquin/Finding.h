@@ -23,7 +23,7 @@ struct Finding {
     /// What the finding is about. The kind decides which of the fields below are filled.
     enum class Kind {
         OTHER,             ///< only the text says what is wrong
-        MISSING_ATTRIBUTE, ///< strAttribute is required and absent
+        MISSING_ATTRIBUTE, ///< strAttribute is required and absent; "a, b and c" in a survey where several are
         MISSING_ELEMENT,   ///< strAttribute names a required child element that is absent: "a", or "a or b"
         INVALID_VALUE,     ///< strAttribute has the wrong value strValue
         UNREADABLE_FILE,   ///< strFile can't be read at all

@@ -86,7 +86,7 @@ std::vector<AttributeRules::Fault> AttributeRules::findFaults() const {
         AttributeText text;
         if ( !findAttribute( m_pElement, strName.c_str(), text ) ) {
             if ( rule.bRequired )
-                vecFaults.push_back( { strName, Rules::MISSING_ATTRIBUTE, {}, getAdvice( rule, "" ) } );
+                vecFaults.push_back( { strName, Rules::MISSING_ATTRIBUTE, {}, getAdviceOnMissing( rule ) } );
         } else if ( std::string strHint = getHint( rule, text.c_str() ); !strHint.empty() ) {
             vecFaults.push_back(
                 { strName, Rules::INVALID_VALUE, std::move( strHint ), getAdvice( rule, text.view() ) } );
@@ -112,6 +112,18 @@ std::vector<std::string> AttributeRules::getNames() const {
     for ( const auto& [strName, rule] : m_rules )
         vecNames.push_back( strName );
     return vecNames;
+}
+
+bool AttributeRules::takes( const std::string& in_strAttribute, const std::string& in_strValue ) const {
+    const auto it = m_rules.find( in_strAttribute );
+    return it != m_rules.end() && getHint( it->second, in_strValue.c_str() ).empty();
+}
+
+std::string AttributeRules::describeValue( const std::string& in_strAttribute, const std::string& in_strValue ) const {
+    const bool bWritable = !in_strValue.empty() && in_strValue.find_first_of( "\"<&" ) == std::string::npos;
+    return "write " + in_strAttribute + "=\"" +
+           ( bWritable && takes( in_strAttribute, in_strValue ) ? in_strValue : "..." ) + "\" in the tag of " +
+           getElementName( m_pElement );
 }
 
 /// What the rule wants instead of the value; empty when it takes the value.
@@ -141,7 +153,19 @@ std::string AttributeRules::getAdvice( const Rule& in_rule, std::string_view in_
     const std::string strType = getPatternAttribute( in_rule.vecData.front(), "type" );
     return strType == "unsignedInt"    ? describeNumbers<unsigned int>()
            : strType == "unsignedLong" ? describeNumbers<unsigned long long>()
-                                       : std::string();
+           : strType == "decimal" ? "The value must be a real number: write digits with a point, as 2.5, without unit."
+                                  : std::string();
+}
+
+std::string AttributeRules::getAdviceOnMissing( const Rule& in_rule ) {
+    std::string strAdvice = getAdvice( in_rule, "" );
+    if ( in_rule.strCondition.empty() )
+        return strAdvice;
+    if ( !in_rule.hasKeywordsOnly() )
+        strAdvice.clear(); // any text, or a number: its name says enough
+    else
+        strAdvice.replace( strAdvice.find_last_not_of( '.' ) + 1, std::string::npos, "; " );
+    return strAdvice + "needed with " + in_rule.strCondition;
 }
 
 /// Collects the attributes that stand directly in the content of a pattern.
@@ -188,6 +212,28 @@ bool AttributeRules::haveAll( const std::vector<RulesByName>& in_vecRules, const
     } );
 }
 
+/// The one keyword of the element that tells the alternative that it means from another one: `type="FXS"`. Empty when
+/// several do.
+std::string AttributeRules::findCondition( const std::vector<RulesByName>& in_vecAlternatives,
+                                           const RulesByName& in_meant ) const {
+    std::string strCondition;
+    for ( const auto& entry : in_meant ) {
+        const std::string& strName = entry.first;
+        AttributeText text;
+        if ( !haveAll( in_vecAlternatives, strName, &Rule::hasKeywordsOnly ) || !agrees( strName, entry.second ) ||
+             !findAttribute( m_pElement, strName.c_str(), text ) ||
+             std::all_of( in_vecAlternatives.begin(), in_vecAlternatives.end(),
+                          [this, &strName]( const RulesByName& in_rules ) {
+                              return agrees( strName, in_rules.find( strName )->second );
+                          } ) )
+            continue;
+        if ( !strCondition.empty() )
+            return {};
+        strCondition = strName + "=\"" + text.c_str() + "\"";
+    }
+    return strCondition;
+}
+
 /// An element means the alternatives with which it agrees most. Only attributes that have keywords in all alternatives
 /// count for that. An attribute is required if all alternatives that the element means require it.
 void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired, RulesByName& out_rules ) {
@@ -207,10 +253,13 @@ void AttributeRules::collectChoice( const xmlNode* in_pChoice, bool in_bRequired
             vecMeant.push_back( rules );
         nMost = std::max( nMost, nAgreeing );
     }
+    const std::string strCondition = vecMeant.size() == 1 ? findCondition( vecAlternatives, vecMeant[0] ) : "";
     for ( const RulesByName& rules : vecMeant ) {
         for ( const auto& [strName, rule] : rules ) {
             Rule& merged = out_rules[strName];
             merged.bRequired = merged.bRequired || ( in_bRequired && haveAll( vecMeant, strName, &Rule::isRequired ) );
+            merged.strCondition =
+                haveAll( vecAlternatives, strName, &Rule::isRequired ) ? rule.strCondition : strCondition;
             merged.bAnyValue = merged.bAnyValue || rule.bAnyValue;
             merge( merged.vecValues, rule.vecValues );
             merge( merged.vecData, rule.vecData );

@@ -29,11 +29,18 @@ public:
     /// The names of all attributes that the element may have.
     std::vector<std::string> getNames() const;
 
+    bool has( const std::string& in_strAttribute ) const { return m_rules.contains( in_strAttribute ); }
+    /// Whether the attribute, which the element may have, takes the value.
+    bool takes( const std::string& in_strAttribute, const std::string& in_strValue ) const;
+    /// What to do with the value of such an attribute that stands in the element, as text or as a child.
+    std::string describeValue( const std::string& in_strAttribute, const std::string& in_strValue ) const;
+
 private:
     /// What the schema says of one attribute.
     struct Rule {
         bool bRequired = false;
         bool bAnyValue = false;
+        std::string strCondition; ///< with which keyword it is required; empty when it always is
         std::vector<std::string> vecValues;
         SchemaPatterns::Patterns vecData; ///< `data` patterns, which take values that are not listed
 
@@ -46,6 +53,8 @@ private:
                          bool ( Rule::*in_has )() const noexcept );
     static std::string getHint( const Rule& in_rule, const char* in_szValue );
     static std::string getAdvice( const Rule& in_rule, std::string_view in_strValue );
+    static std::string getAdviceOnMissing( const Rule& in_rule );
+    std::string findCondition( const std::vector<RulesByName>& in_vecAlternatives, const RulesByName& in_meant ) const;
     bool agrees( const std::string& in_strAttribute, const Rule& in_rule ) const;
     void collectAttributes( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules );
     void collectFrom( const xmlNode* in_pPattern, bool in_bRequired, RulesByName& out_rules );

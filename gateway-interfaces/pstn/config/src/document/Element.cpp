@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstring>
 
+#include <libxml/dict.h>
+
 #include "document/ElementPaths.h"
 
 namespace Velquin::Pstn {
@@ -21,6 +23,16 @@ bool isOfOwnDocument( const xmlNode* in_pNode ) noexcept {
 
 const char* getElementName( const xmlNode* in_pElement ) noexcept {
     return fromXml( in_pElement->name );
+}
+
+void setElementName( xmlNode* in_pElement, const std::string& in_strName ) {
+    xmlDict* const pDict = in_pElement->doc->dict;
+    const xmlChar* const szName = pDict ? xmlDictLookup( pDict, toXml( in_strName.c_str() ), -1 ) : nullptr;
+    if ( !szName )
+        return;
+    if ( ElementPaths* const pPaths = ElementPaths::getCurrent() )
+        pPaths->keepName( in_pElement );
+    in_pElement->name = szName;
 }
 
 void setElementPosition( xmlNode* in_pElement, ElementPosition in_position ) noexcept {

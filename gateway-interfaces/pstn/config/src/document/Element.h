@@ -13,6 +13,10 @@ namespace Velquin::Pstn {
 /// The element's local name.
 const char* getElementName( const xmlNode* in_pElement ) noexcept;
 
+/// Gives an element of a document of this library the name that is meant. Where ElementPaths live, its path keeps the
+/// name that the file has. Does nothing when memory ends.
+void setElementName( xmlNode* in_pElement, const std::string& in_strName );
+
 /// Where an element stands in its file.
 struct ElementPosition {
     std::uint32_t uLine;   ///< on which the start tag ends, from 1; 0 when unknown

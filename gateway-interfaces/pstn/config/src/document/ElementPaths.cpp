@@ -26,20 +26,31 @@ ElementPaths* ElementPaths::getCurrent() noexcept {
 }
 
 std::string ElementPaths::find( const xmlNode* in_pElement ) {
-    if ( m_pDocument != in_pElement->doc ) {
-        m_pDocument = in_pElement->doc;
-        m_vecPositions.clear();
-        count( reinterpret_cast<const xmlNode*>( m_pDocument ) );
-    }
+    countOnce( in_pElement->doc );
     std::string strPath;
     for ( const xmlNode* p = in_pElement; p; p = getParentElement( p ) ) {
         if ( p->ns )
             return {};
         const std::uint32_t uPosition = m_vecPositions[getElementNumber( p )];
-        strPath.insert( 0, std::string( "/" ) + getElementName( p ) +
+        const auto itName = m_mapNames.find( p );
+        strPath.insert( 0, "/" + ( itName == m_mapNames.end() ? getElementName( p ) : itName->second ) +
                                ( uPosition == 0 ? std::string() : "[" + std::to_string( uPosition ) + "]" ) );
     }
     return strPath;
+}
+
+void ElementPaths::keepName( const xmlNode* in_pElement ) {
+    countOnce( in_pElement->doc );
+    m_mapNames.try_emplace( in_pElement, getElementName( in_pElement ) );
+}
+
+void ElementPaths::countOnce( const xmlDoc* in_pDocument ) {
+    if ( m_pDocument == in_pDocument )
+        return;
+    m_pDocument = in_pDocument;
+    m_vecPositions.clear();
+    m_mapNames.clear();
+    count( reinterpret_cast<const xmlNode*>( m_pDocument ) );
 }
 
 void ElementPaths::count( const xmlNode* in_pParent ) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -20,14 +21,19 @@ public:
     /// The XPath of an element of a document of this library; empty when the path has a namespace.
     std::string find( const xmlNode* in_pElement );
 
+    /// Keeps the name of an element that gets another one.
+    void keepName( const xmlNode* in_pElement );
+
     /// Null when there is none.
     static ElementPaths* getCurrent() noexcept;
 
 private:
+    void countOnce( const xmlDoc* in_pDocument );
     void count( const xmlNode* in_pParent );
 
     const xmlDoc* m_pDocument = nullptr;
-    std::vector<std::uint32_t> m_vecPositions; ///< by the number of the element; 0 for the only one of its name
+    std::vector<std::uint32_t> m_vecPositions;        ///< by the number of the element; 0 for the only one of its name
+    std::map<const xmlNode*, std::string> m_mapNames; ///< names that elements had
     ElementPaths* m_pOuter;
 };
 

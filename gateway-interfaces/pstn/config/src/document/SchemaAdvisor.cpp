@@ -1,7 +1,8 @@
 #include "document/SchemaAdvisor.h"
 
 #include <algorithm>
-#include <span>
+#include <functional>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -19,53 +20,6 @@ constexpr ReaderWording CHILD_WORDING{ "] for element ", "", "Missing element ["
 constexpr unsigned int MAX_FAULTY_ELEMENTS = 1000;
 constexpr unsigned int MAX_OF_ONE_KIND = 10; // in one element
 
-/// For each unknown name the one that is meant: the nearest of the missing ones, which it is taken off; the nearest of
-/// all; or the missing one that is left when one is left of each. Empty for the rest.
-std::vector<std::string> matchNames( const std::vector<std::string>& in_vecUnknown,
-                                     std::span<const std::string> in_known,
-                                     std::vector<std::string>& inout_vecMissing ) {
-    std::vector<std::string> vecMeant;
-    for ( const std::string& strName : in_vecUnknown ) {
-        const std::string strMissing = findNearest( strName, inout_vecMissing );
-        const std::string& strMeant =
-            vecMeant.emplace_back( strMissing.empty() ? findNearest( strName, in_known ) : strMissing );
-        std::erase_if( inout_vecMissing, [&strMeant]( const std::string& in_strAlternatives ) {
-            return !strMeant.empty() && isAmong( strMeant, in_strAlternatives );
-        } );
-    }
-    if ( inout_vecMissing.size() == 1 && std::count( vecMeant.begin(), vecMeant.end(), "" ) == 1 ) {
-        *std::find( vecMeant.begin(), vecMeant.end(), "" ) = inout_vecMissing[0];
-        inout_vecMissing.clear();
-    }
-    return vecMeant;
-}
-
-/// An attribute that is missing may be there under a wrong name: then only that is a fault.
-void joinFaults( std::span<const std::string> in_known, std::vector<AttributeRules::Fault>& inout_vecFaults ) {
-    const auto getNames = [&inout_vecFaults]( std::string_view in_strRule ) {
-        std::vector<std::string> vecNames;
-        for ( const AttributeRules::Fault& fault : inout_vecFaults ) {
-            if ( in_strRule == fault.szRule )
-                vecNames.push_back( fault.strAttribute );
-        }
-        return vecNames;
-    };
-    std::vector<std::string> vecMissing = getNames( Rules::MISSING_ATTRIBUTE );
-    const std::vector<std::string> vecMeant = matchNames( getNames( Rules::UNKNOWN_ATTRIBUTE ), in_known, vecMissing );
-    std::erase_if( inout_vecFaults, [&vecMissing]( const AttributeRules::Fault& in_fault ) {
-        return in_fault.szRule == std::string_view( Rules::MISSING_ATTRIBUTE ) &&
-               std::find( vecMissing.begin(), vecMissing.end(), in_fault.strAttribute ) == vecMissing.end();
-    } );
-    auto itMeant = vecMeant.begin();
-    for ( AttributeRules::Fault& fault : inout_vecFaults ) {
-        if ( fault.szRule != std::string_view( Rules::UNKNOWN_ATTRIBUTE ) )
-            continue;
-        if ( !itMeant->empty() )
-            fault.strAdvice = describeNames( fault.strAttribute, std::span( &*itMeant, 1 ) );
-        ++itMeant;
-    }
-}
-
 /// The beginning of a text, as a message shows it.
 std::string shorten( std::string_view in_strText ) {
     constexpr std::size_t MAX_BYTES = 40;
@@ -78,6 +32,16 @@ std::string shorten( std::string_view in_strText ) {
     while ( uEnd > 0 && ( static_cast<unsigned char>( strLine[uEnd] ) & 0xC0 ) == 0x80 )
         --uEnd; // not within a character
     return std::string( strLine.substr( 0, uEnd ) ) + "...";
+}
+
+/// The text in an element, as a message shows it.
+std::string getText( const xmlNode* in_pElement ) {
+    const XmlStringPtr pText( xmlNodeGetContent( in_pElement ) );
+    return pText ? shorten( fromXml( pText.get() ) ) : std::string();
+}
+
+bool isMissing( const AttributeRules::Fault& in_fault ) {
+    return in_fault.szRule == std::string_view( Rules::MISSING_ATTRIBUTE );
 }
 
 } // namespace
@@ -113,58 +77,99 @@ void SchemaAdvisor::adviseOnChildren( xmlNode* in_pElement ) {
 
 void SchemaAdvisor::adviseOnDocument( xmlNode* in_pRoot ) {
     m_patterns.beginElement();
-    const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_pRoot );
-    if ( !vecPatterns.empty() ) {
-        adviseOnTree( in_pRoot, vecPatterns );
-        return;
+    const SchemaPatterns::Patterns& vecStart = m_patterns.getDefinitions( nullptr );
+    const std::vector<std::string> vecNames = m_patterns.findChildNames( vecStart );
+    std::string strName = getElementName( in_pRoot );
+    if ( m_patterns.find( vecStart, strName ).empty() && !m_patterns.isLost() && !vecNames.empty() ) {
+        reportUnexpected( in_pRoot, describeNames( strName, vecNames ) );
+        strName = findNearest( strName, vecNames );
+        if ( !strName.empty() )
+            m_vecRenamed.push_back( { in_pRoot, strName } );
     }
-    const std::vector<std::string> vecNames = m_patterns.findChildNames( m_patterns.getDefinitions( nullptr ) );
-    if ( !m_patterns.isLost() && !vecNames.empty() )
-        reportUnexpected( in_pRoot, describeNames( getElementName( in_pRoot ), vecNames ) );
+    if ( !strName.empty() && !m_patterns.find( vecStart, strName ).empty() )
+        adviseOnTree( in_pRoot, m_patterns.find( vecStart, strName ) );
+    for ( const auto& [pElement, strMeant] : m_vecRenamed )
+        setElementName( pElement, strMeant );
 }
 
 void SchemaAdvisor::adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns ) {
     m_patterns.beginElement();
     const AttributeRules rules( m_patterns, in_vecPatterns, in_pElement );
-    std::vector<AttributeRules::Fault> vecFaults = rules.findFaults();
-    joinFaults( rules.getNames(), vecFaults );
-    report( in_pElement, vecFaults );
-    std::vector<xmlNode*> vecKnown;
-    std::vector<xmlNode*> vecUnknown;
-    for ( xmlNode* const pChild : ChildElements( in_pElement ) ) {
-        m_patterns.beginElement();
-        const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_vecPatterns, pChild );
-        if ( m_patterns.isLost() || m_uFaultyElements >= MAX_FAULTY_ELEMENTS )
-            break;
-        if ( !vecPatterns.empty() ) {
-            adviseOnTree( pChild, vecPatterns );
-            vecKnown.push_back( pChild );
-        } else {
-            vecUnknown.push_back( pChild );
-            ++m_uFaultyElements;
-        }
-    }
-    std::vector<std::string> vecMissing = m_patterns.findMissingChildren( in_pElement );
-    m_patterns.beginElement();
-    const std::vector<std::string> vecNames = m_patterns.findChildNames( in_vecPatterns );
+    Subject subject{ in_pElement,
+                     in_vecPatterns,
+                     rules,
+                     m_patterns.findChildNames( in_vecPatterns ),
+                     rules.findFaults(),
+                     m_patterns.findMissingChildren( in_pElement, in_vecPatterns ) };
+    joinFaults( rules.getNames(), subject.vecFaults );
     const SchemaContent& content =
         m_mapContents.try_emplace( in_vecPatterns, m_patterns, in_vecPatterns ).first->second;
     const bool bForeign = adviseOnNamespaces( in_pElement, content );
-    const bool bText = !content.takesText() && adviseOnText( in_pElement, vecNames, vecMissing );
-    const bool bMisplaced = adviseOnOrder( in_pElement, content.findMisplaced( std::move( vecKnown ) ) );
-    m_uFaultyElements += !vecFaults.empty() || !vecMissing.empty() || bForeign || bText || bMisplaced;
-    std::vector<std::string> vecUnknownNames;
-    vecUnknownNames.reserve( vecUnknown.size() );
-    for ( const xmlNode* const pChild : vecUnknown )
-        vecUnknownNames.emplace_back( getElementName( pChild ) );
-    const std::vector<std::string> vecMeant = matchNames( vecUnknownNames, vecNames, vecMissing );
-    for ( std::size_t u = 0; u < vecUnknown.size(); ++u )
-        reportUnexpected( vecUnknown[u],
-                          describeNames( vecUnknownNames[u],
-                                         vecMeant[u].empty() ? std::span( vecNames ) : std::span( &vecMeant[u], 1 ) ) );
+    const bool bText = !content.takesText() && adviseOnText( subject );
+    const std::vector<SchemaContent::Child> vecChildren = adviseOnNames( subject, content );
+    report( in_pElement, subject.vecFaults );
+    const bool bMisplaced = adviseOnOrder( in_pElement, content.findMisplaced( vecChildren ) );
     const ElementReader reader( in_pElement, m_logger, CHILD_WORDING );
-    for ( const std::string& strName : vecMissing )
+    for ( const std::string& strName : subject.vecMissing )
         reader.reportMissingChild( strName );
+    m_uFaultyElements += !subject.vecFaults.empty() || !subject.vecMissing.empty() || bForeign || bText || bMisplaced;
+    for ( const auto& [pChild, strName] : vecChildren ) {
+        m_patterns.beginElement();
+        const SchemaPatterns::Patterns& vecPatterns = m_patterns.find( in_vecPatterns, strName );
+        if ( m_patterns.isLost() || m_uFaultyElements >= MAX_FAULTY_ELEMENTS )
+            break;
+        adviseOnTree( pChild, vecPatterns );
+    }
+}
+
+/// Reports the children whose names don't belong into the element.
+/// @return the children of which the names are known, or what is meant by them
+std::vector<SchemaContent::Child> SchemaAdvisor::adviseOnNames( Subject& inout_subject,
+                                                                const SchemaContent& in_content ) {
+    std::vector<xmlNode*> vecChildren;
+    for ( xmlNode* const pChild : ChildElements( inout_subject.pElement ) ) {
+        m_patterns.beginElement();
+        const bool bKnown = !m_patterns.find( inout_subject.vecPatterns, pChild ).empty();
+        if ( m_patterns.isLost() || m_uFaultyElements >= MAX_FAULTY_ELEMENTS )
+            break;
+        if ( !bKnown && takeAsAttribute( inout_subject, pChild ) )
+            continue;
+        vecChildren.push_back( pChild );
+        m_uFaultyElements += !bKnown;
+    }
+    const ChildNames names = nameChildren( { m_patterns, inout_subject.vecPatterns, inout_subject.vecNames },
+                                           in_content, vecChildren, inout_subject.vecMissing );
+    for ( const auto& [pChild, meant] : names.vecWrong )
+        reportUnexpected( pChild, describeMeant( inout_subject, pChild, meant ) );
+    std::copy_if( names.vecReadable.begin(), names.vecReadable.end(), std::back_inserter( m_vecRenamed ),
+                  std::mem_fn( &SchemaContent::Child::isRenamed ) );
+    return names.vecReadable;
+}
+
+/// What to do with a child whose name doesn't belong into the element.
+std::string SchemaAdvisor::describeMeant( const Subject& in_subject, const xmlNode* in_pChild,
+                                          const MeantName& in_meant ) {
+    const std::string strName = getElementName( in_pChild );
+    const NameScope scope{ m_patterns, in_subject.vecPatterns, in_subject.vecNames };
+    const std::string strHolder = in_meant.bLikely ? std::string() : findHolder( scope, in_pChild );
+    if ( !strHolder.empty() )
+        return "move it into " + strHolder;
+    AttributeText text;
+    if ( !in_meant.bLikely && in_subject.rules.has( strName ) &&
+         !findAttribute( in_subject.pElement, strName.c_str(), text ) )
+        return in_subject.rules.describeValue( strName, getText( in_pChild ) );
+    return in_meant.describe( strName, in_subject.vecNames );
+}
+
+/// Whether a child is an attribute that is missing.
+bool SchemaAdvisor::takeAsAttribute( Subject& inout_subject, const xmlNode* in_pChild ) {
+    for ( AttributeRules::Fault& fault : inout_subject.vecFaults ) {
+        if ( !isMissing( fault ) || fault.strAttribute != getElementName( in_pChild ) )
+            continue;
+        fault.strAdvice = inout_subject.rules.describeValue( fault.strAttribute, getText( in_pChild ) );
+        return true;
+    }
+    return false;
 }
 
 /// Reports attributes with a prefix, and names in a namespace, where that begins.
@@ -197,24 +202,31 @@ bool SchemaAdvisor::adviseOnNamespaces( xmlNode* in_pElement, const SchemaConten
     return bFound || uAttributes > 0;
 }
 
-/// Reports texts between the children. One that lost its `<` may be a missing child.
+/// Reports texts between the children. One that lost its `<` may be a missing child, and one in an element that takes
+/// no children the only missing attribute.
 /// @return whether there are any
-bool SchemaAdvisor::adviseOnText( xmlNode* in_pElement, const std::vector<std::string>& in_vecNames,
-                                  std::vector<std::string>& inout_vecMissing ) {
-    const AttributeReader reader( in_pElement, m_logger, CHILD_WORDING );
+bool SchemaAdvisor::adviseOnText( Subject& inout_subject ) {
+    const AttributeReader reader( inout_subject.pElement, m_logger, CHILD_WORDING );
+    const auto& vecNames = inout_subject.vecNames;
+    auto& vecFaults = inout_subject.vecFaults;
     unsigned int uTexts = 0;
-    for ( xmlNode* p = in_pElement->children; p && uTexts < MAX_OF_ONE_KIND; p = p->next ) {
+    for ( xmlNode* p = inout_subject.pElement->children; p && uTexts < MAX_OF_ONE_KIND; p = p->next ) {
         if ( ( p->type != XML_TEXT_NODE && p->type != XML_CDATA_SECTION_NODE ) || xmlIsBlankNode( p ) != 0 )
             continue;
         ++uTexts;
         Finding finding;
         finding.strRule = Rules::UNEXPECTED_TEXT;
         finding.strValue = shorten( fromXml( p->content ) );
+        if ( vecNames.empty() && vecFaults.size() == 1 && isMissing( vecFaults[0] ) &&
+             inout_subject.rules.takes( vecFaults[0].strAttribute, finding.strValue ) ) {
+            vecFaults[0].strAdvice = inout_subject.rules.describeValue( vecFaults[0].strAttribute, finding.strValue );
+            continue;
+        }
         finding.strHint = "remove it: this format has attributes and elements only";
         const std::string strWord = finding.strValue.substr( 0, finding.strValue.find_first_of( " \t=" ) );
-        if ( std::find( in_vecNames.begin(), in_vecNames.end(), strWord ) != in_vecNames.end() ) {
+        if ( std::find( vecNames.begin(), vecNames.end(), strWord ) != vecNames.end() ) {
             finding.strHint = "a < is missing in front of " + strWord;
-            std::erase( inout_vecMissing, strWord );
+            std::erase( inout_subject.vecMissing, strWord );
         }
         const std::string strSubject = "Text \"" + finding.strValue + "\" in element " + reader.getName();
         reader.reportDeclared( strSubject, ".", std::move( finding ) );

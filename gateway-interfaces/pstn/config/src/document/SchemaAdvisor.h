@@ -9,6 +9,7 @@
 #include <velquin/Logger.h>
 
 #include "document/AttributeRules.h"
+#include "document/MeantNames.h"
 #include "document/SchemaContent.h"
 #include "document/SchemaPatterns.h"
 
@@ -31,6 +32,9 @@ public:
     /// Reports whatever is wrong with the attributes of the root and of all elements in it; which children are missing,
     /// unknown, too many, or out of their order; texts between them, and namespaces. An attribute or a child that is
     /// there under a wrong name isn't missing, too. Stops after a thousand elements with faults.
+    ///
+    /// An element whose name is misspelt then gets the name that is meant, where only one can be: what is in it is
+    /// advised on and read like any other.
     void adviseOnDocument( xmlNode* in_pRoot );
 
     /// The first elements of that name in the document whose attributes the schema refuses.
@@ -39,10 +43,22 @@ public:
 
 private:
     void report( xmlNode* in_pElement, const std::vector<AttributeRules::Fault>& in_vecFaults );
+    /// What an advice is about.
+    struct Subject {
+        xmlNode* pElement;
+        const SchemaPatterns::Patterns& vecPatterns;
+        const AttributeRules& rules;
+        std::vector<std::string> vecNames; ///< of the children that it may have
+        std::vector<AttributeRules::Fault> vecFaults;
+        std::vector<std::string> vecMissing; ///< children
+    };
+
     void adviseOnTree( xmlNode* in_pElement, const SchemaPatterns::Patterns& in_vecPatterns );
+    std::vector<SchemaContent::Child> adviseOnNames( Subject& inout_subject, const SchemaContent& in_content );
+    std::string describeMeant( const Subject& in_subject, const xmlNode* in_pChild, const MeantName& in_meant );
+    static bool takeAsAttribute( Subject& inout_subject, const xmlNode* in_pChild );
     bool adviseOnNamespaces( xmlNode* in_pElement, const SchemaContent& in_content );
-    bool adviseOnText( xmlNode* in_pElement, const std::vector<std::string>& in_vecNames,
-                       std::vector<std::string>& inout_vecMissing );
+    bool adviseOnText( Subject& inout_subject );
     bool adviseOnOrder( const xmlNode* in_pElement, const std::vector<SchemaContent::Misplaced>& in_vecMisplaced );
     void reportUnexpected( xmlNode* in_pElement, std::string in_strHint, const xmlNode* in_pOther = nullptr,
                            const char* in_szLabel = "" );
@@ -51,6 +67,7 @@ private:
 
     SchemaPatterns m_patterns;
     std::map<SchemaPatterns::Patterns, SchemaContent> m_mapContents; ///< by the patterns of the element
+    std::vector<SchemaContent::Child> m_vecRenamed;
     const Logger& m_logger;
     bool m_bNamespaces; ///< whether the schema's elements have one
     unsigned int m_uFaultyElements = 0;

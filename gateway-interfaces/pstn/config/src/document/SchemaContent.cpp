@@ -89,13 +89,13 @@ void SchemaContent::allow( Names in_first, Names in_behind ) noexcept {
     }
 }
 
-std::vector<SchemaContent::Misplaced> SchemaContent::findMisplaced( std::vector<xmlNode*> in_vecChildren ) const {
+std::vector<SchemaContent::Misplaced> SchemaContent::findMisplaced( std::vector<Child> in_vecChildren ) const {
     std::vector<Misplaced> vecMisplaced;
     if ( m_bOpen )
         return vecMisplaced;
     std::vector<std::size_t> vecNames;
-    for ( const xmlNode* const pChild : in_vecChildren ) {
-        const auto it = std::find( m_vecNames.begin(), m_vecNames.end(), getElementName( pChild ) );
+    for ( const Child& child : in_vecChildren ) {
+        const auto it = std::find( m_vecNames.begin(), m_vecNames.end(), child.strName );
         if ( it == m_vecNames.end() )
             return vecMisplaced;
         vecNames.push_back( static_cast<std::size_t>( it - m_vecNames.begin() ) );
@@ -133,14 +133,14 @@ std::vector<std::size_t> SchemaContent::countConflicts( const std::vector<std::s
     return vecConflicts;
 }
 
-SchemaContent::Misplaced SchemaContent::explain( const std::vector<xmlNode*>& in_vecChildren,
+SchemaContent::Misplaced SchemaContent::explain( const std::vector<Child>& in_vecChildren,
                                                  const std::vector<std::size_t>& in_vecNames,
                                                  std::size_t in_uChild ) const {
     const std::size_t uName = in_vecNames[in_uChild];
     for ( std::size_t u = 0; u < in_uChild; ++u ) {
         if ( mayPrecede( in_vecNames[u], uName ) )
             continue;
-        return { in_vecChildren[in_uChild], in_vecChildren[u],
+        return { in_vecChildren[in_uChild].pElement, in_vecChildren[u].pElement,
                  in_vecNames[u] == uName               ? Reason::TWICE
                  : mayPrecede( uName, in_vecNames[u] ) ? Reason::BELONGS_FORWARD
                                                        : Reason::EXCLUDED };
@@ -148,7 +148,7 @@ SchemaContent::Misplaced SchemaContent::explain( const std::vector<xmlNode*>& in
     std::size_t uLast = in_vecNames.size() - 1;
     while ( uLast > in_uChild && mayPrecede( uName, in_vecNames[uLast] ) )
         --uLast;
-    return { in_vecChildren[in_uChild], in_vecChildren[uLast],
+    return { in_vecChildren[in_uChild].pElement, in_vecChildren[uLast].pElement,
              in_vecNames[uLast] == uName               ? Reason::TWICE
              : mayPrecede( in_vecNames[uLast], uName ) ? Reason::BELONGS_BEHIND
                                                        : Reason::EXCLUDED };

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "document/Element.h"
 #include "document/SchemaPatterns.h"
 
 namespace Velquin::Pstn {
@@ -15,6 +16,13 @@ namespace Velquin::Pstn {
 /// prefix.
 class SchemaContent {
 public:
+    /// A child, and the name under which it is looked at: its own, or the one that is meant.
+    struct Child {
+        xmlNode* pElement;
+        std::string strName;
+
+        bool isRenamed() const { return strName != getElementName( pElement ); }
+    };
     /// Why a child can't stand where it stands.
     enum class Reason {
         TWICE,           ///< the other one has the same name
@@ -36,7 +44,7 @@ public:
 
     /// The fewest children, ten at most, without which the others stand as the schema wants them.
     /// @param in_vecChildren children of the element, all of names that the schema knows there
-    std::vector<Misplaced> findMisplaced( std::vector<xmlNode*> in_vecChildren ) const;
+    std::vector<Misplaced> findMisplaced( std::vector<Child> in_vecChildren ) const;
 
 private:
     static constexpr std::size_t MAX_NAMES = 64;
@@ -51,7 +59,7 @@ private:
         return ( m_aInFront[in_uBehind] >> in_uFirst & 1 ) != 0;
     }
     std::vector<std::size_t> countConflicts( const std::vector<std::size_t>& in_vecNames ) const;
-    Misplaced explain( const std::vector<xmlNode*>& in_vecChildren, const std::vector<std::size_t>& in_vecNames,
+    Misplaced explain( const std::vector<Child>& in_vecChildren, const std::vector<std::size_t>& in_vecNames,
                        std::size_t in_uChild ) const;
 
     std::vector<std::string> m_vecNames;

@@ -68,8 +68,13 @@ SchemaPatterns::Step::Step( SchemaPatterns& in_patterns ) : m_patterns( in_patte
 
 std::vector<std::string> SchemaPatterns::findMissingChildren( const xmlNode* in_pElement ) {
     beginElement();
+    return findMissingChildren( in_pElement, find( in_pElement ) );
+}
+
+std::vector<std::string> SchemaPatterns::findMissingChildren( const xmlNode* in_pElement,
+                                                              const Patterns& in_vecPatterns ) {
     std::vector<std::string> vecMissing;
-    for ( const xmlNode* const pPattern : find( in_pElement ) ) {
+    for ( const xmlNode* const pPattern : in_vecPatterns ) {
         vecMissing = findMissingAmong( pPattern, in_pElement );
         if ( vecMissing.empty() )
             break;
@@ -130,12 +135,15 @@ const SchemaPatterns::Patterns& SchemaPatterns::find( const xmlNode* in_pElement
 }
 
 const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecParents, const xmlNode* in_pElement ) {
-    const char* const szName = getElementName( in_pElement );
-    const auto [it, bNew] = m_mapPatterns.try_emplace( { in_vecParents, szName } );
+    return find( in_vecParents, std::string( getElementName( in_pElement ) ) );
+}
+
+const SchemaPatterns::Patterns& SchemaPatterns::find( const Patterns& in_vecParents, const std::string& in_strName ) {
+    const auto [it, bNew] = m_mapPatterns.try_emplace( { in_vecParents, in_strName } );
     if ( bNew ) {
         std::set<const xmlNode*> setSeen;
         for ( const xmlNode* const pParent : in_vecParents )
-            collectElements( pParent, szName, setSeen, it->second );
+            collectElements( pParent, in_strName, setSeen, it->second );
     }
     return it->second;
 }

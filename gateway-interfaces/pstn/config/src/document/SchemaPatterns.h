@@ -74,11 +74,15 @@ public:
     /// The `element` patterns of an element whose parent's patterns are known. A root has the start of the grammar as
     /// parent.
     const Patterns& find( const Patterns& in_vecParents, const xmlNode* in_pElement );
+    /// The same for an element of that name.
+    const Patterns& find( const Patterns& in_vecParents, const std::string& in_strName );
     /// The definitions that a reference names; the start of the grammar for null.
     const Patterns& getDefinitions( const xmlNode* in_pRef ) const;
 
     /// The names of the required children that the element lacks. Alternatives are one text.
     std::vector<std::string> findMissingChildren( const xmlNode* in_pElement );
+    /// The same for an element whose patterns are known.
+    std::vector<std::string> findMissingChildren( const xmlNode* in_pElement, const Patterns& in_vecPatterns );
 
     /// The names of all children that the content of the patterns takes, in the order of the schema.
     std::vector<std::string> findChildNames( const Patterns& in_vecPatterns );

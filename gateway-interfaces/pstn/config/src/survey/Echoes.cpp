@@ -49,10 +49,12 @@ void markExplainedErrors( SurveyRecord& inout_record ) {
 
 /// The name that the finding's hint suggests; empty when it suggests none.
 std::string getMeant( const Finding& in_finding ) {
-    const std::size_t uName = in_finding.strHint.find( '"' ); // did you mean "name"?
-    return uName == std::string::npos
-               ? std::string()
-               : in_finding.strHint.substr( uName + 1, in_finding.strHint.rfind( '"' ) - uName - 1 );
+    const std::size_t uName = in_finding.strHint.find( '"' ); // did you mean "name"? expected "name" or "other"
+    if ( uName == std::string::npos )
+        return {};
+    std::string strMeant = in_finding.strHint.substr( uName, in_finding.strHint.rfind( '"' ) - uName );
+    std::erase( strMeant, '"' );
+    return strMeant;
 }
 
 /// With a wrong value, a reader asks for other attributes.

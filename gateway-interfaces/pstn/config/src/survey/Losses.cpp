@@ -76,7 +76,7 @@ void Losses::addMissing( const SurveyedFinding& in_item ) {
     const auto vecChain = getChain( in_item.pElement );
     if ( in_item.is( Rules::MISSING_ELEMENT ) && vecChain.size() < 2 )
         m_mapReferences[vecChain.empty() ? in_item.finding.strAttribute : getElementName( vecChain[0] )].insert( ANY );
-    if ( in_item.is( Rules::UNKNOWN_ELEMENT ) && vecChain.size() == 1 ) {
+    if ( in_item.isUnread() && vecChain.size() == 1 ) {
         m_mapReferences["physicalInterfaceConfigs"].insert( ANY );
         m_mapReferences["callControl"].insert( ANY );
     }

@@ -17,6 +17,7 @@
 #include "survey/Echoes.h"
 #include "survey/Elements.h"
 #include "survey/FindingDetails.h"
+#include "survey/MissingAttributes.h"
 #include "survey/SurveyAdvice.h"
 #include "survey/SurveyRecord.h"
 
@@ -67,6 +68,7 @@ private:
     };
     std::vector<OpenEntry> m_vecEntries;
     std::set<const xmlNode*> m_setOddlyNamed; ///< elements with an attribute that the schema doesn't know
+    std::set<const xmlNode*> m_setUnknown;    ///< elements with a name that says nothing where they stand
     std::map<const xmlNode*, unsigned long long> m_mapMisplaced; ///< by its parent, the first child in a wrong place
     std::size_t m_uLocated = 0; ///< how many findings have their elements; in a reading, those of parser and schema
     bool m_bEncoding = false;
@@ -93,18 +95,22 @@ void Reading::beginDocument( const xmlNode* in_pRoot ) {
     for ( const SurveyedFinding& item : m_record.vecFindings ) {
         if ( item.is( Rules::UNKNOWN_ATTRIBUTE ) )
             m_setOddlyNamed.insert( item.pElement );
-        else if ( item.is( Rules::UNKNOWN_ELEMENT ) && item.pElement && !item.finding.vecRelated.empty() )
+        else if ( !item.isUnread() )
+            continue;
+        else if ( !item.finding.vecRelated.empty() )
             m_mapMisplaced.try_emplace( getParentElement( item.pElement ), item.finding.ullElement );
+        else if ( !hasNamespace( item.pElement ) ) // readers don't ask for prefixes
+            m_setUnknown.insert( item.pElement );
     }
 }
 
-/// A reference whose interfaceID has a wrong name would be taken for one to the whole board, and a misplaced entry, or
-/// one behind it, for what belongs in its place.
+/// A reference whose interfaceID has a wrong name would be taken for one to the whole board, and an entry of an unknown
+/// name, or a misplaced one, or one behind that, for what belongs in its place.
 bool Reading::beginEntry( const xmlNode* in_pEntry ) {
     m_vecEntries.push_back( { m_record.vecFindings.size() } );
     const auto itMisplaced = m_mapMisplaced.find( getParentElement( in_pEntry ) );
     const bool bMisplaced = itMisplaced != m_mapMisplaced.end() && itMisplaced->second <= getElementNumber( in_pEntry );
-    return !bMisplaced &&
+    return !bMisplaced && !m_setUnknown.contains( in_pEntry ) &&
            !( m_setOddlyNamed.contains( in_pEntry ) && isReference( in_pEntry ) &&
               !getValue( in_pEntry, "boardID" ).empty() && getValue( in_pEntry, "interfaceID" ).empty() );
 }
@@ -137,6 +143,7 @@ void Reading::endDocument() {
         addDetails( m_record );
     }
     addAdvice( m_config, m_record );
+    joinMissingAttributes( m_record );
 }
 
 void Reading::settle( std::size_t in_uBegin ) {
@@ -166,7 +173,7 @@ void Reading::findElements() {
              item.finding.strFile != getElementFile( m_record.pRoot ) )
             continue;
         item.pElement = vecElements[ullElement - 1];
-        if ( item.finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
+        if ( item.isUnread() )
             m_record.vecLost.push_back( item.pElement );
         if ( item.is( Rules::UNEXPECTED_TEXT ) ) // it may be what remains of a child
             m_record.vecFaulty.push_back( item.pElement );

@@ -5,7 +5,7 @@
 
 #include <velquin/Finding.h>
 
-#include "reading/XmlNodeFwd.h"
+#include "document/Element.h"
 
 namespace Velquin::Pstn {
 
@@ -21,6 +21,11 @@ struct SurveyedFinding {
     /// Whether it is a mistake of its own, as far as is known.
     bool isMain() const noexcept { return !finding.bEcho && !finding.strRule.empty(); }
     bool is( std::string_view in_strRule ) const noexcept { return finding.strRule == in_strRule; }
+    /// Whether it is about an element that is not read: one whose name is only misspelt has the name that is meant.
+    bool isUnread() const noexcept {
+        return finding.eKind == Finding::Kind::UNKNOWN_ELEMENT && pElement &&
+               finding.strAttribute == getElementName( pElement );
+    }
 };
 
 /// What a survey gathers while it reads a document.
