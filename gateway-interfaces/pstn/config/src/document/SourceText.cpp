@@ -6,40 +6,42 @@
 #include <libxml/encoding.h>
 #include <velquin/InputFile.h>
 
+#include "document/LibXml2Compat.h"
+#include "document/SyntaxCharacters.h"
+#include "document/SyntaxScan.h"
+
 namespace Velquin::Pstn {
 
 namespace {
 
-constexpr std::string_view BLANKS = " \t\r\n";
+constexpr std::string_view CDATA = "<![CDATA[";
+
+/// While it lives, libxml2 keeps its errors to itself.
+class QuietLibXml2 {
+public:
+    QuietLibXml2() { xmlSetStructuredErrorFunc( nullptr, &ignore ); }
+    QuietLibXml2( const QuietLibXml2& ) = delete;
+    QuietLibXml2& operator=( const QuietLibXml2& ) = delete;
+    ~QuietLibXml2() { xmlSetStructuredErrorFunc( m_pOuterContext, m_pOuter ); }
+
+private:
+    static void ignore( void*, XmlErrorPtr ) {}
+
+    const xmlStructuredErrorFunc m_pOuter = xmlStructuredError;
+    void* const m_pOuterContext = xmlStructuredErrorContext;
+};
 
 using XmlBufferPtr = std::unique_ptr<xmlBuffer, LibXml2Deleter<xmlBuffer, xmlBufferFree>>;
 
-/// The text in UTF-8, as far as it can be converted.
-std::string toUtf8( std::string in_strText, const char* in_szEncoding ) {
-    if ( in_strText.starts_with( "\xEF\xBB\xBF" ) )
-        return in_strText.substr( 3 );
-    const bool bLittleEndian = in_strText.starts_with( "\xFF\xFE" );
-    if ( bLittleEndian || in_strText.starts_with( "\xFE\xFF" ) ) {
-        in_strText.erase( 0, 2 );
-        in_szEncoding = bLittleEndian ? "UTF-16LE" : "UTF-16BE";
-    } else if ( in_strText.starts_with( std::string_view( "\0<\0?", 4 ) ) ) {
-        in_szEncoding = "UTF-16BE"; // what it declares doesn't say in which order the bytes stand
-    }
-    if ( !in_szEncoding || xmlParseCharEncoding( in_szEncoding ) == XML_CHAR_ENCODING_UTF8 )
-        return in_strText;
-    xmlCharEncodingHandler* const pHandler = xmlFindCharEncodingHandler( in_szEncoding );
-    const XmlBufferPtr pIn( xmlBufferCreate() );
-    const XmlBufferPtr pOut( xmlBufferCreate() );
-    if ( pHandler && pIn && pOut &&
-         xmlBufferAdd( pIn.get(), toXml( in_strText.data() ), static_cast<int>( in_strText.size() ) ) == 0 ) {
-        while ( xmlBufferLength( pIn.get() ) > 0 && xmlCharEncInFunc( pHandler, pOut.get(), pIn.get() ) > 0 )
-            ; // one call converts a part
-        in_strText.assign( fromXml( xmlBufferContent( pOut.get() ) ),
-                           static_cast<std::size_t>( xmlBufferLength( pOut.get() ) ) );
-    }
-    if ( pHandler )
-        xmlCharEncCloseFunc( pHandler );
-    return in_strText;
+/// The encoding that a document declares in its first line; empty for none.
+std::string findDeclaredEncoding( std::string_view in_strText ) {
+    std::string_view strLine = in_strText.substr( 0, in_strText.find_first_of( ">\r\n" ) );
+    const std::size_t uName = strLine.find( "encoding" );
+    const std::size_t uQuote = strLine.find_first_of( "\"'", uName );
+    if ( !strLine.starts_with( "<?xml" ) || uName == std::string_view::npos || uQuote == std::string_view::npos )
+        return {};
+    strLine.remove_prefix( uQuote + 1 );
+    return std::string( strLine.substr( 0, strLine.find_first_of( "\"' ?" ) ) );
 }
 
 /// Number of characters of a text in UTF-8.
@@ -55,10 +57,52 @@ void SourceText::read( const char* in_szPath, const char* in_szEncoding ) {
     std::ifstream stream;
     if ( !openInputFile( in_szPath, stream ).empty() )
         return;
-    m_strText = toUtf8( { std::istreambuf_iterator<char>( stream ), {} }, in_szEncoding );
+    m_strText.assign( std::istreambuf_iterator<char>( stream ), {} );
+    const bool bMark = m_strText.starts_with( "\xEF\xBB\xBF" );
+    if ( bMark )
+        m_strText.erase( 0, 3 );
+    m_strEncoding = in_szEncoding ? in_szEncoding : findDeclaredEncoding( m_strText );
+    if ( !bMark )
+        convert();
     m_vecLines.push_back( 0 );
     for ( std::size_t u = m_strText.find( '\n' ); u != std::string::npos; u = m_strText.find( '\n', u + 1 ) )
         m_vecLines.push_back( u + 1 );
+}
+
+/// Converts the text to UTF-8, as far as it can be converted.
+void SourceText::convert() {
+    const std::string_view strBegin = std::string_view( m_strText ).substr( 0, 4 );
+    const bool bLittleMark = strBegin.starts_with( "\xFF\xFE" );
+    const bool bMark = bLittleMark || strBegin.starts_with( "\xFE\xFF" );
+    const bool bLittleEndian = bLittleMark || strBegin == std::string_view( "<\0?\0", 4 );
+    // What such a file declares doesn't say in which order the bytes stand.
+    m_bUtf16 = bMark || bLittleEndian || strBegin == std::string_view( "\0<\0?", 4 );
+    if ( m_bUtf16 )
+        m_strEncoding = bLittleEndian ? "UTF-16LE" : "UTF-16BE";
+    if ( bMark )
+        m_strText.erase( 0, 2 );
+    const xmlCharEncoding eFrom = xmlParseCharEncoding( m_strEncoding.c_str() );
+    if ( m_strEncoding.empty() || eFrom == XML_CHAR_ENCODING_UTF8 ||
+         ( !m_bUtf16 && m_strEncoding.starts_with( "UTF-16" ) ) )
+        return;
+    const QuietLibXml2 quiet;
+    xmlCharEncodingHandler* const pHandler = xmlFindCharEncodingHandler( m_strEncoding.c_str() );
+    const XmlBufferPtr pIn( xmlBufferCreate() );
+    const XmlBufferPtr pOut( xmlBufferCreate() );
+    if ( pHandler && pIn && pOut &&
+         xmlBufferAdd( pIn.get(), toXml( m_strText.data() ), static_cast<int>( m_strText.size() ) ) == 0 ) {
+        while ( xmlBufferLength( pIn.get() ) > 0 && xmlCharEncInFunc( pHandler, pOut.get(), pIn.get() ) > 0 )
+            ; // one call converts a part
+        m_strText.assign( fromXml( xmlBufferContent( pOut.get() ) ),
+                          static_cast<std::size_t>( xmlBufferLength( pOut.get() ) ) );
+        if ( xmlBufferLength( pIn.get() ) > 0 ) {
+            m_uConverted = m_strText.size();
+            m_strText.append( fromXml( xmlBufferContent( pIn.get() ) ),
+                              static_cast<std::size_t>( xmlBufferLength( pIn.get() ) ) );
+        }
+    }
+    if ( pHandler )
+        xmlCharEncCloseFunc( pHandler );
 }
 
 std::string_view SourceText::getLine( unsigned long long in_ullLine ) const noexcept {
@@ -83,6 +127,8 @@ void SourceText::locate( std::vector<Place> in_vecPlaces ) const {
           u = m_strText.find( '<', u ) ) {
         if ( isMarkup( u ) ) {
             const bool bEndTag = m_strText[u + 1] == '/';
+            if ( bTexts && !vecOpen.empty() && m_strText.compare( u, CDATA.size(), CDATA ) == 0 )
+                locateText( u + CDATA.size(), "]]>", vecOpen.back(), in_vecPlaces );
             u = skipMarkup( u );
             if ( bEndTag && !vecOpen.empty() )
                 vecOpen.pop_back();
@@ -99,39 +145,42 @@ void SourceText::locate( std::vector<Place> in_vecPlaces ) const {
             }
         }
         if ( bTexts && !vecOpen.empty() )
-            locateText( u, vecOpen.back(), in_vecPlaces );
+            locateText( u, "<", vecOpen.back(), in_vecPlaces );
     }
 }
 
-SourceSpan SourceText::findUnfinished( Unfinished in_eWhat, unsigned long long in_ullLastLine ) const {
-    const std::size_t uEnd = in_ullLastLine < m_vecLines.size() ? m_vecLines[in_ullLastLine] : m_strText.size();
-    for ( std::size_t uBegin = m_strText.find( '<' ); uBegin < uEnd; uBegin = m_strText.find( '<', uBegin ) ) {
-        if ( in_eWhat == Unfinished::COMMENT && m_strText.compare( uBegin, 4, "<!--" ) == 0 ) {
-            const std::size_t uHyphens = m_strText.find( "--", uBegin + 4 );
-            if ( uHyphens == std::string::npos || m_strText.compare( uHyphens, 3, "-->" ) != 0 )
-                return getSpan( uBegin, uBegin + 4 );
+void SourceText::explain( Finding& inout_finding ) const {
+    const SyntaxPlace place = getSyntaxPlace( inout_finding.strText );
+    const std::string_view strText = m_strText;
+    if ( place.eHow == SyntaxPlace::How::DECLARATION ) {
+        const std::size_t uNext =
+            inout_finding.ullLine < m_vecLines.size() ? m_vecLines[inout_finding.ullLine] : strText.size();
+        const std::size_t uBegin = strText.rfind( place.strBegin, uNext );
+        inout_finding.strHint = place.strHint;
+        if ( uBegin != std::string_view::npos )
+            inout_finding.span = getSpan( uBegin, uBegin + place.strBegin.size() );
+    } else if ( place.eHow != SyntaxPlace::How::REPORTED ) {
+        const std::optional<SyntaxFinding> fault =
+            findSyntaxFault( { strText, m_strEncoding, m_bUtf16, m_uConverted } );
+        const auto getPlace = [&]( std::string_view in_strPiece ) {
+            const auto uBegin = static_cast<std::size_t>( in_strPiece.data() - strText.data() );
+            return getSpan( uBegin, uBegin + in_strPiece.size() );
+        };
+        const SourceSpan span = fault ? getPlace( fault->strPlace ) : SourceSpan{};
+        if ( !fault || ( span.ullLine > inout_finding.ullLine && place.eHow == SyntaxPlace::How::TEXT ) )
+            return;
+        inout_finding.span = span;
+        inout_finding.strMessage = fault->strMessage;
+        inout_finding.strHint = fault->strHint;
+        inout_finding.vecRelated.clear();
+        if ( !fault->strLabel.empty() ) {
+            Finding::Related& related = inout_finding.vecRelated.emplace_back();
+            related.strLabel = fault->strLabel;
+            related.strFile = inout_finding.strFile;
+            related.span = getPlace( fault->strOther );
+            related.ullLine = related.span.ullLine;
         }
-        if ( isMarkup( uBegin ) ) {
-            uBegin = skipMarkup( uBegin );
-            continue;
-        }
-        std::size_t u = m_strText.find_first_of( "<>\"'", uBegin + 1 );
-        for ( ; u < m_strText.size() && ( m_strText[u] == '"' || m_strText[u] == '\'' );
-              u = m_strText.find_first_of( "<>\"'", u + 1 ) ) {
-            const char szEnds[] = { m_strText[u], '<', '\0' };
-            const std::size_t uClose = std::min( m_strText.find_first_of( szEnds, u + 1 ), m_strText.size() );
-            if ( uClose == m_strText.size() || m_strText[uClose] == '<' )
-                return in_eWhat == Unfinished::VALUE ? getSpan( u, uClose ) : SourceSpan{};
-            u = uClose;
-        }
-        u = std::min( u, m_strText.size() );
-        if ( in_eWhat == Unfinished::START_TAG && ( u == m_strText.size() || m_strText[u] == '<' ) ) {
-            const std::size_t uLast = m_strText.find_last_not_of( BLANKS, u - 1 );
-            return getSpan( uLast, uLast + 1 );
-        }
-        uBegin = u;
     }
-    return {};
 }
 
 bool SourceText::isMarkup( std::size_t in_uBegin ) const {
@@ -140,10 +189,11 @@ bool SourceText::isMarkup( std::size_t in_uBegin ) const {
 }
 
 /// Sets the next text place of an element to the line of text that begins there, if one does.
-void SourceText::locateText( std::size_t in_uBegin, unsigned long long in_ullElement,
+void SourceText::locateText( std::size_t in_uBegin, std::string_view in_strEnd, unsigned long long in_ullElement,
                              std::vector<Place>& inout_vecPlaces ) const {
     const std::size_t uBegin = skipBlanks( in_uBegin );
-    if ( uBegin == m_strText.size() || m_strText[uBegin] == '<' )
+    const std::size_t uLast = std::min( m_strText.find( in_strEnd, in_uBegin ), m_strText.size() );
+    if ( uBegin >= uLast )
         return;
     auto it = std::lower_bound(
         inout_vecPlaces.begin(), inout_vecPlaces.end(), in_ullElement,
@@ -153,8 +203,8 @@ void SourceText::locateText( std::size_t in_uBegin, unsigned long long in_ullEle
     if ( it == inout_vecPlaces.end() || it->ullElement != in_ullElement )
         return;
     it->bText = false;
-    const std::size_t uEnd = std::min( m_strText.find_first_of( "<\r\n", uBegin ), m_strText.size() );
-    *it->pSpan = getSpan( uBegin, m_strText.find_last_not_of( BLANKS, uEnd - 1 ) + 1 );
+    const std::size_t uEnd = std::min( m_strText.find_first_of( "\r\n", uBegin ), uLast );
+    *it->pSpan = getSpan( uBegin, m_strText.find_last_not_of( XML_BLANKS, uEnd - 1 ) + 1 );
 }
 
 /// @return where the search for the next tag goes on
@@ -166,34 +216,15 @@ std::size_t SourceText::skipMarkup( std::size_t in_uBegin ) const {
     };
     if ( strRest.starts_with( "<!--" ) )
         return skip( "-->" );
-    if ( strRest.starts_with( "<![CDATA[" ) )
+    if ( strRest.starts_with( CDATA ) )
         return skip( "]]>" );
     if ( strRest.starts_with( "<?" ) )
         return skip( "?>" );
-    return strRest.starts_with( "<!" ) ? skipDocumentType( in_uBegin ) : skip( ">" );
-}
-
-std::size_t SourceText::skipDocumentType( std::size_t in_uBegin ) const {
-    bool bSubset = false;
-    for ( std::size_t u = in_uBegin + 2; u < m_strText.size(); ++u ) {
-        const char c = m_strText[u];
-        if ( c == '"' || c == '\'' ) {
-            u = m_strText.find( c, u + 1 );
-            if ( u == std::string::npos )
-                break;
-        } else if ( m_strText.compare( u, 4, "<!--" ) == 0 || m_strText.compare( u, 2, "<?" ) == 0 ) {
-            u = skipMarkup( u ) - 1;
-        } else if ( c == '[' || c == ']' ) {
-            bSubset = c == '[';
-        } else if ( c == '>' && !bSubset ) {
-            return u + 1;
-        }
-    }
-    return m_strText.size();
+    return strRest.starts_with( "<!" ) ? findEndOfDocumentType( m_strText, in_uBegin ) : skip( ">" );
 }
 
 std::size_t SourceText::skipBlanks( std::size_t in_uFrom ) const {
-    return std::min( m_strText.find_first_not_of( BLANKS, in_uFrom ), m_strText.size() );
+    return std::min( m_strText.find_first_not_of( XML_BLANKS, in_uFrom ), m_strText.size() );
 }
 
 /// Sets the places in one start tag.

@@ -24,32 +24,35 @@ public:
     };
 
     /// Reads the file. When that fails, the text stays empty.
-    /// @param in_szEncoding the encoding that the document declares; null for none
+    /// @param in_szEncoding the encoding that the document declares; null when nobody knows
     void read( const char* in_szPath, const char* in_szEncoding );
 
     /// Finds the places in one pass. The file must be well-formed. A place that isn't found keeps its spans; an absent
     /// attribute or text gets the span of its element.
     void locate( std::vector<Place> in_vecPlaces ) const;
 
-    /// Where something unfinished begins, at the latest on that line. Of a start tag it is the last character, behind
-    /// which its end is missing. All 0 when nothing is unfinished.
-    SourceSpan findUnfinished( Unfinished in_eWhat, unsigned long long in_ullLastLine ) const;
+    /// Says of an ill-formed file what is wrong with it and what to do, at the place where the mistake begins. Keeps
+    /// what the finding says when the text doesn't show the mistake.
+    void explain( Finding& inout_finding ) const;
 
     /// A line without its end; empty when there is no such line.
     std::string_view getLine( unsigned long long in_ullLine ) const noexcept;
 
 private:
+    void convert();
     bool isMarkup( std::size_t in_uBegin ) const;
     SourceSpan getSpan( std::size_t in_uBegin, std::size_t in_uEnd ) const;
     std::size_t locateTag( std::size_t in_uBegin, const Place* in_pFirst, const Place* in_pEnd ) const;
-    void locateText( std::size_t in_uBegin, unsigned long long in_ullElement,
+    void locateText( std::size_t in_uBegin, std::string_view in_strEnd, unsigned long long in_ullElement,
                      std::vector<Place>& inout_vecPlaces ) const;
     std::size_t skipBlanks( std::size_t in_uFrom ) const;
     std::size_t skipMarkup( std::size_t in_uBegin ) const;
-    std::size_t skipDocumentType( std::size_t in_uBegin ) const;
 
     std::string m_strText;
-    std::vector<std::size_t> m_vecLines; ///< where each line begins
+    std::string m_strEncoding; ///< that the document declares; empty for none
+    bool m_bUtf16 = false;
+    std::size_t m_uConverted = std::string::npos; ///< where bytes begin that aren't in that encoding
+    std::vector<std::size_t> m_vecLines;          ///< where each line begins
     mutable struct {
         std::size_t uOffset = 0;
         std::size_t uColumn = 1;

@@ -192,7 +192,7 @@ public:
 
 private:
     void locate( const std::string& in_strFile );
-    void locateUnfinished( const std::string& in_strFile );
+    void explain( const std::string& in_strFile );
     void sort( const std::string& in_strFile );
 };
 
@@ -218,7 +218,7 @@ bool Survey::Impl::run( const char* in_szConfigFile, const char* in_szSchemaFile
     if ( record.pRoot )
         locate( in_szConfigFile );
     else
-        locateUnfinished( in_szConfigFile );
+        explain( in_szConfigFile );
     sort( in_szConfigFile );
     return bLoads;
 }
@@ -239,15 +239,12 @@ void Survey::Impl::locate( const std::string& in_strFile ) {
     m_text.locate( std::move( vecPlaces ) );
 }
 
-/// Of an ill-formed file: the parser stops at what follows, but the mistake is where a tag, a value or a comment has no
-/// end.
-void Survey::Impl::locateUnfinished( const std::string& in_strFile ) {
+/// Of an ill-formed file: the parser stops behind the mistake, and says what a parser expects.
+void Survey::Impl::explain( const std::string& in_strFile ) {
     for ( Finding& finding : m_vecFindings ) {
-        const Unfinished eWhat = finding.bEcho ? Unfinished::NOTHING : getUnfinished( finding.strText );
-        if ( eWhat == Unfinished::NOTHING || finding.strFile != in_strFile )
-            continue;
-        if ( const SourceSpan span = m_text.findUnfinished( eWhat, finding.ullLine ); span.ullLine != 0 )
-            finding.span = span;
+        if ( !finding.bEcho && finding.strRule == Rules::ILL_FORMED && finding.nLevel >= Logger::ERROR_LEVEL &&
+             finding.strFile == in_strFile )
+            m_text.explain( finding );
     }
 }
 
