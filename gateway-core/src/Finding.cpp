@@ -48,15 +48,19 @@ std::string quoteNames( std::string in_strNames ) {
     return quote( in_strNames );
 }
 
+/// That one or several are missing: "a", "a or b", "a and b", "a, b and c".
+std::string describeMissing( const char* in_szWhat, const std::string& in_strNames ) {
+    const bool bSeveral = in_strNames.find( " and " ) != std::string::npos;
+    return std::string( "missing " ) + in_szWhat + ( bSeveral ? "s " : " " ) + quoteNames( in_strNames );
+}
+
 /// What is wrong, without what would be right.
 std::string describeFault( const Finding& in_finding ) {
     switch ( in_finding.eKind ) {
     case Finding::Kind::MISSING_ATTRIBUTE:
-        return ( in_finding.strAttribute.find( ' ' ) == std::string::npos ? "missing attribute "
-                                                                          : "missing attributes " ) +
-               quoteNames( in_finding.strAttribute );
+        return describeMissing( "attribute", in_finding.strAttribute );
     case Finding::Kind::MISSING_ELEMENT:
-        return "missing element " + quoteNames( in_finding.strAttribute );
+        return describeMissing( "element", in_finding.strAttribute );
     case Finding::Kind::INVALID_VALUE:
         return in_finding.strAttribute + "=" + quote( in_finding.strValue );
     case Finding::Kind::UNKNOWN_ATTRIBUTE:

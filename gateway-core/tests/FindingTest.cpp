@@ -73,6 +73,19 @@ TEST( Logger, NothingIsComposedBelowTheLevel ) {
     }
 }
 
+// A level holds for the loggers below it that have none of their own.
+TEST( Logger, InheritsItsLevel ) {
+    const LogCapture log( Logger::ERROR_LEVEL );
+    const Logger outer( "test.levels" );
+    const Logger inner( "test.levels.Reader.Part" );
+    EXPECT_EQ( inner.getLogLevel(), Logger::ERROR_LEVEL );
+    log4cplus::Logger::getInstance( LOG4CPLUS_TEXT( "test.levels" ) ).setLogLevel( Logger::DEBUG_LEVEL );
+    EXPECT_TRUE( inner.isEnabledFor( Logger::DEBUG_LEVEL ) && !inner.isEnabledFor( Logger::TRACE_LEVEL ) );
+    log4cplus::Logger::getInstance( LOG4CPLUS_TEXT( "test.levels.Reader" ) ).setLogLevel( Logger::WARNING_LEVEL );
+    EXPECT_TRUE( outer.isEnabledFor( Logger::DEBUG_LEVEL ) && !inner.isEnabledFor( Logger::DEBUG_LEVEL ) );
+    EXPECT_FALSE( s_logger.isEnabledFor( Logger::WARNING_LEVEL ) );
+}
+
 TEST( Assertion, TellsExpressionFileAndLine ) {
     const LogCapture log;
     Findings findings;
@@ -133,6 +146,48 @@ TEST( Finding, WatchesNestAndHearWhatIsNotLogged ) {
     VELQUIN_REPORT_ERROR( s_logger, "three" );
     EXPECT_THAT( outer.vecTexts, ElementsAre( "0: test heard one", "0: test heard two", "0: test three" ) );
     EXPECT_THAT( log.getRecords(), ElementsAre() );
+}
+
+TEST( Finding, HasWordsForPeople ) {
+    using Kind = Finding::Kind;
+    struct Case {
+        Kind eKind;
+        const char* szAttribute;
+        const char* szValue;
+        const char* szHint;
+        const char* szText;
+        const char* szWords;
+    };
+    for ( const Case& c : {
+              Case{ Kind::MISSING_ATTRIBUTE, "ID", "", "the value must be a number.", "x",
+                    "missing attribute \"ID\": the value must be a number" },
+              Case{ Kind::MISSING_ATTRIBUTE, "ID, model and tirpipe", "", "", "x",
+                    "missing attributes \"ID\", \"model\" and \"tirpipe\"" },
+              Case{ Kind::MISSING_ELEMENT, "audio and applyTo", "", "", "x",
+                    "missing elements \"audio\" and \"applyTo\"" },
+              Case{ Kind::MISSING_ELEMENT, "digitalE1 or digitalT1", "", "", "x",
+                    "missing element \"digitalE1\" or \"digitalT1\"" },
+              Case{ Kind::INVALID_VALUE, "ID", "a\x1b[2Jb", "Write 1. ", "x", "ID=\"a?[2Jb\": write 1" },
+              Case{ Kind::INVALID_VALUE, "ID", "", "", "x", "ID=\"\"" },
+              Case{ Kind::UNKNOWN_ATTRIBUTE, "a", "", "did you mean \"b\"?", "x",
+                    "unknown attribute \"a\": did you mean \"b\"?" },
+              Case{ Kind::UNKNOWN_ELEMENT, "a", "", "", "x", "unexpected element \"a\"" },
+              Case{ Kind::OTHER, "a", "b", "", "No room left. ", "no room left" },
+              Case{ Kind::OTHER, "", "", "", "NFAS group is full", "NFAS group is full" },
+              Case{ Kind::UNREADABLE_FILE, "", "", "", "", "" },
+          } ) {
+        Finding finding;
+        finding.eKind = c.eKind;
+        finding.strAttribute = c.szAttribute;
+        finding.strValue = c.szValue;
+        finding.strHint = c.szHint;
+        finding.strText = c.szText;
+        EXPECT_EQ( describeFinding( finding ), c.szWords );
+        finding.strMessage = "The message";
+        if ( c.eKind == Kind::OTHER ) {
+            EXPECT_EQ( describeFinding( finding ), "the message" ) << "goes before the log line";
+        }
+    }
 }
 
 bool load( const std::function<void()>& in_throwing ) try {

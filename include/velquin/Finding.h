@@ -24,7 +24,7 @@ struct Finding {
     enum class Kind {
         OTHER,             ///< only the text says what is wrong
         MISSING_ATTRIBUTE, ///< strAttribute is required and absent; "a, b and c" in a survey where several are
-        MISSING_ELEMENT,   ///< strAttribute names a required child element that is absent: "a", or "a or b"
+        MISSING_ELEMENT,   ///< the same for a required child element; "a or b" where one of two is
         INVALID_VALUE,     ///< strAttribute has the wrong value strValue
         UNREADABLE_FILE,   ///< strFile can't be read at all
         UNKNOWN_ATTRIBUTE, ///< the element has no attribute of the name strAttribute

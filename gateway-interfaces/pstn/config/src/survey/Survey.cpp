@@ -17,7 +17,7 @@
 #include "survey/Echoes.h"
 #include "survey/Elements.h"
 #include "survey/FindingDetails.h"
-#include "survey/MissingAttributes.h"
+#include "survey/MissingParts.h"
 #include "survey/SurveyAdvice.h"
 #include "survey/SurveyRecord.h"
 
@@ -143,7 +143,7 @@ void Reading::endDocument() {
         addDetails( m_record );
     }
     addAdvice( m_config, m_record );
-    joinMissingAttributes( m_record );
+    joinMissingParts( m_record );
 }
 
 void Reading::settle( std::size_t in_uBegin ) {

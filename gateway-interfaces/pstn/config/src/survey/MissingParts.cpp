@@ -1,4 +1,4 @@
-#include "survey/MissingAttributes.h"
+#include "survey/MissingParts.h"
 
 #include <algorithm>
 #include <cctype>
@@ -45,13 +45,15 @@ std::string joinHints( const std::vector<SurveyedFinding*>& in_vecItems ) {
 
 } // namespace
 
-void joinMissingAttributes( SurveyRecord& inout_record ) {
-    std::map<const xmlNode*, std::vector<SurveyedFinding*>> mapMissing;
+void joinMissingParts( SurveyRecord& inout_record ) {
+    std::map<std::pair<const xmlNode*, Finding::Kind>, std::vector<SurveyedFinding*>> mapMissing;
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( item.isMain() && item.pElement && item.is( Rules::MISSING_ATTRIBUTE ) )
-            mapMissing[item.pElement].push_back( &item );
+        const Finding::Kind eKind = item.finding.eKind;
+        if ( item.isMain() && item.pElement &&
+             ( eKind == Finding::Kind::MISSING_ATTRIBUTE || eKind == Finding::Kind::MISSING_ELEMENT ) )
+            mapMissing[{ item.pElement, eKind }].push_back( &item );
     }
-    for ( auto& [pElement, vecItems] : mapMissing ) {
+    for ( auto& [what, vecItems] : mapMissing ) {
         if ( vecItems.size() == 1 )
             continue;
         Finding& first = vecItems.front()->finding;
