@@ -1,11 +1,11 @@
 #include "document/SyntaxScan.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 #include <vector>
 
 #include "document/AttributeScan.h"
+#include "document/OpenTags.h"
 #include "document/SyntaxCharacters.h"
 
 namespace Velquin::Pstn {
@@ -41,13 +41,6 @@ public:
     std::optional<SyntaxFinding> run();
 
 private:
-    /// An open element, or one that a start tag with /> ended.
-    struct Tag {
-        std::string_view strName;
-        std::string_view strPlace;     ///< of an open one `<` and its name, of an ended one `/>`
-        const char* pParent = nullptr; ///< where the tag of its parent begins
-    };
-
     bool scanMarkup();
     bool scanComment();
     bool scanInstruction();
@@ -57,7 +50,6 @@ private:
     bool scanTagAttributes( const std::string& in_strTag, std::string_view in_strEnd );
     bool skipTo( std::size_t in_uBegin, std::string_view in_strEnd, const std::string& in_strWhat );
     bool reportEnd( const std::string& in_strInside );
-    bool reportMismatch( std::string_view in_strName, std::string_view in_strPlace );
     bool report( SyntaxFinding in_finding );
 
     std::string_view getRest() const { return m_strText.substr( m_u ); }
@@ -78,8 +70,7 @@ private:
     const std::string_view m_strText; ///< up to the first character that can't be read
     std::size_t m_u = 0;
     bool m_bRoot = false; ///< whether the root element was begun
-    std::vector<Tag> m_vecOpen;
-    std::map<std::string_view, Tag> m_mapEnded;    ///< by its name, the last element that a start tag with /> ended
+    OpenTags m_open;
     std::vector<ScannedAttribute> m_vecAttributes; ///< of the current tag
     std::optional<SyntaxFinding> m_finding;
 };
@@ -92,29 +83,10 @@ bool SyntaxScan::report( SyntaxFinding in_finding ) {
 
 /// Reports that the text ends inside something, or why the rest of it can't be read.
 bool SyntaxScan::reportEnd( const std::string& in_strInside ) {
-    constexpr std::size_t MAX_OPEN = 20;
     if ( m_strange )
         return report( *m_strange );
-    if ( m_vecOpen.empty() && in_strInside.empty() )
-        return false;
-    SyntaxFinding finding{ getLast( m_strText.size() ), "the file ends here", "write what is missing" };
-    if ( !in_strInside.empty() )
-        finding.strMessage += ", in " + in_strInside;
-    if ( !m_vecOpen.empty() && m_vecOpen.size() <= MAX_OPEN ) {
-        std::string strPath;
-        std::string strEnds;
-        for ( const Tag& tag : m_vecOpen ) {
-            strPath += joinTexts( { "/", tag.strName } );
-            strEnds.insert( 0, joinTexts( { "</", tag.strName, ">" } ) );
-        }
-        finding.strMessage += ", inside " + strPath;
-        finding.strHint += ", at least " + strEnds;
-    }
-    if ( !m_vecOpen.empty() ) {
-        finding.strLabel = "opened here";
-        finding.strOther = m_vecOpen.back().strPlace;
-    }
-    return report( finding );
+    return ( !m_open.isEmpty() || !in_strInside.empty() ) &&
+           report( m_open.describeEnd( getLast( m_strText.size() ), in_strInside ) );
 }
 
 /// Goes on behind what ends something.
@@ -190,23 +162,22 @@ bool SyntaxScan::scanStartTag() {
         return report( { strRest.substr( 0, pNoTag->strBegin.size() ), std::string( pNoTag->strMessage ),
                          std::string( pNoTag->strHint ) } );
     }
-    if ( m_bRoot && m_vecOpen.empty() )
+    if ( m_bRoot && m_open.isEmpty() )
         return false;
     m_bRoot = true;
-    const Tag tag{ strName, strRest.substr( 0, 1 + strName.size() ),
-                   m_vecOpen.empty() ? nullptr : m_vecOpen.back().strPlace.data() };
-    m_u += tag.strPlace.size();
+    const std::string_view strTag = strRest.substr( 0, 1 + strName.size() );
+    m_u += strTag.size();
     if ( !scanTagAttributes( joinTexts( { "the start tag of ", strName } ), "> or />" ) )
         return false;
     const std::string_view strEnd = getRest().substr( 0, 2 );
     if ( strEnd[0] == '?' )
-        return report( { tag.strPlace, "what begins with < can't end with ?>", joinTexts( { "write <?", strName } ),
+        return report( { strTag, "what begins with < can't end with ?>", joinTexts( { "write <?", strName } ),
                          "the character ? stands here", strEnd.substr( 0, 1 ) } );
     m_u += strEnd[0] == '/' ? 2 : 1;
     if ( strEnd[0] == '/' )
-        m_mapEnded[strName] = { strName, strEnd, tag.pParent };
+        m_open.addEnded( strName, strEnd );
     else
-        m_vecOpen.push_back( tag );
+        m_open.open( strTag );
     m_finding = findAttributeTwice( m_vecAttributes );
     return !m_finding;
 }
@@ -215,12 +186,11 @@ bool SyntaxScan::scanEndTag() {
     const std::string_view strRest = getRest();
     const std::string_view strName = readName( strRest.substr( 2 ) );
     const std::size_t uEnd = skipBlanks( m_u + 2 + strName.size() );
-    if ( m_vecOpen.empty() )
+    if ( m_open.isEmpty() )
         return false;
     if ( uEnd == m_strText.size() )
         return reportEnd( "an end tag" );
-    const Tag& open = m_vecOpen.back();
-    const std::string strWrite = joinTexts( { "write </", open.strName, ">" } );
+    const std::string strWrite = joinTexts( { "write </", m_open.getName(), ">" } );
     if ( strName.empty() )
         return report( { strRest.substr( 0, 2 ), "a name must follow the characters </", strWrite } );
     if ( m_strText[uEnd] == '<' )
@@ -228,31 +198,11 @@ bool SyntaxScan::scanEndTag() {
             { getLast( uEnd ), joinTexts( { "the end tag </", strName, " has no end" } ), "end it with >" } );
     if ( m_strText[uEnd] != '>' )
         return report( { m_strText.substr( uEnd, 1 ), "an end tag can hold only a name", strWrite } );
-    if ( open.strName != strName )
-        return reportMismatch( strName, getPiece( m_u, uEnd + 1 ) );
-    m_vecOpen.pop_back();
+    if ( m_open.getName() != strName )
+        return report( m_open.describeMismatch( strName, getPiece( m_u, uEnd + 1 ) ) );
+    m_open.close();
     m_u = uEnd + 1;
     return true;
-}
-
-/// Reports an end tag that can't end the innermost element.
-bool SyntaxScan::reportMismatch( std::string_view in_strName, std::string_view in_strPlace ) {
-    const Tag& open = m_vecOpen.back();
-    const bool bOfOuter = std::any_of( m_vecOpen.begin(), m_vecOpen.end(),
-                                       [in_strName]( const Tag& in_tag ) { return in_tag.strName == in_strName; } );
-    if ( bOfOuter )
-        return report( { open.strPlace, joinTexts( { "the element ", open.strName, " has no end" } ),
-                         joinTexts( { "end its tag with />, or write </", open.strName, ">" } ),
-                         joinTexts( { "</", in_strName, "> stands here instead" } ), in_strPlace } );
-    const auto itEnded = m_mapEnded.find( in_strName );
-    if ( itEnded != m_mapEnded.end() && itEnded->second.pParent == open.strPlace.data() )
-        return report( { in_strPlace, joinTexts( { "no element ", in_strName, " is open here" } ),
-                         "remove this end tag, or write > for the /> that ended the element", "ended here",
-                         itEnded->second.strPlace } );
-    return report(
-        { in_strPlace, joinTexts( { "</", in_strName, "> can't end the element ", open.strName } ),
-          joinTexts( { "write </", open.strName, ">, or look for an end tag that is missing or stands twice" } ),
-          "opened here", open.strPlace } );
 }
 
 bool SyntaxScan::scanMarkup() {
@@ -275,8 +225,9 @@ std::optional<SyntaxFinding> SyntaxScan::run() {
         const std::size_t uMarkup = std::min( m_strText.find( '<', m_u ), m_strText.size() );
         const std::string_view strContent = getPiece( m_u, uMarkup );
         m_u = uMarkup;
-        if ( m_vecOpen.empty() && strContent.find_first_not_of( XML_BLANKS ) != std::string_view::npos )
+        if ( m_open.isEmpty() && strContent.find_first_not_of( XML_BLANKS ) != std::string_view::npos )
             return std::nullopt;
+        m_open.addText( strContent );
         const std::size_t uEnd = strContent.find( "]]>" );
         if ( std::optional<SyntaxFinding> finding = findWrongReference( strContent.substr( 0, uEnd ) ) )
             return finding;
