@@ -215,7 +215,7 @@ LoadResult load( XmlConfig& out_config, const std::string& in_strFile, const std
         captureLines( [&] { result.bValid = out_config.load( in_strFile.c_str(), in_strSchema.c_str(), false ); } );
     if ( !bOfFileOnly )
         return result;
-    // A survey has the verdict of the load, and a reason for it.
+    // A survey has the verdict of the load, a reason for it, and hears what the load ended at.
     const Velquin::Test::LogCapture quiet( Logger::ERROR_LEVEL );
     Survey survey;
     EXPECT_EQ( survey.run( in_strFile.c_str(), in_strSchema.c_str() ), result.bValid );
@@ -223,6 +223,14 @@ LoadResult load( XmlConfig& out_config, const std::string& in_strFile, const std
     EXPECT_TRUE( result.bValid || std::any_of( vecFindings.begin(), vecFindings.end(), []( const Finding& in_finding ) {
                      return !in_finding.bEcho && in_finding.nLevel >= Logger::ERROR_LEVEL;
                  } ) );
+    if ( !result.vecLines.empty() && !result.bValid ) {
+        const std::string strEnd = result.vecLines[0].substr( result.vecLines[0].find( ": " ) + 2 );
+        EXPECT_TRUE( std::any_of( vecFindings.begin(), vecFindings.end(),
+                                  [&]( const Finding& in_finding ) {
+                                      return strEnd.starts_with( "Assertion failed: " ) || in_finding.strText == strEnd;
+                                  } ) )
+            << "no finding of the survey: " << strEnd;
+    }
     return result;
 }
 

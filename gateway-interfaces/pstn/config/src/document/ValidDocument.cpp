@@ -39,12 +39,6 @@ bool refersToOtherFiles( const xmlNode* in_pElement, const Logger& in_logger ) {
 void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xmlDoc* in_pDocument,
              const Logger& in_logger ) {
     SchemaAdvisor advisor( in_pSchema, in_logger );
-    if ( EntryListener::getCurrent() ) {
-        for ( const auto& [strName, uTimes] : inout_route.getUnplaced() )
-            inout_route.reportWrongAttributes( strName, nullptr );
-        advisor.adviseOnDocument( xmlDocGetRootElement( in_pDocument ) );
-        return;
-    }
     for ( const auto& [strName, uTimes] : inout_route.getUnplaced() ) {
         // Another error may have named some of them.
         const std::size_t uMost = uTimes + inout_route.getElementsWithWrongAttributes().size();
@@ -54,6 +48,10 @@ void advise( LibXml2ErrorRoute& inout_route, const xmlDoc* in_pSchema, const xml
             inout_route.reportWrongAttributes( strName, pElement );
         if ( vecMisfits.empty() )
             inout_route.reportWrongAttributes( strName, nullptr );
+    }
+    if ( EntryListener::getCurrent() ) {
+        advisor.adviseOnDocument( xmlDocGetRootElement( in_pDocument ) );
+        return;
     }
     for ( xmlNode* const pElement : inout_route.getElementsWithWrongAttributes() )
         advisor.adviseOnAttributes( pElement );
