@@ -21,6 +21,20 @@ struct Thing : virtual Object {
 };
 struct SpecialThing : Thing {};
 
+// A handle becomes one of a base or of a constant object by itself, and never the reverse.
+template <class TFrom, class TTo>
+constexpr bool BECOMES = std::is_convertible_v<TSHandle<TFrom>, TSHandle<TTo>>;
+static_assert( BECOMES<SpecialThing, Thing> && BECOMES<Thing, const Thing> && BECOMES<SpecialThing, const Object> );
+static_assert( !BECOMES<Thing, SpecialThing> && !BECOMES<const Thing, Thing> && !BECOMES<Thing, int> );
+static_assert( !std::is_convertible_v<Thing*, TSHandle<Thing>> && !std::is_convertible_v<Thing*, UniqueObjPtr<Thing>> );
+static_assert( std::is_convertible_v<LimitedObjPtr<SpecialThing>, LimitedObjPtr<const Thing>> &&
+               !std::is_convertible_v<LimitedObjPtr<const Thing>, LimitedObjPtr<Thing>> );
+// A container may move handles and owners where it would otherwise copy or lose them.
+static_assert( std::is_nothrow_move_constructible_v<TSHandle<Thing>> &&
+               std::is_nothrow_copy_assignable_v<TSHandle<Thing>> );
+static_assert( !std::is_copy_constructible_v<UniqueObjPtr<Thing>> &&
+               std::is_nothrow_move_assignable_v<UniqueObjPtr<Thing>> );
+
 TEST( TSHandle, TheLastHandleDeletes ) {
     TSHandle<SpecialThing> hSpecial( new SpecialThing() );
     const LimitedObjPtr<const Thing> pThing( hSpecial.get() );
@@ -73,12 +87,34 @@ TEST( TSHandle, ThreadsShareOneObject ) {
     EXPECT_EQ( uSum, THREADS * ROUNDS );
 }
 
+TEST( TSHandle, SharesOnlyWhatIsThere ) {
+    TSReferenceCount count;
+    count.increment();
+    EXPECT_EQ( count.getCount(), 2u );
+    EXPECT_FALSE( count.decrement() );
+    EXPECT_TRUE( count.decrement() );
+
+    TSHandle<Thing> hThing( new Thing() );
+    TSHandle<Thing> hNothing( static_cast<Thing*>( nullptr ) );
+    EXPECT_TRUE( hNothing.isNull() && hNothing == TSHandle<Thing>() && hNothing != hThing );
+    EXPECT_TRUE( dynamicHandleCast<SpecialThing>( hNothing ).isNull() );
+    hThing.swap( hNothing );
+    hThing = nullptr;
+    EXPECT_EQ( s_nAlive, 1 );
+    hNothing = TSHandle<Thing>( static_cast<Thing*>( nullptr ) );
+    EXPECT_EQ( s_nAlive, 0 );
+}
+
 TEST( UniqueObjPtr, DeletesUnlessReleased ) {
     UniqueObjPtr<Thing> pThing = dynamicOwnerCast<Thing>( UniqueObjPtr<Object>( new Thing() ) );
     EXPECT_FALSE( pThing.isNull() );
     EXPECT_EQ( s_nAlive, 1 );
     EXPECT_TRUE( dynamicOwnerCast<SpecialThing>( std::move( pThing ) ).isNull() );
     EXPECT_EQ( s_nAlive, 0 );
+    UniqueObjPtr<Thing> pReleased( new Thing() );
+    const TSHandle<Thing> hOwner( pReleased.release() );
+    EXPECT_TRUE( pReleased.isNull() );
+    EXPECT_EQ( s_nAlive, 1 );
 }
 
 } // namespace

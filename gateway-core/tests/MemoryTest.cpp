@@ -5,6 +5,8 @@
 #include <memory>
 #include <new>
 #include <stdexcept>
+#include <thread>
+#include <vector>
 
 #include <gmock/gmock.h>
 
@@ -81,6 +83,28 @@ TEST( MemAccount, TheListMergesNamesAndForgetsWhatIsGone ) {
             EXPECT_LT( vecFigures[u - 1].strName, vecFigures[u].strName );
     }
     EXPECT_EQ( find( "Test.Merged" ), "none" );
+}
+
+TEST( MemAccount, CountsWhatThreadsAllocate ) {
+    constexpr unsigned long long THREADS = 8, ROUNDS = 500, BYTES = 16;
+    MemAccount account( "Test.Threads" );
+    {
+        std::vector<std::jthread> vecThreads;
+        for ( unsigned long long ull = 0; ull < THREADS; ++ull )
+            vecThreads.emplace_back( [&account] {
+                for ( unsigned long long ullRound = 0; ullRound < ROUNDS; ++ullRound ) {
+                    account.add( BYTES );
+                    account.add( 1 );
+                    account.remove( BYTES );
+                    static_cast<void>( MemAccount::list() );
+                }
+            } );
+    }
+    const MemAccount::Figures figures = account.getFigures();
+    EXPECT_EQ( figures.ullObjects, THREADS * ROUNDS );
+    EXPECT_EQ( figures.ullBytes, THREADS * ROUNDS );
+    EXPECT_GE( figures.ullPeakBytes, THREADS * ROUNDS );
+    EXPECT_LE( figures.ullPeakBytes, THREADS * ROUNDS + THREADS * BYTES );
 }
 
 } // namespace

@@ -16,6 +16,21 @@
 #include <velquin/XMLDocOutputStreamable.h>
 
 namespace Velquin::Test {
+
+/// A key; all keys have one hash.
+struct SameHash {
+    int n;
+    friend bool operator==( const SameHash&, const SameHash& ) = default;
+};
+
+} // namespace Velquin::Test
+
+template <>
+struct std::hash<Velquin::Test::SameHash> {
+    std::size_t operator()( const Velquin::Test::SameHash& ) const noexcept { return 7; }
+};
+
+namespace Velquin::Test {
 namespace {
 
 TEST( StrTokenize, Fields ) {
@@ -48,6 +63,17 @@ TEST( HashMapVector, KeepsOrderAndFirstValues ) {
                  testing::ElementsAre( testing::Pair( "z", 1 ), testing::Pair( "a", 2 ), testing::Pair( "m", 3 ) ) );
     EXPECT_EQ( map.find( "m" )->second, 3 );
     EXPECT_EQ( map.find( "b" ), map.end() );
+}
+
+TEST( HashMapVector, TellsKeysOfOneHashApart ) {
+    HashMapVector<SameHash, int> map;
+    for ( int n = 0; n < 20; ++n )
+        EXPECT_TRUE( map.insert( { n }, n * n ) );
+    EXPECT_FALSE( map.insert( { 7 }, 0 ) );
+    EXPECT_EQ( map.size(), 20u );
+    for ( int n = 0; n < 20; ++n )
+        EXPECT_EQ( map.find( { n } )->second, n * n );
+    EXPECT_EQ( map.find( { 20 } ), map.end() );
 }
 
 TEST( Xml, FindFunctionsSeeElementsOnly ) {

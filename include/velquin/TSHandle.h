@@ -39,7 +39,7 @@ public:
     TSHandle( const TSHandle<U>& in_hOther ) noexcept requires( std::is_convertible_v<U*, T*> )
         : TSHandle( in_hOther, in_hOther.get() ) {}
 
-    /// Shares the ownership of another handle, but refers to the given object, which the other handle must keep alive.
+    /// Shares the object of another handle, as another of its classes: the last handle deletes it through that one.
     template <class U>
     TSHandle( const TSHandle<U>& in_hOwner, T* in_pObject ) noexcept
         : m_pObject( in_pObject ), m_pCount( in_pObject ? in_hOwner.m_pCount : nullptr ) {

@@ -1,5 +1,8 @@
-#include "ConfigTest.h"
+#include <limits>
+#include <random>
+
 #include "Serializers.h"
+#include "SurveyRun.h"
 
 // Boards are written as they were read; nothing else is written. What libxml2 lacks the memory for stands elsewhere.
 
@@ -196,6 +199,57 @@ TEST( Writing, BoardsAreWrittenAsTheyWereRead ) {
     loadValid( second, TestDocument( strSecond ) );
     EXPECT_EQ( write( second ), strWritten );
     EXPECT_EQ( write( XmlConfig( second ) ), strWritten ) << "a copy";
+}
+
+// Boards that a program makes, with all that their setters take.
+TEST( Writing, BoardsThatAProgramMakesAreReadBack ) {
+    std::mt19937 random( 1 ); // the same boards each time, on each system
+    const auto choose = [&random]( const auto& in_aThings ) { return in_aThings[random() % std::size( in_aThings )]; };
+    static const char* const TEXTS[] = { "", "a", " a  b ", "<&>\"'", "\n\t\r", "]]>", "\u260e \U0001F4DE", "&amp;" };
+    static const char* const NAMES[] = { "Line", "a b", "0 1", "A" };
+    static constexpr unsigned long long SLOTS[] = { 0, 31, std::numeric_limits<unsigned long long>::max() };
+    constexpr unsigned int GREATEST = std::numeric_limits<unsigned int>::max();
+    const auto setBoard = [&]( BoardConfig& out_board, unsigned int in_uId ) {
+        out_board.setId( in_uId );
+        EXPECT_TRUE( out_board.setDisplayName( choose( NAMES ) ) && out_board.setModel( choose( TEXTS ) ) );
+        if ( random() % 2 == 0 )
+            out_board.setPCISlot( choose( SLOTS ) );
+        if ( random() % 2 == 0 )
+            out_board.setPCIBus( choose( SLOTS ) );
+    };
+    XmlConfig made;
+    unsigned int uTirpipe = GREATEST;
+    for ( unsigned int uBoard = 0; uBoard < 60; ++uBoard ) {
+        UniqueObjPtr<TirvanaDigitalBoardConfig> pDigital( new TirvanaDigitalBoardConfig() );
+        UniqueObjPtr<TirvanaAnalogBoardConfig> pAnalog( new TirvanaAnalogBoardConfig() );
+        setBoard( *pDigital, uBoard % 7 == 0 ? GREATEST - uBoard : uBoard );
+        setBoard( *pAnalog, uBoard );
+        pAnalog->setTirpipe( --uTirpipe );
+        for ( unsigned int uInterface = uBoard % 4; uInterface > 0; --uInterface ) {
+            UniqueObjPtr<TirvanaDigitalInterfaceConfig> pSpan( new TirvanaDigitalInterfaceConfig() );
+            pSpan->setId( uInterface );
+            pSpan->setTirpipe( --uTirpipe );
+            EXPECT_TRUE( pSpan->setDisplayName( choose( NAMES ) ) && pSpan->setBoardConfig( pDigital.get() ) );
+            EXPECT_TRUE( pDigital->addDigitalInterfaceConfig( pSpan.release() ) );
+            UniqueObjPtr<TirvanaAnalogInterfaceConfig> pPort( new TirvanaAnalogInterfaceConfig() );
+            pPort->setId( GREATEST - uInterface );
+            pPort->setTirpipeInterface( GREATEST - uInterface );
+            EXPECT_TRUE( pPort->setDisplayName( choose( NAMES ) ) && pPort->setBoardConfig( pAnalog.get() ) );
+            if ( random() % 2 == 0 ) {
+                pPort->setMediaType( AnalogInterfaceConfig::MediaType::FXS );
+                EXPECT_TRUE( pPort->setPhoneNumber( choose( TEXTS ) ) && pPort->setCallerName( choose( TEXTS ) ) );
+            }
+            EXPECT_TRUE( pAnalog->addAnalogInterfaceConfig( pPort.release() ) );
+        }
+        EXPECT_TRUE( made.addBoardConfig( pDigital.release() ) && made.addBoardConfig( pAnalog.release() ) );
+    }
+    // They lack physical configurations and call control: only a survey reads them all the same.
+    const TemporaryFile file( write( made ) );
+    const Velquin::Test::LogCapture quiet( Logger::ERROR_LEVEL );
+    Survey survey;
+    EXPECT_FALSE( survey.run( file.getPath().c_str(), ANY_SCHEMA.c_str() ) );
+    EXPECT_EQ( describeLines( survey.getConfig() ), describeLines( made ) );
+    EXPECT_EQ( write( survey.getConfig() ), write( made ) );
 }
 
 TEST( Writing, EmptyConfigurationsHaveEmptyBoards ) {
