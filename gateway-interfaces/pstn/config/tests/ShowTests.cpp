@@ -116,4 +116,25 @@ TEST( Diff, TellsWhatChanges ) {
     }
 }
 
+// Two keywords of an attribute that mean something else are two models.
+TEST( Diff, MissesNoKeyword ) {
+    unsigned int uDifferent = 0;
+    for ( const KeywordRow& row : getKeywordRows() ) {
+        const auto& [strFirst, nFirst] = row.vecKeywords.front();
+        const auto& [strLast, nLast] = row.vecKeywords.back();
+        const auto write = [&row]( const std::string& in_strKeyword ) {
+            TestDocument document( row.vecNeeds );
+            return document.edit( { row.strPath, row.strAttribute + "=\"" + in_strKeyword + "\"" } ).getText();
+        };
+        const TemporaryFile first( write( strFirst ) );
+        const TemporaryFile last( write( strLast ) );
+        const ToolResult result = runTool( "diff " + first.getPath() + " " + last.getPath() );
+        if ( result.nExitCode == 2 )
+            continue; // one of the two needs more than a keyword
+        EXPECT_EQ( result.nExitCode, nFirst == nLast ? 0 : 1 ) << row.strPath << ' ' << row.strAttribute;
+        uDifferent += result.nExitCode == 1 ? 1 : 0;
+    }
+    EXPECT_GT( uDifferent, 30U );
+}
+
 } // namespace Velquin::Pstn::Test
