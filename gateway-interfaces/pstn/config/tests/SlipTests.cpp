@@ -206,6 +206,45 @@ TEST( Slips, OfTheSyntaxAreFoundOnTheirLine ) {
     EXPECT_GT( uIllFormed, 1000U );
 }
 
+// A line with the start tag or the end tag of a holder is lost, or the start tag ends it. The indentation tells.
+TEST( Slips, OfWholeTagsAreFoundWhereTheyBelong ) {
+    static const std::regex s_begin( " +<[a-zA-Z0-9]+( [^>]*)?[^/]>" );
+    static const std::regex s_end( " +</[a-zA-Z0-9]+>" );
+    unsigned int uTags = 0;
+    for ( const char* const szExample : { "branch-office", "carrier-nfas", "e1-trunks", "every-attribute" } ) {
+        const std::vector<std::string> vecLines = split( readFile( EXAMPLES_FOLDER + "/" + szExample + ".xml" ), "\n" );
+        const auto surveyWith = [&]( std::size_t in_uLine, const std::string& in_strLine ) {
+            std::vector<std::string> vecChanged = vecLines;
+            if ( in_strLine.empty() )
+                vecChanged.erase( vecChanged.begin() + static_cast<std::ptrdiff_t>( in_uLine ) );
+            else
+                vecChanged[in_uLine] = in_strLine;
+            const SurveyResult result = survey( join( vecChanged ) );
+            EXPECT_EQ( result.vecMistakes.size(), 1U ) << result.strText;
+            return result;
+        };
+        for ( std::size_t uLine = 0; uLine < vecLines.size(); ++uLine ) {
+            const std::string& strLine = vecLines[uLine];
+            SCOPED_TRACE( szExample + ( ":" + std::to_string( uLine + 1 ) ) + strLine );
+            const bool bBegin = std::regex_match( strLine, s_begin );
+            if ( !bBegin && !std::regex_match( strLine, s_end ) )
+                continue;
+            ++uTags;
+            const Finding lost = surveyWith( uLine, "" ).vecMistakes.at( 0 );
+            ASSERT_EQ( lost.vecRelated.size(), 1U ) << describeFinding( lost );
+            const unsigned long long ullPlace = bBegin ? lost.span.ullLine : lost.vecRelated[0].span.ullLine;
+            EXPECT_GE( ullPlace, uLine + 1 ) << describeFinding( lost );
+            EXPECT_LE( ullPlace, uLine + 4 ) << describeFinding( lost ); // a comment may stand in front of the tag
+            if ( !bBegin )
+                continue;
+            const Finding ended =
+                surveyWith( uLine, strLine.substr( 0, strLine.size() - 1 ) + "/>" ).vecMistakes.at( 0 );
+            EXPECT_EQ( ended.span.ullLine, uLine + 1 ) << describeFinding( ended );
+        }
+    }
+    EXPECT_GT( uTags, 100U );
+}
+
 TEST( Slips, OfAnyTextHaveAPlaceInIt ) {
     static const std::vector<std::string> s_vecPieces{ "<a>",
                                                        "</a>",

@@ -21,6 +21,8 @@ constexpr NoAttribute NO_ATTRIBUTES[] = {
     { "<!--", "a comment can't stand inside a tag", "move it out of the tag" },
     { "/", "the character > must follow the / that ends a tag", "write />" },
     { "=", "no name stands in front of =", "write name=\"value\"" },
+    { "\"", "no name stands in front of this value", "write name=\"value\"" },
+    { "'", "no name stands in front of this value", "write name=\"value\"" },
     { "\\", "", "write / if it ends the tag, or remove it" },
     { "", "", "write a blank instead, or remove it" },
 };
@@ -126,6 +128,10 @@ bool Scanner::scanAttribute() {
                        { "write = between the name and the value" } );
     if ( isQuote( cBehind ) )
         return report( strName, { "no = stands between the name ", strName, " and its value" }, { "write it" } );
+    if ( uBehind == m_u + strName.size() && cBehind != '>' && cBehind != '/' ) { // no character of a name, and no blank
+        m_u = uBehind;
+        return reportNoName( true );
+    }
     return report( strName, { "attribute ", strName, " has no value" }, { "write ", strName, "=\"value\"" } );
 }
 

@@ -26,6 +26,7 @@ constexpr NoTag NO_TAGS[] = {
       "settle the conflict, and remove its marks <<<<<<<, ======= and >>>>>>>" },
     { "<!", "the characters <! don't begin a comment", "begin it with <!-- and end it with -->" },
     { "<-", "the characters <- don't begin a comment", "begin it with <!-- and end it with -->" },
+    { "<\\", "the characters <\\ begin no tag", "write </ if it is an end tag" },
     { "< ", NO_NAME, "remove the blank, or write &lt; for the character itself" },
     { "<", NO_NAME, "remove it, or write &lt; for the character itself" },
 };
@@ -169,15 +170,12 @@ bool SyntaxScan::scanStartTag() {
     m_u += strTag.size();
     if ( !scanTagAttributes( joinTexts( { "the start tag of ", strName } ), "> or />" ) )
         return false;
-    const std::string_view strEnd = getRest().substr( 0, 2 );
-    if ( strEnd[0] == '?' )
+    const std::string_view strEnd = getRest().substr( 0, getRest()[0] == '/' ? 2 : 1 );
+    if ( strEnd == "?" )
         return report( { strTag, "what begins with < can't end with ?>", joinTexts( { "write <?", strName } ),
-                         "the character ? stands here", strEnd.substr( 0, 1 ) } );
-    m_u += strEnd[0] == '/' ? 2 : 1;
-    if ( strEnd[0] == '/' )
-        m_open.addEnded( strName, strEnd );
-    else
-        m_open.open( strTag );
+                         "the character ? stands here", strEnd } );
+    m_u += strEnd.size();
+    m_open.begin( strTag, strEnd );
     m_finding = findAttributeTwice( m_vecAttributes );
     return !m_finding;
 }
