@@ -243,12 +243,18 @@ std::size_t SourceText::locateTag( std::size_t in_uBegin, const Place* in_pFirst
         if ( uQuote >= m_strText.size() )
             return m_strText.size();
         const std::size_t uClose = std::min( m_strText.find( m_strText[uQuote], uQuote + 1 ), m_strText.size() - 1 );
+        SourceSpan span;
+        SourceSpan valueSpan;
         for ( const Place* p = in_pFirst; p != in_pEnd; ++p ) {
             if ( p->strAttribute != strName )
                 continue;
-            *p->pSpan = getSpan( uName, uClose + 1 );
+            if ( span.ullLine == 0 ) {
+                span = getSpan( uName, uClose + 1 );
+                valueSpan = getSpan( uQuote + 1, uClose );
+            }
+            *p->pSpan = span;
             if ( p->pValueSpan )
-                *p->pValueSpan = getSpan( uQuote + 1, uClose );
+                *p->pValueSpan = valueSpan;
         }
         u = skipBlanks( uClose + 1 );
     }

@@ -20,6 +20,7 @@ std::string describeNumber( const xmlNode* in_pElement ) {
     return std::to_string( getElementNumber( in_pElement ) );
 }
 
+constexpr std::size_t MAX_CONFIGS = 10;     // of a line, which has one
 constexpr std::size_t MAX_WHOLE_BOARDS = 3; // one reference names a board as a whole, if any does
 
 /// The section of a reference, and its board.
@@ -40,8 +41,11 @@ std::size_t countChildren( const xmlNode* in_pElement ) {
 PhysicalConfigs::PhysicalConfigs( const xmlNode* in_pRoot ) {
     for ( const xmlNode* const pSection : ChildElements( in_pRoot, "physicalInterfaceConfigs" ) ) {
         for ( const xmlNode* const pElement : getTree( pSection ) ) {
-            if ( isReference( pElement ) )
-                m_mapConfigs.emplace( describeReference( pElement ), getChain( pElement )[1] );
+            if ( !isReference( pElement ) )
+                continue;
+            const std::string strLine = describeReference( pElement );
+            if ( m_mapConfigs.count( strLine ) < MAX_CONFIGS )
+                m_mapConfigs.emplace( strLine, getChain( pElement )[1] );
         }
     }
 }

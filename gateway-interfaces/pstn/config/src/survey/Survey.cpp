@@ -25,7 +25,6 @@ namespace Velquin::Pstn {
 
 namespace {
 
-constexpr std::size_t MAX_FINDINGS = 10'000; // a file made to harm could have one on each line
 constexpr std::size_t MAX_LOCATED = 5000;
 
 class SurveyLog {
@@ -203,7 +202,7 @@ bool Survey::Impl::run( const char* in_szConfigFile, const char* in_szSchemaFile
     Reading reading( m_config, record );
     {
         const FindingWatch watch( [&record]( const Finding& in_finding ) {
-            if ( record.vecFindings.size() < MAX_FINDINGS )
+            if ( record.vecFindings.size() < SurveyRecord::MAX_FINDINGS )
                 record.vecFindings.push_back( { in_finding } );
         } );
         bLoads = m_config.load( in_szConfigFile, in_szSchemaFile, in_bLogContent );

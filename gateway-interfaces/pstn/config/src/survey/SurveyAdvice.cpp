@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -43,7 +44,8 @@ public:
                 continue;
             m_bGroupsMayBeFilled = m_bGroupsMayBeFilled || mayFillGroups( item );
             if ( item.isMain() && item.is( Rules::NO_CALL_CONTROL ) )
-                m_vecWithoutCallControl.push_back( &item );
+                m_vecWithoutCallControl.push_back( { &item, getNumber( getParentElement( item.pElement ), "ID" ),
+                                                     getNumber( item.pElement, "ID" ), isAnalog( item.pElement ) } );
             if ( item.is( Rules::PHYSICAL_CONFIG_TWICE ) ) {
                 m_setCopies.insert( getElementNumber( getChain( item.pElement )[1] ) );
                 m_setBoardsTwice.insert( describeLine( item.pElement, getValue( item.pElement, "boardID" ), {} ) );
@@ -97,6 +99,13 @@ public:
     }
 
 private:
+    struct LineWithoutCallControl {
+        SurveyedFinding* pItem;
+        std::optional<unsigned int> uBoard;
+        std::optional<unsigned int> uLine;
+        bool bAnalog;
+    };
+
     /// Whether the advice is about a reference to a line that has call control elsewhere.
     static bool isAboutLineTwice( const Finding& in_advice ) {
         return in_advice.strRule == SPAN_IN_TWO_ISDN_GROUPS || in_advice.strRule == "port-in-two-configs" ||
@@ -106,22 +115,23 @@ private:
     /// Such a reference may have been meant for the line that nobody names: one of the same board, of the same number,
     /// or with the two exchanged. Without a number it may have been meant for all lines of any board.
     bool takeLineFrom( const Finding& in_advice ) {
-        for ( SurveyedFinding* const pItem : m_vecWithoutCallControl ) {
-            const xmlNode* const pLine = pItem->pElement;
-            const xmlNode* const pReference = getElement( in_advice.ullElement );
-            const auto uBoard = getNumber( getParentElement( pLine ), "ID" );
-            const auto uLine = getNumber( pLine, "ID" );
-            const auto uNamedBoard = getNumber( pReference, "boardID" );
-            const auto uNamedLine = getNumber( pReference, "interfaceID" );
-            const bool bMeant = !uNamedLine || ( pItem->finding.vecRelated.empty() &&
-                                                 ( uNamedBoard == uBoard || uNamedLine == uLine ||
-                                                   ( uNamedBoard == uLine && uNamedLine == uBoard ) ) );
-            if ( pItem->finding.bEcho || !bMeant || isAnalog( pLine ) != isAnalog( pReference ) )
-                continue;
-            pItem->finding.bEcho = true;
-            return true;
-        }
-        return false;
+        const xmlNode* const pReference = getElement( in_advice.ullElement );
+        const auto uBoard = getNumber( pReference, "boardID" );
+        const auto uLine = getNumber( pReference, "interfaceID" );
+        const bool bAnalog = isAnalog( pReference );
+        const auto it = std::find_if( m_vecWithoutCallControl.begin(), m_vecWithoutCallControl.end(),
+                                      [&]( const LineWithoutCallControl& in_line ) {
+                                          const Finding& finding = in_line.pItem->finding;
+                                          const bool bMeant =
+                                              !uLine || ( finding.vecRelated.empty() &&
+                                                          ( uBoard == in_line.uBoard || uLine == in_line.uLine ||
+                                                            ( uBoard == in_line.uLine && uLine == in_line.uBoard ) ) );
+                                          return !finding.bEcho && bMeant && bAnalog == in_line.bAnalog;
+                                      } );
+        if ( it == m_vecWithoutCallControl.end() )
+            return false;
+        it->pItem->finding.bEcho = true;
+        return true;
     }
 
     /// Whether the element is, or stands in, a reference to a line that is named twice.
@@ -141,8 +151,8 @@ private:
     }
 
     const xmlNode* m_pRoot;
-    std::vector<const xmlNode*> m_vecElements;                         ///< by their numbers, from the first on
-    std::vector<SurveyedFinding*> m_vecWithoutCallControl;             ///< each about one line
+    std::vector<const xmlNode*> m_vecElements; ///< by their numbers, from the first on
+    std::vector<LineWithoutCallControl> m_vecWithoutCallControl;
     std::set<std::pair<unsigned long long, std::string>> m_setRefused; ///< attributes, by their elements
     std::multimap<unsigned long long, SurveyedFinding*> m_mapTwice;    ///< by the ranges that share a channel
     std::set<unsigned long long> m_setCopies; ///< configurations and references that take lines of others
@@ -160,6 +170,8 @@ void addAdvice( const Config& in_config, SurveyRecord& inout_record ) {
     for ( const Finding& advice : vecAdvice )
         filter.look( advice );
     for ( Finding& advice : vecAdvice ) {
+        if ( inout_record.vecFindings.size() + vecTaken.size() == SurveyRecord::MAX_FINDINGS )
+            break;
         if ( filter.take( advice ) )
             vecTaken.push_back( { std::move( advice ) } );
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -30,6 +31,8 @@ struct SurveyedFinding {
 
 /// What a survey gathers while it reads a document.
 struct SurveyRecord {
+    static constexpr std::size_t MAX_FINDINGS = 10'000; ///< a file made to harm could have one on each line
+
     const xmlNode* pRoot = nullptr;
     std::vector<SurveyedFinding> vecFindings; ///< in the order in which they came
     std::vector<const xmlNode*> vecLost;      ///< entries that were left out, and elements that nobody reads
