@@ -29,8 +29,7 @@ bool AnalogDisconnectDetectorConfig::parseSequence( const char* in_szSequence ) 
         if ( vecParts.empty() || vecParts.size() > 2 ) {
             VELQUIN_REPORT( getLogger(),
                             ( Fault{ Rules::INVALID_SEQUENCE, "sequence", in_szSequence,
-                                     "each item between commas has at most one slash, as in "
-                                     "busy/3,silence" } ),
+                                     "no item between commas is empty or has two slashes: busy/3,silence" } ),
                             "Invalid sequence for disconnect supervison" );
             return false;
         }

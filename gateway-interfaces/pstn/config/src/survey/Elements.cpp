@@ -87,6 +87,10 @@ bool isReference( const xmlNode* in_pElement ) {
     return pParent && ( isNamed( pParent, "applyTo" ) || isNamed( pParent, "members" ) );
 }
 
+bool isWholeBoard( const xmlNode* in_pElement ) {
+    return isReference( in_pElement ) && getValue( in_pElement, "interfaceID" ).empty();
+}
+
 const xmlNode* getReference( const xmlNode* in_pElement ) {
     return isReference( in_pElement ) ? in_pElement : getParentElement( in_pElement );
 }

@@ -41,6 +41,8 @@ const xmlNode* findById( const std::vector<const xmlNode*>& in_vecElements, std:
 
 /// Whether the element names a board, or should: a reference of `applyTo`, a member of a group.
 bool isReference( const xmlNode* in_pElement );
+/// Whether it is a reference to all lines of a board.
+bool isWholeBoard( const xmlNode* in_pElement );
 
 /// The reference that puts channels into a group: the element, or for a range the one in which it stands.
 const xmlNode* getReference( const xmlNode* in_pElement );

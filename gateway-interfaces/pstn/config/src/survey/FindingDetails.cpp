@@ -90,20 +90,19 @@ bool isSwapped( const xmlNode* in_pReference, const xmlNode* in_pRoot ) {
 }
 
 constexpr const char* SWAPPED = "; boardID and interfaceID may be swapped";
+constexpr const char* WHOLE_BOARD = "without interfaceID, it means all lines of the board: name the one";
 
 void detailUnknownBoard( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
     Finding& finding = inout_item.finding;
     const bool bAnalog = isAnalog( inout_item.pElement );
-    const std::vector<const xmlNode*> vecOthers = getBoards( in_pRoot, !bAnalog );
-    if ( const xmlNode* const pOther = findById( vecOthers, finding.strValue ) ) {
-        finding.strHint = bAnalog ? "this board is digital" : "this board is analog";
-        relate( finding, "declared here", pOther, "ID" );
-        return;
-    }
     finding.strHint =
         describeMissing( bAnalog ? "analog board" : "digital board", finding.strValue, getBoards( in_pRoot, bAnalog ) );
-    if ( isSwapped( inout_item.pElement, in_pRoot ) )
+    if ( const xmlNode* const pOther = findById( getBoards( in_pRoot, !bAnalog ), finding.strValue ) ) {
+        finding.strHint += bAnalog ? "; a digital board has it" : "; an analog board has it";
+        relate( finding, "declared here", pOther, "ID" );
+    } else if ( isSwapped( inout_item.pElement, in_pRoot ) ) {
         finding.strHint += SWAPPED;
+    }
 }
 
 void detailUnknownInterface( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
@@ -165,7 +164,7 @@ void detailTirpipeTwice( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) 
 
 /// @param in_pScope the references in this element are looked through
 void relateFirstReference( SurveyedFinding& inout_item, const xmlNode* in_pScope, const char* in_szHint ) {
-    inout_item.finding.strHint = in_szHint;
+    inout_item.finding.strHint = isWholeBoard( inout_item.pElement ) ? WHOLE_BOARD : in_szHint;
     relateFirst( inout_item, getTree( in_pScope ), "boardID", [&inout_item]( const xmlNode* in_pOther ) {
         return isReference( in_pOther ) && meanOneLine( in_pOther, inout_item.pElement );
     } );
@@ -207,7 +206,9 @@ void detailSpanInTwoIsdnGroups( SurveyedFinding& inout_item, const xmlNode* ) {
 /// The range or, for analog lines, the reference that puts channels into a group.
 void detailChannelTwice( SurveyedFinding& inout_item, const xmlNode* ) {
     const xmlNode* const pElement = inout_item.pElement;
-    inout_item.finding.strHint = "a channel of this line is already in the group; name each channel once";
+    inout_item.finding.strHint = isWholeBoard( getReference( pElement ) )
+                                     ? WHOLE_BOARD
+                                     : "a channel of this line is already in the group; name each channel once";
     relateFirst( inout_item, getTree( getChain( pElement )[0] ), "channelGroupID",
                  [pElement]( const xmlNode* in_pOther ) { return shareChannel( in_pOther, pElement ); } );
 }
@@ -219,7 +220,7 @@ void relateLineTwice( SurveyedFinding& inout_item, const xmlNode* in_pRoot ) {
     std::map<std::pair<const xmlNode*, std::string>, const xmlNode*> mapFirst; // by the list, and what they name
     for ( const xmlNode* const pCallControl : ChildElements( in_pRoot, "callControl" ) ) {
         for ( const xmlNode* const pElement : getTree( pCallControl ) ) {
-            if ( !isReference( pElement ) || getValue( pElement, "interfaceID" ).empty() ||
+            if ( !isReference( pElement ) || isWholeBoard( pElement ) ||
                  describeLine( pElement, getValue( pElement, "boardID" ), {} ) != strBoard )
                 continue;
             const auto [it, bFirst] =
@@ -251,12 +252,11 @@ void detailMessage( SurveyedFinding& inout_item, const xmlNode* ) {
         { Rules::UNUSED_D_CHANNEL, "a DISABLED member must not have a D-channel",
           "make it PRIMARY or BACKUP, or take the D-channel out of its physical configuration" },
     };
-    for ( const Words& words : WORDS ) {
-        if ( !inout_item.is( words.szRule ) )
-            continue;
-        inout_item.finding.strMessage = words.szMessage;
-        inout_item.finding.strHint = words.szHint;
-    }
+    const Words* pWords = WORDS;
+    while ( !inout_item.is( pWords->szRule ) )
+        ++pWords;
+    inout_item.finding.strMessage = pWords->szMessage;
+    inout_item.finding.strHint = pWords->szHint;
 }
 
 struct Detail {

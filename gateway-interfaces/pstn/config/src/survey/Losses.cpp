@@ -12,6 +12,11 @@ namespace Velquin::Pstn {
 
 namespace {
 
+/// Whether it is a reference, also where it isn't read.
+bool namesLine( const xmlNode* in_pElement ) {
+    return isReference( in_pElement ) || !getValue( in_pElement, "boardID" ).empty();
+}
+
 /// Whether the entry in which the element stands has its list of references.
 bool hasReferences( const std::vector<const xmlNode*>& in_vecChain ) {
     // Lists of entries have none, and may be long.
@@ -128,13 +133,13 @@ void Losses::addDeclaration( const xmlNode* in_pElement ) {
 /// left to see, and none was read either, it may have meant any line.
 void Losses::addReferences( const xmlNode* in_pLost ) {
     const auto vecChain = getChain( in_pLost );
-    if ( const auto it = std::find_if( vecChain.begin(), vecChain.end(), &isReference ); it != vecChain.end() ) {
+    if ( const auto it = std::find_if( vecChain.begin(), vecChain.end(), &namesLine ); it != vecChain.end() ) {
         addReference( *it );
         return;
     }
     bool bAny = getReferenceRule( in_pLost ).empty() && !hasReferences( vecChain );
     for ( const xmlNode* const pElement : getTree( in_pLost ) ) {
-        if ( !isReference( pElement ) )
+        if ( !namesLine( pElement ) )
             continue;
         addReference( pElement );
         bAny = false;
