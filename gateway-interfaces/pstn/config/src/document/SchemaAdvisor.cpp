@@ -8,6 +8,7 @@
 
 #include "Suggestion.h"
 #include "document/Element.h"
+#include "document/StrayText.h"
 #include "reading/ChildElements.h"
 #include "reading/ElementReader.h"
 
@@ -202,8 +203,8 @@ bool SchemaAdvisor::adviseOnNamespaces( xmlNode* in_pElement, const SchemaConten
     return bFound || uAttributes > 0;
 }
 
-/// Reports texts between the children. One that lost its `<` may be a missing child, and one in an element that takes
-/// no children the only missing attribute.
+/// Reports texts between the children. One may be the tag of a missing child, and one in an element that takes no
+/// children the only missing attribute.
 /// @return whether there are any
 bool SchemaAdvisor::adviseOnText( Subject& inout_subject ) {
     const AttributeReader reader( inout_subject.pElement, m_logger, CHILD_WORDING );
@@ -222,12 +223,10 @@ bool SchemaAdvisor::adviseOnText( Subject& inout_subject ) {
             vecFaults[0].strAdvice = inout_subject.rules.describeValue( vecFaults[0].strAttribute, finding.strValue );
             continue;
         }
-        finding.strHint = "remove it: this format has attributes and elements only";
-        const std::string strWord = finding.strValue.substr( 0, finding.strValue.find_first_of( " \t=" ) );
-        if ( std::find( vecNames.begin(), vecNames.end(), strWord ) != vecNames.end() ) {
-            finding.strHint = "a < is missing in front of " + strWord;
-            std::erase( inout_subject.vecMissing, strWord );
-        }
+        StrayText stray = explainStrayText( fromXml( p->content ), vecNames, inout_subject.vecMissing );
+        std::erase( inout_subject.vecMissing, stray.strChild );
+        finding.strAttribute = std::move( stray.strChild );
+        finding.strHint = std::move( stray.strHint );
         const std::string strSubject = "Text \"" + finding.strValue + "\" in element " + reader.getName();
         reader.reportDeclared( strSubject, ".", std::move( finding ) );
     }

@@ -83,8 +83,8 @@ void markSecondReports( SurveyRecord& inout_record ) {
             setSeen.emplace( item.pElement, getMeant( finding ) );
         else if ( finding.eKind == Finding::Kind::UNKNOWN_ELEMENT )
             setSeen.emplace( getParentElement( item.pElement ), getMeant( finding ) );
-        else if ( item.is( Rules::UNEXPECTED_TEXT ) ) // a tag that lost its <
-            setSeen.emplace( item.pElement, finding.strValue.substr( 0, finding.strValue.find_first_of( " \t=" ) ) );
+        else if ( item.is( Rules::UNEXPECTED_TEXT ) && !finding.strAttribute.empty() ) // the tag of a child
+            setSeen.emplace( item.pElement, finding.strAttribute );
     }
     const auto hasAlternative = [&setSeen]( const SurveyedFinding& in_item ) {
         auto it = setSeen.lower_bound( { in_item.pElement, {} } );
@@ -95,7 +95,8 @@ void markSecondReports( SurveyRecord& inout_record ) {
     };
     std::set<const xmlNode*> setWithoutChild;
     for ( SurveyedFinding& item : inout_record.vecFindings ) {
-        if ( !item.isMain() || !item.pElement || item.finding.strAttribute.empty() )
+        if ( !item.isMain() || !item.pElement || item.finding.strAttribute.empty() ||
+             item.is( Rules::UNEXPECTED_TEXT ) )
             continue;
         const bool bSeen = ( item.is( Rules::MISSING_ELEMENT ) && hasAlternative( item ) ) ||
                            !setSeen.emplace( item.pElement, item.finding.strAttribute ).second;
