@@ -8,6 +8,7 @@
 namespace Velquin::Pstn {
 
 void OpenTags::addText( std::string_view in_strText ) {
+    constexpr std::size_t MAX_TEXTS = 1000; // a file made to harm could have millions
     const std::size_t uLine = in_strText.rfind( '\n' );
     const bool bBlank = in_strText.find_last_not_of( XML_BLANKS ) == std::string_view::npos ||
                         in_strText.find_last_not_of( XML_BLANKS ) < uLine;
@@ -19,7 +20,7 @@ void OpenTags::addText( std::string_view in_strText ) {
         return;
     const std::size_t uSlash = in_strText[uBegin] == '/' ? 1 : 0;
     const std::string_view strName = readName( in_strText.substr( uBegin + uSlash ) );
-    if ( !strName.empty() )
+    if ( !strName.empty() && m_mapTexts.size() < MAX_TEXTS )
         m_mapTexts[strName] = in_strText.substr( uBegin, uSlash + strName.size() );
 }
 
