@@ -93,7 +93,8 @@ void runCallback( void* in_pContext, Body in_body ) noexcept {
 
 void onError( void* in_pContext, XmlErrorPtr in_pError ) {
     // A file needs no valid document type: the schema decides. The blocks gather no identifiers to find fault with.
-    const bool bOnlyInvalid = ( in_pError->domain == XML_FROM_VALID || in_pError->domain == XML_FROM_DTD ) &&
+    const bool bOnlyInvalid = ( in_pError->domain == XML_FROM_VALID || in_pError->domain == XML_FROM_DTD ||
+                                in_pError->code == XML_DTD_XMLID_VALUE ) &&
                               in_pError->level < XML_ERR_FATAL;
     if ( ParseState::of( in_pContext ).bEnded || bOnlyInvalid )
         return;
