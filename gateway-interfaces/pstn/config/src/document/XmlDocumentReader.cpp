@@ -96,8 +96,13 @@ void onError( void* in_pContext, XmlErrorPtr in_pError ) {
     const bool bOnlyInvalid = ( in_pError->domain == XML_FROM_VALID || in_pError->domain == XML_FROM_DTD ||
                                 in_pError->code == XML_DTD_XMLID_VALUE ) &&
                               in_pError->level < XML_ERR_FATAL;
-    if ( ParseState::of( in_pContext ).bEnded || bOnlyInvalid )
+    if ( ParseState::of( in_pContext ).bEnded )
         return;
+    if ( bOnlyInvalid ) {
+        // Behind any error, later versions don't look for what follows the root element.
+        xmlCtxtResetLastError( in_pContext );
+        return;
+    }
     runCallback( in_pContext, [in_pError]( ParseState& inout_state ) {
         // Later versions warn of an entity that isn't declared, and read a value without it.
         const bool bError = in_pError->level >= XML_ERR_ERROR || in_pError->code == XML_WAR_UNDECLARED_ENTITY;
