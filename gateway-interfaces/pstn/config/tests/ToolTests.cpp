@@ -181,7 +181,7 @@ TEST( Tool, PrintsNothingThatATerminalObeys ) {
     for ( const std::string& strVerb : { std::string( "check --source " ), std::string( "show " ),
                                          std::string( "map " ), "diff " + COMPLETE + " " } ) {
         const std::string strOutput = runTool( strVerb + file.getPath() ).strOutput;
-        EXPECT_THAT( strOutput, testing::ContainsRegex( "a[?]2J[?]" ) ) << strVerb;
+        EXPECT_THAT( strOutput, HasSubstr( "a?2J?" ) ) << strVerb;
         for ( const char* const szObeyed : { "\xc2\x9b", "\xe2\x80\xae", "\nb" } )
             EXPECT_EQ( strOutput.find( szObeyed ), std::string::npos ) << strVerb;
     }
